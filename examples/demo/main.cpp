@@ -1,0 +1,90 @@
+#include "DemoScreens.h"
+
+#include "RibbonApplication.h"
+
+#include <QCommandLineParser>
+#include <QDir>
+#include <QPixmap>
+#include <QTabWidget>
+#include <QTextStream>
+#include <QWidget>
+
+#include <algorithm>
+#include <memory>
+
+std::vector<DemoScreen> &demoScreens()
+{
+    static std::vector<DemoScreen> screens;
+    return screens;
+}
+
+bool registerDemoScreen(DemoScreen screen)
+{
+    demoScreens().push_back(std::move(screen));
+    return true;
+}
+
+namespace {
+
+void sortScreens()
+{
+    auto &screens = demoScreens();
+    std::sort(screens.begin(), screens.end(), [](const DemoScreen &a, const DemoScreen &b) {
+        return a.order != b.order ? a.order < b.order : a.name < b.name;
+    });
+}
+
+int writeScreenshots(const QString &dir)
+{
+    QTextStream out(stdout);
+    if (!QDir().mkpath(dir)) {
+        out << "Cannot create " << dir << '\n';
+        return 1;
+    }
+    for (const DemoScreen &screen : demoScreens()) {
+        std::unique_ptr<QWidget> widget(screen.make());
+        if (!widget)
+            continue;
+        if (widget->size() == QSize(640, 480) && !widget->testAttribute(Qt::WA_Resized))
+            widget->resize(widget->sizeHint());
+        widget->show();
+        QCoreApplication::processEvents();
+        const QString file = QDir(dir).filePath(screen.name + QStringLiteral(".png"));
+        if (!widget->grab().save(file)) {
+            out << "Cannot write " << file << '\n';
+            return 1;
+        }
+        out << "  " << file << '\n';
+    }
+    out << "Screenshots written to " << QDir(dir).absolutePath() << '\n';
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    zel::RibbonApplication app(argc, argv);
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("zelRibbon demo host"));
+    parser.addHelpOption();
+    QCommandLineOption shots(QStringLiteral("screenshots"),
+                             QStringLiteral("Render every screen to a PNG file in <dir> and exit."),
+                             QStringLiteral("dir"));
+    parser.addOption(shots);
+    parser.process(app);
+
+    sortScreens();
+    if (parser.isSet(shots))
+        return writeScreenshots(parser.value(shots));
+
+    QTabWidget window;
+    window.setWindowTitle(QStringLiteral("zelRibbon demo"));
+    for (const DemoScreen &screen : demoScreens()) {
+        if (QWidget *widget = screen.make())
+            window.addTab(widget, screen.title);
+    }
+    window.resize(1200, 800);
+    window.show();
+    return app.exec();
+}
