@@ -11,7 +11,6 @@
     int main(int argc, char *argv[])                                \
     {                                                               \
         zel::RibbonApplication app(argc, argv);                     \
-        app.setAttribute(Qt::AA_Use96Dpi, false);                   \
         TestObject tc;                                              \
         QTEST_SET_MAIN_SOURCE_PATH                                  \
         return QTest::qExec(&tc, argc, argv);                       \
