@@ -1,0 +1,12 @@
+#include "RibbonMainTabBarStyle.h"
+
+namespace zel {
+
+RibbonMainTabBarStyle::RibbonMainTabBarStyle(QStyle *baseStyle)
+    : QProxyStyle(baseStyle)
+{
+}
+
+RibbonMainTabBarStyle::~RibbonMainTabBarStyle() = default;
+
+} // namespace zel

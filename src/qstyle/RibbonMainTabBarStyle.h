@@ -1,0 +1,19 @@
+#pragma once
+
+#include "zelribbon_export.h"
+
+#include <QProxyStyle>
+
+namespace zel {
+
+// Style of the main tab bar: flat tabs drawn from the palette's tab shape image.
+class ZELRIBBON_EXPORT RibbonMainTabBarStyle : public QProxyStyle
+{
+    Q_OBJECT
+public:
+    // Takes ownership of baseStyle; nullptr means the default base style.
+    explicit RibbonMainTabBarStyle(QStyle *baseStyle = nullptr);
+    ~RibbonMainTabBarStyle() override;
+};
+
+} // namespace zel
