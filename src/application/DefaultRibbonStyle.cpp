@@ -1,10 +1,361 @@
 #include "DefaultRibbonStyle.h"
 
+#include "RibbonApplication.h"
+
 namespace zel {
+
+namespace {
+
+// The colour names the style sheets are written with, as QColor::name() gives them.
+struct SheetColors
+{
+    QString accent;
+    QString groove;
+    QString handleHover;
+    QString grayBorder;
+    QString grayHover;
+    QString grayPressed;
+    QString blueBorder;
+    QString blueHover;
+    QString bluePressed;
+    QString blueSelected;
+    QString blueDark;
+    QString separator;
+    QString text;
+    QString lightGray;
+};
+
+// Height of a list row in logical pixels, scaled by the vertical resolution.
+QString rowHeightText(double pixelsAt96Dpi)
+{
+    return QString::number(RibbonApplication::theApp().dpiFactor().second * pixelsAt96Dpi);
+}
+
+QString greyScrollBarSheet(const SheetColors &c)
+{
+    QString sheet;
+    sheet += QLatin1String("QScrollBar:horizontal { background-color: ") + c.groove + QLatin1String("; height: 15px; margin: 0px 15px 0px 15px; }");
+    sheet += QLatin1String("QScrollBar::handle:horizontal { border: 1px solid; border-color: ") + c.grayHover + QLatin1String("; background-color: white; min-width: 15px; }");
+    sheet += QLatin1String("QScrollBar::handle:horizontal:hover { border-color: ") + c.grayHover + QLatin1String("; background-color: ") + c.handleHover + QLatin1String("; }");
+    sheet += QLatin1String("QScrollBar::handle:horizontal:pressed { border-color: ") + c.grayPressed + QLatin1String("; background-color: ") + c.handleHover + QLatin1String("; }");
+    sheet += QLatin1String("QScrollBar::add-line:horizontal { border: 1px solid; border-color: ") + c.grayHover + QLatin1String("; background-color: white; width: 15px; subcontrol-position: right; subcontrol-origin: margin; }");
+    sheet += QLatin1String("QScrollBar::add-line:horizontal:hover { border-color: ") + c.grayPressed + QLatin1String("; background-color: white; }");
+    sheet += QLatin1String("QScrollBar::add-line:horizontal:pressed { border-color: ") + c.grayPressed + QLatin1String("; background-color: ") + c.handleHover + QLatin1String("; }");
+    sheet += QLatin1String("QScrollBar::sub-line:horizontal { border: 1px solid; border-color: ") + c.grayHover + QLatin1String("; background-color: white; width: 15px; subcontrol-position: left; subcontrol-origin: margin; }");
+    sheet += QLatin1String("QScrollBar::sub-line:horizontal:hover { border-color: ") + c.grayPressed + QLatin1String("; background-color: white; }");
+    sheet += QLatin1String("QScrollBar::sub-line:horizontal:pressed { border-color: ") + c.grayPressed + QLatin1String("; background-color: ") + c.handleHover + QLatin1String("; }");
+    sheet += QLatin1String("QScrollBar::left-arrow { border-right: 4px solid ") + c.grayPressed + QLatin1String("; border-top: 4px solid none; border-bottom: 4px solid none; width: 0px; height: 0px; }");
+    sheet += QLatin1String("QScrollBar::left-arrow:hover { border-right: 4px solid ") + c.grayPressed + QLatin1String("; border-top: 4px solid none; border-bottom: 4px solid none; width: 0px; height: 0px; }");
+    sheet += QLatin1String("QScrollBar::left-arrow:pressed { border-right: 4px solid ") + c.grayPressed + QLatin1String("; border-top: 4px solid none; border-bottom: 4px solid none; width: 0px; height: 0px; }");
+    sheet += QLatin1String("QScrollBar::right-arrow { border-left: 4px solid ") + c.grayPressed + QLatin1String("; border-top: 4px solid none; border-bottom: 4px solid none; width: 0px; height: 0px; }");
+    sheet += QLatin1String("QScrollBar::right-arrow:hover { border-left: 4px solid ") + c.grayPressed + QLatin1String("; border-top: 4px solid none; border-bottom: 4px solid none; width: 0px; height: 0px; }");
+    sheet += QLatin1String("QScrollBar::right-arrow:pressed { border-left: 4px solid ") + c.grayPressed + QLatin1String("; border-top: 4px solid none; border-bottom: 4px solid none; width: 0px; height: 0px; }");
+    sheet += QLatin1String("QScrollBar::add-page:horizontal, QScrollBar::sub-page:horizontal { background: none; }");
+    sheet += QLatin1String("QScrollBar:vertical { background-color: ") + c.groove + QLatin1String("; width: 15px; margin: 15px 0px 15px 0px; }");
+    sheet += QLatin1String("QScrollBar::handle:vertical { border: 1px solid; border-color: ") + c.grayHover + QLatin1String("; background-color: white; min-height: 15px; }");
+    sheet += QLatin1String("QScrollBar::handle:vertical:hover { border-color: ") + c.grayHover + QLatin1String("; background-color: ") + c.handleHover + QLatin1String("; }");
+    sheet += QLatin1String("QScrollBar::handle:vertical:pressed { border-color: ") + c.grayPressed + QLatin1String("; background-color: ") + c.handleHover + QLatin1String("; }");
+    sheet += QLatin1String("QScrollBar::add-line:vertical { border: 1px solid; border-color: ") + c.grayHover + QLatin1String("; background-color: white; height: 15px; subcontrol-position: bottom; subcontrol-origin: margin; }");
+    sheet += QLatin1String("QScrollBar::add-line:vertical:hover { border-color: ") + c.grayPressed + QLatin1String("; background-color: white; }");
+    sheet += QLatin1String("QScrollBar::add-line:vertical:pressed { border-color: ") + c.grayPressed + QLatin1String("; background-color: ") + c.handleHover + QLatin1String("; }");
+    sheet += QLatin1String("QScrollBar::sub-line:vertical { border: 1px solid; border-color: ") + c.grayHover + QLatin1String("; background-color: white; height: 15px; subcontrol-position: top; subcontrol-origin: margin; }");
+    sheet += QLatin1String("QScrollBar::sub-line:vertical:hover { border-color: ") + c.grayPressed + QLatin1String("; background-color: white; }");
+    sheet += QLatin1String("QScrollBar::sub-line:vertical:pressed { border-color: ") + c.grayPressed + QLatin1String("; background-color: ") + c.handleHover + QLatin1String("; }");
+    sheet += QLatin1String("QScrollBar::up-arrow { border-left: 4px solid none; border-right: 4px solid none; border-bottom: 4px solid ") + c.grayPressed + QLatin1String("; width: 0px; height: 0px; }");
+    sheet += QLatin1String("QScrollBar::up-arrow:hover { border-left: 4px solid none; border-right: 4px solid none; border-bottom: 4px solid ") + c.grayPressed + QLatin1String("; width: 0px; height: 0px; }");
+    sheet += QLatin1String("QScrollBar::up-arrow:pressed { border-left: 4px solid none; border-right: 4px solid none; border-bottom: 4px solid ") + c.grayPressed + QLatin1String("; width: 0px; height: 0px; }");
+    sheet += QLatin1String("QScrollBar::down-arrow { border-left: 4px solid none; border-right: 4px solid none; border-top: 4px solid ") + c.grayPressed + QLatin1String("; width: 0px; height: 0px; }");
+    sheet += QLatin1String("QScrollBar::down-arrow:hover { border-left: 4px solid none; border-right: 4px solid none; border-top: 4px solid ") + c.grayPressed + QLatin1String("; width: 0px; height: 0px; }");
+    sheet += QLatin1String("QScrollBar::down-arrow:pressed { border-left: 4px solid none; border-right: 4px solid none; border-top: 4px solid ") + c.grayPressed + QLatin1String("; width: 0px; height: 0px; }");
+    sheet += QLatin1String("QScrollBar::add-page:vertical, QScrollBar::sub-page:vertical { background: none; }");
+    return sheet;
+}
+
+QString blueScrollBarSheet(const SheetColors &c)
+{
+    QString sheet;
+    sheet += QLatin1String("QScrollBar:vertical { background-color: ") + c.accent + QLatin1String("; width: 15px; margin: 15px 0px 15px 0px; }");
+    sheet += QLatin1String("QScrollBar::handle:vertical { border: 1px solid; border-color: white; background-color: ") + c.accent + QLatin1String(" ; min-height: 15px; }");
+    sheet += QLatin1String("QScrollBar::handle:vertical:hover { border-color: white; background-color: ") + c.accent + QLatin1String("; }");
+    sheet += QLatin1String("QScrollBar::handle:vertical:pressed { border-color: white; background-color: ") + c.accent + QLatin1String("; }");
+    sheet += QLatin1String("QScrollBar::add-line:vertical { border: 1px solid; border-color: white; background-color: ") + c.accent + QLatin1String("; height: 15px; subcontrol-position: bottom; subcontrol-origin: margin; }");
+    sheet += QLatin1String("QScrollBar::add-line:vertical:hover { border-color: white; background-color: ") + c.accent + QLatin1String("; }");
+    sheet += QLatin1String("QScrollBar::add-line:vertical:pressed { border-color: white; background-color: ") + c.accent + QLatin1String("; }");
+    sheet += QLatin1String("QScrollBar::sub-line:vertical { border: 1px solid; border-color: white; background-color: ") + c.accent + QLatin1String("; height: 15px; subcontrol-position: top; subcontrol-origin: margin; }");
+    sheet += QLatin1String("QScrollBar::sub-line:vertical:hover { border-color: white; background-color: ") + c.accent + QLatin1String("; }");
+    sheet += QLatin1String("QScrollBar::sub-line:vertical:pressed { border-color: white; background-color: ") + c.accent + QLatin1String("; }");
+    sheet += QLatin1String("QScrollBar::up-arrow { border-left: 4px solid none; border-right: 4px solid none; border-bottom: 4px solid white; width: 0px; height: 0px; }");
+    sheet += QLatin1String("QScrollBar::up-arrow:hover { border-left: 4px solid none; border-right: 4px solid none; border-bottom: 4px solid white; width: 0px; height: 0px; }");
+    sheet += QLatin1String("QScrollBar::up-arrow:pressed { border-left: 4px solid none; border-right: 4px solid none; border-bottom: 4px solid white; width: 0px; height: 0px; }");
+    sheet += QLatin1String("QScrollBar::down-arrow { border-left: 4px solid none; border-right: 4px solid none; border-top: 4px solid white; width: 0px; height: 0px; }");
+    sheet += QLatin1String("QScrollBar::down-arrow:hover { border-left: 4px solid none; border-right: 4px solid none; border-top: 4px solid white; width: 0px; height: 0px; }");
+    sheet += QLatin1String("QScrollBar::down-arrow:pressed { border-left: 4px solid none; border-right: 4px solid none; border-top: 4px solid white; width: 0px; height: 0px; }");
+    sheet += QLatin1String("QScrollBar::add-page:vertical, QScrollBar::sub-page:vertical { background: none; }");
+    return sheet;
+}
+
+QString lineEditSheet(const SheetColors &c)
+{
+    QString sheet;
+    sheet += QLatin1String("QLineEdit { border: 1px solid; border-color: ") + c.grayBorder + QLatin1String("; background-color: white; }");
+    sheet += QLatin1String("QLineEdit:focus { border-color: ") + c.blueBorder + QLatin1String("; }");
+    return sheet;
+}
+
+QString toolButtonSheet(const SheetColors &c)
+{
+    QString sheet;
+    sheet += QLatin1String("QToolButton { border: 1px solid; border-color: ") + c.grayBorder + QLatin1String("; background-color: white; }");
+    sheet += QLatin1String("QToolButton:hover { border-left: 1px solid; border-bottom: 1px solid; border-color: ") + c.blueBorder + QLatin1String("; width: 15px; height: 10px; background-color: ") + c.blueHover + QLatin1String("; }");
+    sheet += QLatin1String("QToolButton:pressed { border-left: 1px solid; border-bottom: 1px solid; border-color: ") + c.blueBorder + QLatin1String("; width: 15px; height: 10px; background-color: ") + c.bluePressed + QLatin1String("; }");
+    return sheet;
+}
+
+QString spinBoxSheet(const SheetColors &c)
+{
+    QString sheet;
+    sheet += QLatin1String("QSpinBox { border: 1px solid; border-color: ") + c.grayBorder + QLatin1String("; background-color: white; }");
+    sheet += QLatin1String("QSpinBox:hover { border-color: ") + c.blueBorder + QLatin1String("; }");
+    sheet += QLatin1String("QSpinBox::up-arrow { border-left: 4px solid none; border-right: 4px solid none; border-bottom: 4px solid ") + c.grayPressed + QLatin1String("; width: 0px; height: 0px; }");
+    sheet += QLatin1String("QSpinBox::up-arrow:hover { border-left: 4px solid none; border-right: 4px solid none; border-bottom: 4px solid ") + c.grayPressed + QLatin1String("; width: 0px; height: 0px; }");
+    sheet += QLatin1String("QSpinBox::up-arrow:pressed { border-left: 4px solid none; border-right: 4px solid none; border-bottom: 4px solid ") + c.grayPressed + QLatin1String("; width: 0px; height: 0px; }");
+    sheet += QLatin1String("QSpinBox::up-button { width: 16px; background-color: white; }");
+    sheet += QLatin1String("QSpinBox::up-button:hover { border-left: 1px solid; border-bottom: 1px solid; border-color: ") + c.blueBorder + QLatin1String("; width: 15px; height: 10px; background-color: ") + c.blueHover + QLatin1String("; }");
+    sheet += QLatin1String("QSpinBox::up-button:pressed { border-left: 1px solid; border-bottom: 1px solid; border-color: ") + c.blueBorder + QLatin1String("; width: 15px; height: 10px; background-color: ") + c.bluePressed + QLatin1String("; }");
+    sheet += QLatin1String("QSpinBox::down-arrow { border-left: 4px solid none; border-right: 4px solid none; border-top: 4px solid ") + c.grayPressed + QLatin1String("; width: 0px; height: 0px; }");
+    sheet += QLatin1String("QSpinBox::down-arrow:hover { border-left: 4px solid none; border-right: 4px solid none; border-top: 4px solid ") + c.grayPressed + QLatin1String("; width: 0px; height: 0px; }");
+    sheet += QLatin1String("QSpinBox::down-arrow:pressed { border-left: 4px solid none; border-right: 4px solid none; border-top: 4px solid ") + c.grayPressed + QLatin1String("; width: 0px; height: 0px; }");
+    sheet += QLatin1String("QSpinBox::down-button { width: 16px; background-color: white; }");
+    sheet += QLatin1String("QSpinBox::down-button:hover { border-left: 1px solid; border-top: 1px solid; border-color: ") + c.blueBorder + QLatin1String("; width: 15px; height: 10px; background-color: ") + c.blueHover + QLatin1String("; }");
+    sheet += QLatin1String("QSpinBox::down-button:pressed { border-left: 1px solid; border-top: 1px solid; border-color: ") + c.blueBorder + QLatin1String("; width: 15px; height: 10px; background-color: ") + c.bluePressed + QLatin1String("; }");
+    return sheet;
+}
+
+QString dateEditSheet(const SheetColors &c)
+{
+    QString sheet;
+    sheet += QLatin1String("QDateEdit { border: 1px solid; border-color: ") + c.grayBorder + QLatin1String("; background-color: white; }");
+    sheet += QLatin1String("QDateEdit:focus { border-color: ") + c.blueBorder + QLatin1String("; }");
+    sheet += QLatin1String("QDateEdit::down-arrow { border-left: 4px solid none; border-right: 4px solid none; border-top: 4px solid ") + c.text + QLatin1String("; width: 0px; height: 0px; }");
+    sheet += QLatin1String("QDateEdit::down-arrow:focus { border-left: 4px solid none; border-right: 4px solid none; border-top: 4px solid ") + c.text + QLatin1String("; width: 0px; height: 0px; }");
+    sheet += QLatin1String("QDateEdit::drop-down { background-color: white; }");
+    return sheet;
+}
+
+QString listWidgetRules(const SheetColors &c, const QString &rowHeight)
+{
+    QString sheet;
+    sheet += QLatin1String("QListWidget { border-right: 1px solid ") + c.separator + QLatin1String("; font: 11pt \"Segoe UI\"; color: ") + c.text + QLatin1String("; }");
+    sheet += QLatin1String("QListWidget::item { border: 0px solid white; height: ") + rowHeight + QLatin1String("px; }");
+    sheet += QLatin1String("QListWidget::item:selected:!active { background: ") + c.blueBorder + QLatin1String("; color: ") + c.text + QLatin1String("; }");
+    sheet += QLatin1String("QListWidget::item:hover { background: ") + c.blueHover + QLatin1String("; }");
+    sheet += QLatin1String("QListWidget::item:disabled { background: transparent; }");
+    return sheet;
+}
+
+QString listWidgetBorderRules(const SheetColors &c)
+{
+    QString sheet;
+    sheet += QLatin1String("QListWidget { border: 1px solid ") + c.lightGray + QLatin1String("; }");
+    return sheet;
+}
+
+QString comboBoxRules(const SheetColors &c)
+{
+    QString sheet;
+    sheet += QLatin1String("QComboBox { font: 9pt \"Segoe UI\"; color: ") + c.text + QLatin1String("; border: 1px solid; border-color: ") + c.grayBorder + QLatin1String("; background-color: white; }");
+    sheet += QLatin1String("QComboBox:hover { border-color: ") + c.blueBorder + QLatin1String("; background-color: ") + c.blueHover + QLatin1String("; }");
+    sheet += QLatin1String("QComboBox:pressed { border-color: ") + c.blueBorder + QLatin1String("; background-color: ") + c.bluePressed + QLatin1String("; }");
+    sheet += QLatin1String("QComboBox::drop-down { border-width: 0px; }");
+    sheet += QLatin1String("QComboBox::down-arrow { border-left: 4px solid none; border-right: 4px solid none; border-top: 4px solid ") + c.text + QLatin1String("; width: 0px; height: 0px; }");
+    sheet += QLatin1String("QComboBox::down-arrow::hover { border-left: 4px solid none; border-right: 4px solid none; border-top: 4px solid ") + c.text + QLatin1String("; width: 0px; height: 0px; }");
+    sheet += QLatin1String("QComboBox::down-arrow::pressed { border-left: 4px solid none; border-right: 4px solid none; border-top: 4px solid ") + c.text + QLatin1String("; width: 0px; height: 0px; }");
+    sheet += QLatin1String("QComboBox QAbstractItemView { font: 9pt \"Segoe UI\"; color: ") + c.text + QLatin1String("; outline: 0px; border: 1px solid ") + c.grayBorder + QLatin1String(";selection-color: ") + c.text + QLatin1String("; selection-background-color: ") + c.blueHover + QLatin1String("; }");
+    sheet += QLatin1String("QComboBox QAbstractItemView::item { border: 1px solid white; }");
+    return sheet;
+}
+
+QString mainLeftListSheet(const SheetColors &c, const QString &rowHeight)
+{
+    QString sheet;
+    sheet += QLatin1String("QListWidget {spacing: 0; background-color: ") + c.accent + QLatin1String("; border: 0px solid none; font: 9pt \"Segoe UI\"; color: white;}");
+    sheet += QLatin1String("QListWidget::item { border: 0px solid white; height: ") + rowHeight + QLatin1String("px; }");
+    sheet += QLatin1String("QListWidget::item:selected:!active { background: ") + c.blueSelected + QLatin1String("; color: white; }");
+    sheet += QLatin1String("QListWidget::item:hover { background: ") + c.blueDark + QLatin1String("; color: white; }");
+    sheet += QLatin1String("QListWidget::item:disabled { background: ") + c.accent + QLatin1String("; color: ") + c.blueSelected + QLatin1String("; }");
+    return sheet;
+}
+
+QString welcomeRecentListSheet(const SheetColors &c)
+{
+    QString sheet;
+    sheet += QLatin1String("QListView { background-color: ") + c.accent + QLatin1String("; }");
+    sheet += QLatin1String("QListView { alternate-background-color: white; }");
+    sheet += QLatin1String("QListView::item:selected:!active { background: ") + c.blueSelected + QLatin1String("; }");
+    sheet += QLatin1String("QListView::item:selected:active { background: ") + c.blueSelected + QLatin1String("; }");
+    sheet += QLatin1String("QListView::item:hover { background: ") + c.blueDark + QLatin1String("; }");
+    return sheet;
+}
+
+QString openRecentListSheet(const SheetColors &c)
+{
+    QString sheet;
+    sheet += QLatin1String("QListView { background-color: white; }");
+    sheet += QLatin1String("QListView { alternate-background-color: ") + c.text + QLatin1String("; }");
+    sheet += QLatin1String("QListView::item:selected:!active { background: ") + c.blueBorder + QLatin1String("; }");
+    sheet += QLatin1String("QListView::item:selected:active { background: ") + c.blueBorder + QLatin1String("; }");
+    sheet += QLatin1String("QListView::item:hover { background: ") + c.blueHover + QLatin1String("; }");
+    return sheet;
+}
+
+} // namespace
 
 DefaultRibbonStyle::DefaultRibbonStyle(const QString &imagePath)
 {
-    Q_UNUSED(imagePath)
+    m_mainClientColor = QColor(240, 240, 240);
+    m_activeTextColor = QColor(92, 98, 106);
+    m_inactiveTextColor = QColor(138, 138, 138);
+    m_activeTitleTextColor = QColor(53, 110, 170);
+    m_inactiveTitleTextColor = QColor(138, 138, 138);
+    m_normalCategoryTextColor = QColor(76, 83, 92);
+    m_highlightedCategoryTextColor = QColor(76, 83, 92);
+    m_disabledCategoryTextColor = QColor(167, 167, 167);
+    m_categoryCaptionTextColor = QColor(83, 84, 89);
+    m_categoryWrapperCaptionTextColor = QColor(76, 83, 92);
+    m_frameOutlineColor = QColor(QStringLiteral("#828790"));
+    m_frameNormalFillColor = QColor(240, 240, 240);
+    m_frameHighlightedFillColor = QColor(240, 241, 242);
+    m_frameSunkenColor = QColor(37, 37, 37);
+    m_frameRaiseColor = QColor(204, 204, 204);
+    m_fileMenuBarTextColor = QColor(255, 255, 255);
+    m_separatorColor = QColor(229, 229, 229);
+    m_frameBorderColor = QColor(QStringLiteral("#2B579A"));
+    m_categoryColorUnderButton = QColor(QStringLiteral("#FAFAFA"));
+    m_mainMenuBgColor = QColor(QStringLiteral("#FAFAFA"));
+    m_statusBarTextColor = QColor(Qt::white);
+
+    // A file missing from imagePath leaves a null pixmap, which painting code skips.
+    const auto image = [&imagePath](const QString &fileName) { return QPixmap(imagePath + fileName); };
+    m_mainBorder = image(QStringLiteral("MainBorder.png"));
+    m_mainBorderCaption = image(QStringLiteral("MainBorderCaption.png"));
+    m_statusBar = image(QStringLiteral("StatusBar.png"));
+    m_sysBtnBack = image(QStringLiteral("SysBtnBack.png"));
+    m_toolBoxTabBack = image(QStringLiteral("ToolBoxBack.png"));
+    m_sysBtnClose = image(QStringLiteral("SysBtnClose.png"));
+    m_sysBtnCloseSmall = image(QStringLiteral("SysBtnCloseSmall.png"));
+    m_sysBtnMaximize = image(QStringLiteral("SysBtnMaximize.png"));
+    m_sysBtnMaximizeSmall = image(QStringLiteral("SysBtnMaximizeSmall.png"));
+    m_sysBtnMinimize = image(QStringLiteral("SysBtnMinimize.png"));
+    m_sysBtnMinimizeSmall = image(QStringLiteral("SysBtnMinimizeSmall.png"));
+    m_sysBtnRestore = image(QStringLiteral("SysBtnRestore.png"));
+    m_sysBtnRestoreSmall = image(QStringLiteral("SysBtnRestoreSmall.png"));
+    m_normalButtonSmall = image(QStringLiteral("NormalButtonSmall.png"));
+    m_menuBarButton = image(QStringLiteral("MenuBarButton.png"));
+    m_fileBarButton = image(QStringLiteral("FileRibbonMenuBarButton.png"));
+    m_categories = image(QStringLiteral("Categories.png"));
+    m_categoryTop = image(QStringLiteral("CategoryTop.png"));
+    m_categoryBottom = image(QStringLiteral("CategoryBottom.png"));
+    m_categoryWrapperBack = image(QStringLiteral("CategoryWrapperBack.png"));
+    m_categoryWrapperIcon = image(QStringLiteral("CategoryWrapperIcon.png"));
+    m_mainPanelBack = image(QStringLiteral("MainPanelBack.png"));
+    m_horizontalMenuButtonCaption = image(QStringLiteral("HMenuButtonCaption.png"));
+    m_horizontalMenuButtonMenu = image(QStringLiteral("HMenuButtonMenu.png"));
+    m_verticalMenuButtonCaption = image(QStringLiteral("VMenuButtonCaption.png"));
+    m_verticalMenuButtonMenu = image(QStringLiteral("VMenuButtonMenu.png"));
+    m_mainPanelBorder = image(QStringLiteral("MainPanelBorder.png"));
+    m_mainPanelSeparator = image(QStringLiteral("MainPanelSeparator.png"));
+    m_mainPanelButton = image(QStringLiteral("MainPanelButton.png"));
+    m_paletteBtnTop = image(QStringLiteral("PaletteButtonTop.png"));
+    m_paletteBtnMiddle = image(QStringLiteral("PaletteButtonMiddle.png"));
+    m_paletteBtnBottom = image(QStringLiteral("PaletteButtonBottom.png"));
+    m_paletteItemLarge = image(QStringLiteral("PaletteItemLarge.png"));
+    m_paletteItemSmall = image(QStringLiteral("PaletteItemSmall.png"));
+    m_popupBorder = image(QStringLiteral("PopupBorder.png"));
+    m_popupResizeBarBack = image(QStringLiteral("PopupResizeBarBack.png"));
+    m_popupResizeBarIconB = image(QStringLiteral("PopupResizeBarIconB.png"));
+    m_popupResizeBarIconBR = image(QStringLiteral("PopupResizeBarIconBR.png"));
+    m_popupResizeBarIconTR = image(QStringLiteral("PopupResizeBarIconTR.png"));
+    m_checkableMenuItemBack = image(QStringLiteral("CheckableMenuItemBack.png"));
+    m_tabBarTabs = image(QStringLiteral("TabBarTabs.png"));
+    m_sliderPlus = image(QStringLiteral("SliderPlus.png"));
+    m_sliderMinus = image(QStringLiteral("SliderMinus.png"));
+    m_sliderThumb = image(QStringLiteral("SliderThumb.png"));
+    m_btnGroupFirst = image(QStringLiteral("BtnGroupFirst.png"));
+    m_btnGroupMidle = image(QStringLiteral("BtnGroupMidle.png"));
+    m_btnGroupLast = image(QStringLiteral("BtnGroupLast.png"));
+    m_comboBox = image(QStringLiteral("ComboBox.png"));
+    m_tabBarTabShape = image(QStringLiteral("MenuPaneBarButton.png"));
+    m_tooltipBack = image(QStringLiteral("TooltipBack.png"));
+    m_terminateButton = image(QStringLiteral("TerminateButton.png"));
+
+    m_backstageSimpleButtonColor = QColor(253, 253, 253);
+    m_backstageBlackTextColor = QColor(38, 38, 38);
+    m_backstageGrayBorderColor = QColor(181, 181, 181);
+    m_backstageGrayBorderHoverColor = QColor(171, 171, 171);
+    m_backstageGrayBorderPressedColor = QColor(118, 118, 118);
+    m_backstageBlueBorderHoverColor = QColor(122, 176, 231);
+    m_backstageBlueBorderPressedColor = QColor(122, 176, 231);
+    m_backstageBlueHoverColor = QColor(213, 225, 242);
+    m_backstageBluePressedColor = QColor(163, 189, 227);
+    m_backstageSeparatorColor = QColor(225, 225, 225);
+    m_backstageScrollHandleHoverColor = QColor(240, 240, 240);
+    m_backstageScrollGrooveColor = QColor(243, 243, 243);
+    m_backstageTextColor = QColor(68, 68, 68);
+    m_backstageLabelTextColor = QColor(68, 68, 68);
+    m_backstageLightGrayColor = QColor(238, 238, 238);
+    m_backstageBlueItemHoverColor = QColor(25, 71, 138);
+    m_backstageBlueItemSelectedColor = QColor(62, 109, 181);
+    m_backstagePrintPreviewBorderColor = QColor(192, 192, 192);
+
+    SheetColors c;
+    c.accent = m_frameBorderColor.name();
+    c.groove = m_backstageScrollGrooveColor.name();
+    c.handleHover = m_backstageScrollHandleHoverColor.name();
+    c.grayBorder = m_backstageGrayBorderColor.name();
+    c.grayHover = m_backstageGrayBorderHoverColor.name();
+    c.grayPressed = m_backstageGrayBorderPressedColor.name();
+    c.blueBorder = m_backstageBlueBorderHoverColor.name();
+    c.blueHover = m_backstageBlueHoverColor.name();
+    c.bluePressed = m_backstageBluePressedColor.name();
+    c.blueSelected = m_backstageBlueItemSelectedColor.name();
+    c.blueDark = m_backstageBlueItemHoverColor.name();
+    c.separator = m_backstageSeparatorColor.name();
+    c.text = m_backstageTextColor.name();
+    c.lightGray = m_backstageLightGrayColor.name();
+
+    const QString scrollBars = greyScrollBarSheet(c);
+    m_backstageLineEditStyle = lineEditSheet(c);
+    m_backstageToolButtonStyle = toolButtonSheet(c);
+    m_backstageScrollBarStyle = scrollBars;
+    m_backstageScrollBarStyleBlue = blueScrollBarSheet(c);
+    m_backstageSpinBoxStyle = spinBoxSheet(c);
+    m_backstageDateEditStyle = dateEditSheet(c);
+    m_backstageListWidgetStyle = listWidgetRules(c, rowHeightText(55.0)) + scrollBars;
+    m_backstageListWidgetWithBorderStyle = m_backstageListWidgetStyle + listWidgetBorderRules(c);
+    m_backstageMenuStyle = comboBoxRules(c) + scrollBars;
+    m_backstageTextEditStyle = QLatin1String("border: 1px solid rgb(198, 198, 198); font: 11pt \"Segoe UI\"; color: rgb(100, 100, 100);");
+    m_backstageLabelXLargeStyle = QLatin1String("font: 30pt \"Segoe UI Light\"; color: ") + c.text + QLatin1String(";");
+    m_backstageLabelXLargeWhiteStyle = QLatin1String("font: 30pt \"Segoe UI Light\"; color: white;");
+    m_backstageLabelLargeRecentWhiteStyle = QLatin1String("font: 16pt \"Segoe UI\"; color: white;");
+    m_backstageLabelLargeStyle = QLatin1String("font: 16pt \"Segoe UI\"; color: ") + c.text + QLatin1String(";");
+    m_backstageLabelLargeWhiteStyle = QLatin1String("font: 16pt \"Segoe UI\"; color: white;");
+    m_backstageLabelLargeBlueStyle = QLatin1String("font: 16pt \"Segoe UI\"; color: ") + c.accent + QLatin1String(";");
+    m_backstageLabelMediumStyle = QLatin1String("font: 13pt \"Segoe UI\"; color: ") + c.text + QLatin1String(";");
+    m_backstageLabelSmallStyle = QLatin1String("font: 11pt \"Segoe UI\"; color: ") + c.text + QLatin1String(";");
+    m_backstageLabelSmallWhiteStyle = QLatin1String("font: 11pt \"Segoe UI Semibold\"; color: white;");
+    m_backstageLabelSmallUnderlineStyle = QLatin1String("font: 11pt \"Segoe UI Semibold\"; color: rgb(100, 100, 100);border-left: 0px solid none; border-right: 0px solid none; border-top: 0px solid none; border-bottom: 1px solid rgb(100, 100, 100);");
+    m_backstageLabelSmallNotUnderlineStyle = QLatin1String("font: 11pt \"Segoe UI Semibold\"; color: rgb(100, 100, 100);border-left: 0px solid none; border-right: 0px solid none; border-top: 0px solid none; border-bottom: 0px solid rgb(100, 100, 100);");
+    m_backstageLabelXSmallNotUnderlineStyle = QLatin1String("font: 9pt \"Segoe UI\"; color: ") + c.text + QLatin1String(";");
+    m_backstageLabelXSmallUnderlineStyle = QLatin1String("font: 9pt \"Segoe UI\"; color: ") + c.text + QLatin1String(";border-left: 0px solid none; border-right: 0px solid none; border-top: 0px solid none; border-bottom: 1px solid rgb(100, 100, 100);");
+    m_backstageLabelXSmallWhiteStyle = QLatin1String("font: 9pt \"Segoe UI\"; color: white;");
+    m_backstageLabelXSmallGrayStyle = QLatin1String("font: 9pt \"Segoe UI\"; color: ") + c.text + QLatin1String(";background-color: ") + c.lightGray + QLatin1String(";");
+    m_backstageMainLeftListWidget = mainLeftListSheet(c, rowHeightText(38.0));
+    m_backstageWelcomeRecentListWidgetStyle = welcomeRecentListSheet(c);
+    m_backstageOpenRecentListWidgetStyle = openRecentListSheet(c);
+
+    m_backstageSmallFont = QFont(QStringLiteral("Segoe UI"), 11);
+    m_backstageXSmallFont = QFont(QStringLiteral("Segoe UI"), 9);
+    m_backstageXSmallBoldFont = QFont(QStringLiteral("Segoe UI Semibold"), 9);
 }
 
 DefaultRibbonStyle::~DefaultRibbonStyle() = default;
