@@ -45,6 +45,12 @@ int RibbonPlatform::captionHeight()
     return scaledByScreen(kCaptionAt96Dpi);
 }
 
+QRect RibbonPlatform::availableGeometry()
+{
+    const QScreen *screen = QGuiApplication::primaryScreen();
+    return screen ? screen->availableGeometry() : QRect();
+}
+
 bool RibbonPlatform::isVistaOrLater()
 {
     return true;

@@ -2,6 +2,7 @@
 
 #include "zelribbon_export.h"
 
+#include <QRect>
 #include <QString>
 
 class QStyle;
@@ -23,6 +24,10 @@ public:
     // in device-independent pixels at the current screen resolution.
     static int sizingFrameThickness();
     static int captionHeight();
+
+    // The part of the default screen not taken by task bars and docks, in global
+    // coordinates; a null rectangle when there is no screen.
+    static QRect availableGeometry();
 
     // Whether the desktop belongs to the generation that introduced translucent frames.
     // Decides the base look and how a maximised frameless window overhangs the work area.

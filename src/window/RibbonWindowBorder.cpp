@@ -1,0 +1,407 @@
+#include "RibbonWindowBorder.h"
+#include "RibbonWindowBorder_p.h"
+
+#include "RibbonPlatform.h"
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QTimer>
+
+#include <algorithm>
+
+namespace zel {
+
+namespace {
+
+const char kItemName[] = "BorderItem";
+
+// How long the items wait after an activation or state change before they show again:
+// long enough for the window manager to finish raising or restoring the window.
+const int kDelayedUpdateMs = 400;
+
+// The items are top-level windows, so something outside the border (a host that deletes
+// every top-level widget, say) may destroy one first. The deleter remembers whether the
+// item is still alive, and the border skips the ones that are gone.
+struct ItemDeleter
+{
+    QPointer<QWidget> guard;
+    template<class T>
+    void operator()(T *) const
+    {
+        delete guard.data();
+    }
+};
+
+template<class T>
+bool isAlive(const std::shared_ptr<T> &item)
+{
+    const ItemDeleter *deleter = std::get_deleter<ItemDeleter>(item);
+    return deleter && deleter->guard;
+}
+
+bool isBorderItem(const QWidget *widget)
+{
+    return widget && widget->objectName() == QLatin1String(kItemName);
+}
+
+} // namespace
+
+// BorderItem
+
+RibbonWindowBorder::BorderItem::BorderItem(QWidget *w, int pos, bool onTop)
+    : QWidget(nullptr, Qt::Tool | Qt::FramelessWindowHint)
+    , position(pos)
+    , window(w)
+    , closing(false)
+    , stayOnTop(onTop)
+    , covered(false)
+{
+    setAttribute(Qt::WA_TranslucentBackground, true);
+    // A shadow strip must never take the activation away from its window.
+    setAttribute(Qt::WA_ShowWithoutActivating, true);
+    setObjectName(QLatin1String(kItemName));
+    if (stayOnTop)
+        setWindowFlags(windowFlags() | Qt::WindowStaysOnTopHint);
+
+    if (!windowHasFixedSize()) {
+        static const Qt::CursorShape cursors[] = {
+            Qt::SizeHorCursor, Qt::SizeFDiagCursor, Qt::SizeVerCursor, Qt::SizeBDiagCursor,
+            Qt::SizeHorCursor, Qt::SizeFDiagCursor, Qt::SizeVerCursor, Qt::SizeBDiagCursor,
+        };
+        if (position >= Left && position <= BottomLeft)
+            setCursor(cursors[position - 1]);
+    }
+
+    place();
+    syncVisibility();
+}
+
+bool RibbonWindowBorder::BorderItem::windowHasFixedSize() const
+{
+    const QSizePolicy policy = window->sizePolicy();
+    return policy.horizontalPolicy() == QSizePolicy::Fixed
+        && policy.verticalPolicy() == QSizePolicy::Fixed;
+}
+
+void RibbonWindowBorder::BorderItem::place()
+{
+    const int s = RibbonPlatform::sizingFrameThickness();
+    const int m = window->contentsMargins().left();
+    // With no margin the right and bottom items start one pixel beyond the window.
+    const QRect r = window->geometry().adjusted(m, m, 1 - m, 1 - m);
+
+    QSize size(s, s);
+    QPoint topLeft;
+    switch (position) {
+    case Left:
+        size = QSize(s, r.height());
+        topLeft = r.topLeft() - QPoint(s, 0);
+        break;
+    case TopLeft:
+        topLeft = r.topLeft() - QPoint(s, s);
+        break;
+    case Top:
+        size = QSize(r.width(), s);
+        topLeft = r.topLeft() - QPoint(0, s);
+        break;
+    case TopRight:
+        topLeft = r.topRight() - QPoint(0, s);
+        break;
+    case Right:
+        size = QSize(s, r.height());
+        topLeft = r.topRight();
+        break;
+    case BottomRight:
+        topLeft = r.bottomRight();
+        break;
+    case Bottom:
+        size = QSize(r.width(), s);
+        topLeft = r.bottomLeft();
+        break;
+    case BottomLeft:
+        topLeft = r.bottomLeft() - QPoint(s, 0);
+        break;
+    default:
+        return;
+    }
+    setFixedSize(size.expandedTo(QSize(0, 0)));
+    move(topLeft);
+    update();
+}
+
+void RibbonWindowBorder::BorderItem::syncVisibility()
+{
+    if (pressPos.isNull() || !window->isVisible())
+        hide();
+    if (!closing && window->isVisible() && !(window->windowState() & Qt::WindowMinimized))
+        show();
+}
+
+void RibbonWindowBorder::BorderItem::mousePressEvent(QMouseEvent *event)
+{
+    QWidget::mousePressEvent(event);
+    if (event->buttons() & Qt::LeftButton)
+        pressPos = event->globalPos();
+}
+
+void RibbonWindowBorder::BorderItem::mouseMoveEvent(QMouseEvent *event)
+{
+    QWidget::mouseMoveEvent(event);
+    if (!(event->buttons() & Qt::LeftButton) || pressPos.isNull() || windowHasFixedSize())
+        return;
+
+    const QPoint global = event->globalPos();
+    const QPoint d = global - pressPos;
+    QRect r = window->geometry();
+    switch (position) {
+    case Left:        r.adjust(d.x(), 0, 0, 0); break;
+    case TopLeft:     r.adjust(d.x(), d.y(), 0, 0); break;
+    case Top:         r.adjust(0, d.y(), 0, 0); break;
+    case TopRight:    r.adjust(0, d.y(), d.x(), 0); break;
+    case Right:       r.adjust(0, 0, d.x(), 0); break;
+    case BottomRight: r.adjust(0, 0, d.x(), d.y()); break;
+    case Bottom:      r.adjust(0, 0, 0, d.y()); break;
+    case BottomLeft:  r.adjust(d.x(), 0, 0, d.y()); break;
+    default: return;
+    }
+
+    // The window grows a too small geometry from its top-left corner. Dragging a left or
+    // top edge therefore shifts the rectangle back by the shortfall first, so that the
+    // opposite edge stays where it is.
+    const QSize minimum = window->minimumSize();
+    if (minimum.height() > r.height() || minimum.width() > r.width()) {
+        if (position == Left || position == TopLeft || position == BottomLeft)
+            r.translate(-std::max(minimum.width() - r.width(), 0), 0);
+        if (position == TopLeft || position == Top || position == TopRight)
+            r.translate(0, -std::max(minimum.height() - r.height(), 0));
+    }
+
+    // Anchor the next step at the edge actually reached, so that the edge follows the
+    // cursor even after the minimum stopped it.
+    pressPos = global;
+    switch (position) {
+    case Left:        pressPos.setX(r.left()); break;
+    case Top:         pressPos.setY(r.top()); break;
+    case Right:       pressPos.setX(r.right()); break;
+    case Bottom:      pressPos.setY(r.bottom()); break;
+    case TopLeft:     pressPos = r.topLeft(); break;
+    case TopRight:    pressPos = r.topRight(); break;
+    case BottomRight: pressPos = r.bottomRight(); break;
+    case BottomLeft:  pressPos = r.bottomLeft(); break;
+    default: break;
+    }
+
+    window->setGeometry(r);
+}
+
+void RibbonWindowBorder::BorderItem::mouseReleaseEvent(QMouseEvent *event)
+{
+    QWidget::mouseReleaseEvent(event);
+    pressPos = QPoint();
+    QApplication::setActiveWindow(window);
+    window->setFocus();
+}
+
+void RibbonWindowBorder::BorderItem::updateMask()
+{
+    covered = false;
+    bool masked = false;
+    QRegion region;
+    if (window != QApplication::activeWindow()) {
+        // Another window is active: leave out whatever part of the item lies under other
+        // windows, system frame and caption included, so the shadow never draws on them.
+        const int s = RibbonPlatform::sizingFrameThickness();
+        const int c = RibbonPlatform::captionHeight();
+        region = QRegion(rect());
+        const QWidgetList topLevels = QApplication::topLevelWidgets();
+        for (const QWidget *other : topLevels) {
+            if (!other->isVisible() || other == window || isBorderItem(other))
+                continue;
+            QRect g = other->geometry().adjusted(-s, -(c + s), s, s);
+            g.moveTopLeft(mapFromGlobal(g.topLeft()));
+            if (g.contains(rect())) {
+                covered = true;
+                break;
+            }
+            region -= g;
+        }
+        masked = !covered;
+    }
+    // Only a changed mask is applied: setting one schedules a repaint, and this runs at
+    // the start of every paint.
+    if (masked)
+        setMask(region);
+    else
+        clearMask();
+}
+
+void RibbonWindowBorder::BorderItem::paintEvent(QPaintEvent *event)
+{
+    QWidget::paintEvent(event);
+    updateMask();
+    if (covered)
+        return;
+    if (stayOnTop && (!QApplication::activeWindow() || window->isMaximized()))
+        return;
+
+    static const int alphas[] = {128, 100, 70, 40, 20, 10, 3};
+    QPainter p(this);
+    const QRect r = rect();
+    for (int i = 0; i < 7; ++i) {
+        QColor colour(0x80, 0x80, 0x80);
+        colour.setAlpha(alphas[i]);
+        p.setPen(colour);
+        switch (position) {
+        case Left:
+            p.drawLine(r.right() - i, r.top(), r.right() - i, r.bottom());
+            break;
+        case Top:
+            p.drawLine(r.left(), r.bottom() - i, r.right(), r.bottom() - i);
+            break;
+        case Right:
+            p.drawLine(r.left() + i, r.top(), r.left() + i, r.bottom());
+            break;
+        case Bottom:
+            p.drawLine(r.left(), r.top() + i, r.right(), r.top() + i);
+            break;
+        case TopLeft:
+            p.drawLine(r.right() - i, r.bottom() - i, r.right() - i, r.bottom());
+            p.drawLine(r.right() - i, r.bottom() - i, r.right(), r.bottom() - i);
+            break;
+        case TopRight:
+            p.drawLine(r.left() + i, r.bottom() - i, r.left() + i, r.bottom());
+            p.drawLine(r.left(), r.bottom() - i, r.left() + i, r.bottom() - i);
+            break;
+        case BottomRight:
+            p.drawLine(r.left() + i, r.top(), r.left() + i, r.top() + i);
+            p.drawLine(r.left(), r.top() + i, r.left() + i, r.top() + i);
+            break;
+        case BottomLeft:
+            p.drawLine(r.right() - i, r.top(), r.right() - i, r.top() + i);
+            p.drawLine(r.right() - i, r.top() + i, r.right(), r.top() + i);
+            break;
+        default:
+            break;
+        }
+    }
+}
+
+// RibbonWindowBorder
+
+RibbonWindowBorder::RibbonWindowBorder(QWidget *window, bool stayOnTop)
+    : QObject(window)
+    , m_window(window)
+    , m_closing(false)
+{
+    if (!window)
+        return;
+    for (int position = BorderItem::Left; position <= BorderItem::BottomLeft; ++position) {
+        auto *item = new BorderItem(window, position, stayOnTop);
+        m_items.append(std::shared_ptr<BorderItem>(item, ItemDeleter{item}));
+    }
+    connect(QCoreApplication::instance(), SIGNAL(focusChanged(QWidget*, QWidget*)), this,
+            SLOT(onFocusChanged(QWidget*, QWidget*)));
+    window->installEventFilter(this);
+}
+
+RibbonWindowBorder::~RibbonWindowBorder()
+{
+    // Deleting visible top-level items can move the focus; nothing may reach this
+    // half-destroyed border any more.
+    if (QCoreApplication::instance())
+        QCoreApplication::instance()->disconnect(this);
+    if (m_activeWindow && m_activeWindow != m_window)
+        m_activeWindow->removeEventFilter(this);
+    if (m_window)
+        m_window->removeEventFilter(this);
+    const auto items = std::move(m_items);
+    m_items.clear();
+}
+
+void RibbonWindowBorder::placeItems()
+{
+    for (const auto &item : qAsConst(m_items)) {
+        if (isAlive(item)) {
+            item->closing = m_closing;
+            item->place();
+        }
+    }
+}
+
+void RibbonWindowBorder::update()
+{
+    for (const auto &item : qAsConst(m_items)) {
+        if (isAlive(item))
+            item->update();
+    }
+}
+
+void RibbonWindowBorder::onUpdateBorders()
+{
+    for (const auto &item : qAsConst(m_items)) {
+        if (isAlive(item)) {
+            item->closing = m_closing;
+            item->syncVisibility();
+        }
+    }
+}
+
+void RibbonWindowBorder::onFocusChanged(QWidget *, QWidget *)
+{
+    QWidget *active = QApplication::activeWindow();
+    if (active == m_activeWindow)
+        return;
+    // The masks depend on where the active window lies, so follow it around.
+    if (m_activeWindow && m_activeWindow != m_window)
+        m_activeWindow->removeEventFilter(this);
+    m_activeWindow = active;
+    if (active && active != m_window)
+        active->installEventFilter(this);
+    update();
+}
+
+bool RibbonWindowBorder::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_window && m_window) {
+        switch (event->type()) {
+        case QEvent::Move:
+        case QEvent::Resize:
+            placeItems();
+            break;
+        case QEvent::Show:
+        case QEvent::Hide:
+        case QEvent::ApplicationDeactivate:
+            onUpdateBorders();
+            break;
+        case QEvent::Close:
+            // Final: a window shown again after its close keeps its border hidden.
+            m_closing = true;
+            onUpdateBorders();
+            break;
+        case QEvent::ActivationChange:
+            if (m_window->isActiveWindow() || isBorderItem(QApplication::activeWindow()))
+                QTimer::singleShot(kDelayedUpdateMs, this, SLOT(onUpdateBorders()));
+            else
+                onUpdateBorders();
+            break;
+        case QEvent::WindowStateChange:
+            if (m_window->windowState() == Qt::WindowMinimized)
+                onUpdateBorders();
+            else
+                QTimer::singleShot(kDelayedUpdateMs, this, SLOT(onUpdateBorders()));
+            break;
+        case QEvent::ApplicationActivate:
+            QTimer::singleShot(kDelayedUpdateMs, this, SLOT(onUpdateBorders()));
+            break;
+        default:
+            break;
+        }
+    } else if (watched == m_activeWindow
+               && (event->type() == QEvent::Move || event->type() == QEvent::Resize)) {
+        update();
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+} // namespace zel

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "RibbonWindowBorder.h"
+
+#include <QWidget>
+
+namespace zel {
+
+// One of the eight shadow strips around a window. Other code recognises the items by
+// their object name "BorderItem" (for example to leave them out of window lists).
+class RibbonWindowBorder::BorderItem : public QWidget
+{
+public:
+    // Positions run clockwise from the left side.
+    enum Position {
+        Left = 1,
+        TopLeft,
+        Top,
+        TopRight,
+        Right,
+        BottomRight,
+        Bottom,
+        BottomLeft
+    };
+
+    BorderItem(QWidget *window, int position, bool stayOnTop);
+
+    // Sizes the item and puts it against its edge or corner of the window.
+    void place();
+    // Hides the item outside a drag and shows it again in front while the window shows.
+    void syncVisibility();
+
+    int position;
+    QWidget *window;
+    QPoint pressPos;
+    bool closing;
+    bool stayOnTop;
+    bool covered;
+
+protected:
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    void updateMask();
+    bool windowHasFixedSize() const;
+};
+
+} // namespace zel
