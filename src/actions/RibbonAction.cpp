@@ -1,0 +1,266 @@
+#include "RibbonAction.h"
+
+#include "RibbonActionListener.h"
+#include "RibbonActionsContainer.h"
+
+#include <QActionEvent>
+#include <QCoreApplication>
+#include <QMetaMethod>
+#include <QWidget>
+
+namespace zel {
+
+QStringList RibbonAction::ForbiddenActions;
+
+RibbonAction::RibbonAction(QObject *parent)
+    : QWidgetAction(parent)
+{
+    connectToListener();
+}
+
+RibbonAction::RibbonAction(const QString &text, QObject *parent)
+    : QWidgetAction(parent)
+{
+    setText(text);
+    connectToListener();
+    RibbonActionsContainer::instance().addAction(text, QPointer<QAction>(this));
+}
+
+RibbonAction::RibbonAction(const QIcon &icon, const QString &text, QObject *parent)
+    : QWidgetAction(parent)
+{
+    setText(text);
+    setIcon(icon);
+    connectToListener();
+    RibbonActionsContainer::instance().addAction(text, QPointer<QAction>(this));
+}
+
+RibbonAction::RibbonAction(QPointer<QAction> alias, QObject *parent)
+    : QWidgetAction(parent)
+    , m_alias(alias)
+{
+    if (m_alias) {
+        setText(m_alias->text());
+        setIcon(m_alias->icon());
+    }
+    adoptAlias();
+    connectToListener();
+}
+
+RibbonAction::RibbonAction(QPointer<QAction> alias, const QIcon &icon, const QString &text,
+                           QObject *parent)
+    : QWidgetAction(parent)
+    , m_alias(alias)
+    , m_keepOwnText(true)
+    , m_keepOwnIcon(true)
+{
+    setText(text);
+    setIcon(icon);
+    adoptAlias();
+    connectToListener();
+    RibbonActionsContainer::instance().addAction(text, QPointer<QAction>(this));
+}
+
+RibbonAction::RibbonAction(QPointer<RibbonAction> alias, QObject *parent)
+    : QWidgetAction(parent)
+    , m_alias(alias.data())
+{
+    // Text and icon follow at the alias's next change.
+    adoptAlias();
+    connectToListener();
+}
+
+RibbonAction::RibbonAction(QPointer<RibbonAction> alias, const QString &text, QObject *parent)
+    : QWidgetAction(parent)
+    , m_alias(alias.data())
+    , m_keepOwnText(true)
+{
+    setText(text);
+    adoptAlias();
+    connectToListener();
+    RibbonActionsContainer::instance().addAction(text, QPointer<QAction>(this));
+}
+
+RibbonAction::~RibbonAction() = default;
+
+void RibbonAction::adoptAlias()
+{
+    if (!m_alias)
+        return;
+    setToolTip(m_alias->toolTip());
+    setShortcut(m_alias->shortcut());
+    setSeparator(m_alias->isSeparator());
+    setEnabled(m_alias->isEnabled());
+    setCheckable(m_alias->isCheckable());
+    connectWithAlieas();
+}
+
+void RibbonAction::connectToListener()
+{
+    // Unique: setAliasAction() makes this connection again, and a trigger must reach
+    // the listener (and so the host's report) exactly once.
+    connect(this, SIGNAL(triggered()), &RibbonActionListener::instance(),
+            SLOT(onActionTriggered()), Qt::UniqueConnection);
+}
+
+void RibbonAction::connectWithAlieas()
+{
+    QAction *alias = m_alias.data();
+    if (!alias)
+        return;
+    // Unique: setting the same alias again must not make one trigger run the host's
+    // handlers twice.
+    connect(this, SIGNAL(changed()), alias, SIGNAL(changed()), Qt::UniqueConnection);
+    connect(this, SIGNAL(hovered()), alias, SIGNAL(hovered()), Qt::UniqueConnection);
+    connect(this, SIGNAL(toggled(bool)), alias, SIGNAL(toggled(bool)), Qt::UniqueConnection);
+    connect(this, SIGNAL(triggered()), alias, SIGNAL(triggered()), Qt::UniqueConnection);
+    connect(this, SIGNAL(toggled(bool)), this, SLOT(onToogled(bool)), Qt::UniqueConnection);
+    connect(alias, SIGNAL(toggled(bool)), this, SLOT(onAliasToogled(bool)), Qt::UniqueConnection);
+    connect(alias, SIGNAL(changed()), this, SLOT(aliasChanged()), Qt::UniqueConnection);
+}
+
+void RibbonAction::disconnectFromAlias(QAction *alias)
+{
+    if (!alias)
+        return;
+    disconnect(this, nullptr, alias, nullptr);
+    disconnect(alias, nullptr, this, nullptr);
+}
+
+void RibbonAction::setAliasAction(QPointer<QAction> alias)
+{
+    if (m_alias != alias) {
+        // A replaced alias must stop receiving this action's triggers and changes.
+        disconnectFromAlias(m_alias.data());
+        m_alias = alias;
+    }
+    connectWithAlieas();
+    connectToListener();
+}
+
+QAction *RibbonAction::aliasAction() const
+{
+    return m_alias.data();
+}
+
+void RibbonAction::enableAction(bool enable)
+{
+    m_syncing = true;
+    m_requestedEnabled = enable;
+    setEnabled(enable);
+    m_syncing = false;
+}
+
+int RibbonAction::minimalWidth() const
+{
+    return m_minimalWidth;
+}
+
+void RibbonAction::setMinimalWidth(int width)
+{
+    m_minimalWidth = width;
+}
+
+void RibbonAction::SetForbiddenActions(const QStringList &names)
+{
+    if (ForbiddenActions.isSharedWith(names))
+        return;
+    ForbiddenActions = names;
+}
+
+void RibbonAction::aliasChanged()
+{
+    QAction *alias = m_alias.data();
+    if (!alias)
+        return;
+    if (!m_syncing) {
+        m_syncing = true;
+        if (!m_keepOwnIcon)
+            setIcon(alias->icon());
+        if (!m_keepOwnText)
+            setText(alias->text());
+        setEnabled(alias->isEnabled());
+        m_syncing = false;
+        return;
+    }
+    // The change came back from this action (its changed() makes the alias announce
+    // one): the alias's enabled state still wins over the one requested here.
+    if (alias->isEnabled() != m_requestedEnabled)
+        setEnabled(alias->isEnabled());
+}
+
+void RibbonAction::onToogled(bool isToogled)
+{
+    if (m_alias && m_alias->isCheckable())
+        m_alias->setChecked(isToogled);
+}
+
+void RibbonAction::onAliasToogled(bool isToogled)
+{
+    // setChecked() with the current state emits nothing, so the pair of slots stops
+    // after one round.
+    if (isCheckable())
+        setChecked(isToogled);
+}
+
+void RibbonAction::sendActionChangedEvt()
+{
+    QList<QPointer<QWidget>> widgets;
+    const QList<QWidget *> associated = associatedWidgets();
+    for (QWidget *widget : associated)
+        widgets.append(widget);
+
+    // A widget may delete another widget, or this action, while it handles the event.
+    QPointer<RibbonAction> self(this);
+    for (const QPointer<QWidget> &widget : qAsConst(widgets)) {
+        if (!self)
+            return;
+        if (widget) {
+            QActionEvent event(QEvent::ActionChanged, this);
+            QCoreApplication::sendEvent(widget.data(), &event);
+        }
+    }
+    if (self) {
+        QActionEvent event(QEvent::ActionChanged, this);
+        QCoreApplication::sendEvent(this, &event);
+    }
+}
+
+bool RibbonAction::isForbidden() const
+{
+    if (ForbiddenActions.isEmpty())
+        return false;
+    // An empty name never matches: it would forbid every action without a text.
+    const QString ownText = text();
+    if (!ownText.isEmpty() && ForbiddenActions.contains(ownText))
+        return true;
+    const QString dataName = data().toString();
+    return !dataName.isEmpty() && ForbiddenActions.contains(dataName);
+}
+
+void RibbonAction::connectNotify(const QMetaMethod &signal)
+{
+    QWidgetAction::connectNotify(signal);
+    if (m_inConnectNotify)
+        return;
+    // Connections through SIGNAL(triggered()) arrive here as the original
+    // triggered(bool); both spellings are checked by their normalised signature.
+    const QByteArray signature = signal.methodSignature();
+    if (signature != "triggered()" && signature != "triggered(bool)")
+        return;
+    if (!isForbidden())
+        return;
+
+    // Cut every receiver, including the one just connected, so the only effect of a
+    // trigger is the listener's forbidden report.
+    m_inConnectNotify = true;
+    disconnect(this, SIGNAL(triggered()), nullptr, nullptr);
+    disconnect(this, SIGNAL(triggered(bool)), nullptr, nullptr);
+    if (isCheckable())
+        setCheckable(false);
+    connect(this, SIGNAL(triggered()), &RibbonActionListener::instance(),
+            SLOT(onForbiddenActionTriggered()));
+    m_inConnectNotify = false;
+}
+
+} // namespace zel

@@ -1,0 +1,215 @@
+#include "RibbonCatMenuAction.h"
+
+#include "RibbonSimpleAction.h"
+#include "RibbonViewPopup.h"
+
+#include <QMenu>
+
+namespace zel {
+
+RibbonCatMenuAction::RibbonCatMenuAction(eMenuType type, eMenuSize size, ePopupType popup,
+                                         QObject *parent)
+    : RibbonMenuAction(parent)
+{
+    init(type, size, popup);
+}
+
+RibbonCatMenuAction::RibbonCatMenuAction(const QString &text, eMenuType type, eMenuSize size,
+                                         ePopupType popup, QObject *parent)
+    : RibbonMenuAction(text, parent)
+{
+    init(type, size, popup);
+}
+
+RibbonCatMenuAction::RibbonCatMenuAction(const QIcon &icon, const QString &text, eMenuType type,
+                                         eMenuSize size, ePopupType popup, QObject *parent)
+    : RibbonMenuAction(icon, text, parent)
+{
+    init(type, size, popup);
+}
+
+RibbonCatMenuAction::RibbonCatMenuAction(QPointer<QAction> alias, eMenuType type, eMenuSize size,
+                                         ePopupType popup, QObject *parent)
+    : RibbonMenuAction(alias, parent)
+{
+    init(type, size, popup);
+}
+
+RibbonCatMenuAction::RibbonCatMenuAction(QPointer<QAction> alias, const QIcon &icon,
+                                         const QString &text, eMenuType type, eMenuSize size,
+                                         ePopupType popup, QObject *parent)
+    : RibbonMenuAction(alias, icon, text, parent)
+{
+    init(type, size, popup);
+}
+
+RibbonCatMenuAction::~RibbonCatMenuAction() = default;
+
+void RibbonCatMenuAction::init(eMenuType type, eMenuSize size, ePopupType popup)
+{
+    m_menuType = type;
+    m_menuSize = size;
+    m_popupType = popup;
+    m_iconActionGroup = new QActionGroup(this);
+    // Resolves to this class's slot; the base class's item slot stays connected too.
+    connect(this, SIGNAL(changed()), this, SLOT(actionChanged()));
+}
+
+RibbonCatMenuAction::eMenuType RibbonCatMenuAction::menuType() const
+{
+    return m_menuType;
+}
+
+RibbonCatMenuAction::eMenuSize RibbonCatMenuAction::menuSize() const
+{
+    return m_menuSize;
+}
+
+RibbonCatMenuAction::ePopupType RibbonCatMenuAction::popupType() const
+{
+    return m_popupType;
+}
+
+QActionGroup *RibbonCatMenuAction::iconActionGroup() const
+{
+    return m_iconActionGroup.data();
+}
+
+void RibbonCatMenuAction::addIconActionGroup(QActionGroup *group)
+{
+    m_iconActionGroup = group;
+}
+
+int RibbonCatMenuAction::menuMarkerOffset() const
+{
+    return m_menuMarkerOffset;
+}
+
+void RibbonCatMenuAction::setMenuMarkerOffset(int offset)
+{
+    m_menuMarkerOffset = offset;
+}
+
+int RibbonCatMenuAction::listPreviewVisibleIconsCount() const
+{
+    return m_listPreviewVisibleIconsCount;
+}
+
+void RibbonCatMenuAction::setListPreviewVisibleIconsCount(int count)
+{
+    m_listPreviewVisibleIconsCount = count;
+}
+
+bool RibbonCatMenuAction::drawCheckedMarker() const
+{
+    return m_drawCheckedMarker;
+}
+
+void RibbonCatMenuAction::setDrawCheckedMarker(bool draw)
+{
+    m_drawCheckedMarker = draw;
+}
+
+void RibbonCatMenuAction::addTopAction(RibbonSimpleAction *action)
+{
+    if (!action || m_topActions.contains(action))
+        return;
+    m_topActions.append(action);
+    connect(action, &QObject::destroyed, this, &RibbonCatMenuAction::forgetListed,
+            Qt::UniqueConnection);
+}
+
+void RibbonCatMenuAction::addBottomAction(RibbonSimpleAction *action)
+{
+    if (!action || m_bottomActions.contains(action))
+        return;
+    m_bottomActions.append(action);
+    connect(action, &QObject::destroyed, this, &RibbonCatMenuAction::forgetListed,
+            Qt::UniqueConnection);
+}
+
+QList<RibbonSimpleAction *> RibbonCatMenuAction::topActions() const
+{
+    return m_topActions;
+}
+
+QList<RibbonSimpleAction *> RibbonCatMenuAction::bottomActions() const
+{
+    return m_bottomActions;
+}
+
+void RibbonCatMenuAction::fillMenu(QMenu &menu)
+{
+    QList<const RibbonMenuAction *> path{this};
+    fillItems(menu, menuActions(), path);
+}
+
+void RibbonCatMenuAction::fillMenu(QMenu &menu, QPointer<RibbonMenuAction> sub)
+{
+    QList<const RibbonMenuAction *> path;
+    fillSubMenu(menu, sub.data(), path);
+}
+
+RibbonViewPopup *RibbonCatMenuAction::fillMenu()
+{
+    return new RibbonViewPopup(topActions(), bottomActions(), iconActionGroup(), this);
+}
+
+void RibbonCatMenuAction::fillItems(QMenu &menu, const QList<RibbonAction *> &items,
+                                   QList<const RibbonMenuAction *> &path)
+{
+    for (RibbonAction *item : items) {
+        if (RibbonSimpleAction *simple = qobject_cast<RibbonSimpleAction *>(item))
+            menu.addAction(simple);
+        else if (RibbonMenuAction *sub = qobject_cast<RibbonMenuAction *>(item))
+            fillSubMenu(menu, sub, path);
+    }
+}
+
+void RibbonCatMenuAction::fillSubMenu(QMenu &menu, RibbonMenuAction *sub,
+                                     QList<const RibbonMenuAction *> &path)
+{
+    // A menu that contains itself, directly or further down, is shown once.
+    if (!sub || path.contains(sub))
+        return;
+    QMenu *subMenu = menu.addMenu(sub->icon(), sub->text());
+    path.append(sub);
+    fillItems(*subMenu, sub->menuActions(), path);
+    path.removeLast();
+}
+
+void RibbonCatMenuAction::actionChanged()
+{
+    // Guarded copies: a receiver of an action's changed() may destroy another one.
+    QList<QPointer<RibbonSimpleAction>> top, bottom;
+    for (RibbonSimpleAction *action : qAsConst(m_topActions))
+        top.append(action);
+    for (RibbonSimpleAction *action : qAsConst(m_bottomActions))
+        bottom.append(action);
+
+    const bool enabled = isEnabled();
+    for (const QPointer<RibbonSimpleAction> &action : qAsConst(top)) {
+        if (action)
+            action->setEnabled(enabled);
+    }
+    if (m_iconActionGroup)
+        m_iconActionGroup->setEnabled(enabled);
+    for (const QPointer<RibbonSimpleAction> &action : qAsConst(bottom)) {
+        if (action)
+            action->setEnabled(enabled);
+    }
+}
+
+void RibbonCatMenuAction::forgetListed(QObject *action)
+{
+    for (int i = m_topActions.size() - 1; i >= 0; --i) {
+        if (static_cast<QObject *>(m_topActions.at(i)) == action)
+            m_topActions.removeAt(i);
+    }
+    for (int i = m_bottomActions.size() - 1; i >= 0; --i) {
+        if (static_cast<QObject *>(m_bottomActions.at(i)) == action)
+            m_bottomActions.removeAt(i);
+    }
+}
+
+} // namespace zel

@@ -1,0 +1,82 @@
+#include "RibbonCategoriesPanelAction.h"
+
+#include "RibbonCategoryAction.h"
+
+namespace zel {
+
+RibbonCategoriesPanelAction::RibbonCategoriesPanelAction(QObject *parent)
+    : RibbonAction(parent)
+{
+    setCheckable(true);
+}
+
+RibbonCategoriesPanelAction::RibbonCategoriesPanelAction(const QString &text, QObject *parent)
+    : RibbonAction(text.toUpper(), parent)
+{
+    setCheckable(true);
+}
+
+RibbonCategoriesPanelAction::RibbonCategoriesPanelAction(const QIcon &icon, const QString &text,
+                                                         QObject *parent)
+    : RibbonAction(icon, text.toUpper(), parent)
+{
+    setCheckable(true);
+}
+
+RibbonCategoriesPanelAction::~RibbonCategoriesPanelAction() = default;
+
+void RibbonCategoriesPanelAction::addCategory(RibbonCategoryAction *category)
+{
+    // An empty category would make an empty box in the tab; the host adds its
+    // commands first.
+    if (!category || m_categories.contains(category) || category->actions().isEmpty())
+        return;
+    m_categories.append(category);
+    connect(category, SIGNAL(changed()), this, SLOT(categoryChanged()));
+    connect(category, &QObject::destroyed, this, &RibbonCategoriesPanelAction::forgetCategory);
+    emit changed();
+    emit categoryAdded(category);
+}
+
+void RibbonCategoriesPanelAction::removeCategory(RibbonCategoryAction *category)
+{
+    if (!category || !m_categories.contains(category))
+        return;
+    disconnect(category, SIGNAL(changed()), this, SLOT(categoryChanged()));
+    disconnect(category, &QObject::destroyed, this, &RibbonCategoriesPanelAction::forgetCategory);
+    m_categories.removeAll(category);
+    emit changed();
+    emit categoryRemoved(category);
+}
+
+const QList<RibbonCategoryAction *> &RibbonCategoriesPanelAction::categories() const
+{
+    return m_categories;
+}
+
+RibbonCategoryAction *RibbonCategoriesPanelAction::category(const QString &text) const
+{
+    for (RibbonCategoryAction *category : m_categories) {
+        if (category->text() == text)
+            return category;
+    }
+    return nullptr;
+}
+
+void RibbonCategoriesPanelAction::categoryChanged()
+{
+    emit changed();
+}
+
+void RibbonCategoriesPanelAction::forgetCategory(QObject *category)
+{
+    // The category is being destroyed: only its address is compared, and no signal
+    // carries it, since a receiver could not use it any more.
+    for (int i = m_categories.size() - 1; i >= 0; --i) {
+        if (static_cast<QObject *>(m_categories.at(i)) == category)
+            m_categories.removeAt(i);
+    }
+    emit changed();
+}
+
+} // namespace zel

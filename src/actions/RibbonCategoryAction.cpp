@@ -1,0 +1,84 @@
+#include "RibbonCategoryAction.h"
+
+namespace zel {
+
+RibbonCategoryAction::RibbonCategoryAction(QObject *parent)
+    : RibbonAction(parent)
+{
+}
+
+RibbonCategoryAction::RibbonCategoryAction(const QString &text, QObject *parent)
+    : RibbonAction(text, parent)
+{
+}
+
+RibbonCategoryAction::RibbonCategoryAction(const QIcon &icon, const QString &text, QObject *parent)
+    : RibbonAction(icon, text, parent)
+{
+}
+
+RibbonCategoryAction::~RibbonCategoryAction() = default;
+
+void RibbonCategoryAction::addAction(RibbonAction *action, int row)
+{
+    if (!action || m_actions.contains(action))
+        return;
+    m_actions.append(action);
+    m_rows.insert(action, row);
+    connect(action, SIGNAL(changed()), this, SLOT(actionChanged()));
+    connect(action, SIGNAL(ribbonActionActivated()), this, SLOT(actionActivated()));
+    connect(action, &QObject::destroyed, this, &RibbonCategoryAction::forgetAction);
+    emit actionAdded(action);
+    emit changed();
+}
+
+void RibbonCategoryAction::removeAction(RibbonAction *action)
+{
+    if (!action || !m_actions.contains(action))
+        return;
+    disconnect(action, SIGNAL(changed()), this, SLOT(actionChanged()));
+    disconnect(action, SIGNAL(ribbonActionActivated()), this, SLOT(actionActivated()));
+    disconnect(action, &QObject::destroyed, this, &RibbonCategoryAction::forgetAction);
+    m_actions.removeAll(action);
+    m_rows.remove(action);
+    emit actionRemoved(action);
+    emit changed();
+}
+
+const QList<RibbonAction *> &RibbonCategoryAction::actions() const
+{
+    return m_actions;
+}
+
+int RibbonCategoryAction::actionRow(RibbonAction *action) const
+{
+    if (m_actions.isEmpty())
+        return -1;
+    return m_rows.value(action, 0);
+}
+
+void RibbonCategoryAction::actionChanged()
+{
+    emit changed();
+}
+
+void RibbonCategoryAction::actionActivated()
+{
+    emit ribbonActionActivated();
+}
+
+void RibbonCategoryAction::forgetAction(QObject *action)
+{
+    // The member is being destroyed: its widgets have already dropped it; compare the
+    // address only and emit no signal that carries it.
+    for (int i = m_actions.size() - 1; i >= 0; --i) {
+        RibbonAction *member = m_actions.at(i);
+        if (static_cast<QObject *>(member) == action) {
+            m_actions.removeAt(i);
+            m_rows.remove(member);
+        }
+    }
+    emit changed();
+}
+
+} // namespace zel
