@@ -1,0 +1,53 @@
+#include "RibbonCatCheckBox.h"
+
+#include "RibbonApplication.h"
+#include "RibbonCatCheckBoxAction.h"
+#include "RibbonScale_p.h"
+#include "RibbonStyle.h"
+
+#include <QFontMetrics>
+
+namespace zel {
+
+RibbonCatCheckBox::RibbonCatCheckBox(RibbonCatCheckBoxAction &action, QWidget *parent)
+    : QCheckBox(parent)
+    , m_action(&action)
+{
+    setText(action.textLabel());
+    setToolTip(action.toolTip());
+    setChecked(action.isChecked());
+    setEnabled(action.isEnabled());
+    const QColor textColor = RibbonApplication::theApp().ribbonStyle().normalCategoryTextColor();
+    setStyleSheet(QStringLiteral("QCheckBox {") + QLatin1Char(' ') + QStringLiteral("color: ")
+                  + textColor.name() + QStringLiteral("; }"));
+
+    // The action takes the new state first so that every box shown for it follows,
+    // then announces the click.
+    connect(this, SIGNAL(clicked(bool)), &action, SLOT(setChecked(bool)));
+    connect(this, SIGNAL(clicked(bool)), &action, SIGNAL(triggered(bool)));
+    connect(&action, SIGNAL(toggled(bool)), this, SLOT(setChecked(bool)));
+    connect(&action, SIGNAL(actionEnabled(bool)), this, SLOT(setEnabled(bool)));
+    connect(&action, SIGNAL(changed()), this, SLOT(onActionChanged()));
+}
+
+RibbonCatCheckBox::~RibbonCatCheckBox() = default;
+
+QSize RibbonCatCheckBox::sizeHint() const
+{
+    const QString label = text();
+    const int textWidth = label.isEmpty() ? 0 : fontMetrics().horizontalAdvance(label);
+    return QSize(textWidth + 20, scaled(22));
+}
+
+void RibbonCatCheckBox::onActionChanged()
+{
+    if (!m_action)
+        return;
+    if (text() != m_action->textLabel()) {
+        setText(m_action->textLabel());
+        updateGeometry();
+    }
+    setToolTip(m_action->toolTip());
+}
+
+} // namespace zel

@@ -1,0 +1,89 @@
+#include "RibbonCatComboComboBox.h"
+
+#include "RibbonCatComboAction.h"
+
+#include <QActionEvent>
+#include <QKeyEvent>
+#include <QLineEdit>
+
+namespace zel {
+
+RibbonCatComboComboBox::RibbonCatComboComboBox(RibbonCatComboAction &action, QWidget *parent)
+    : QComboBox(parent)
+    , m_action(&action)
+{
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    setIconSize(QSize(action.iconWidth(), 22));
+    setFixedWidth(action.width());
+    setEditable(action.isEditable());
+    if (action.isEditable()) {
+        if (!action.comboInputMask().isEmpty())
+            lineEdit()->setInputMask(action.comboInputMask());
+        if (action.validator())
+            setValidator(action.validator());
+    }
+
+    const QStringList items = action.items();
+    const QList<QIcon> icons = action.icons();
+    if (icons.isEmpty()) {
+        addItems(items);
+    } else {
+        for (int i = 0; i < icons.size() && i < items.size(); ++i)
+            addItem(icons.at(i), items.at(i));
+    }
+
+    connect(this, SIGNAL(currentIndexChanged(const QString &)), &action,
+            SLOT(setSelectionText(const QString &)));
+    connect(this, SIGNAL(currentIndexChanged(int)), &action, SLOT(setSelectionIndex(int)));
+    connect(&action, SIGNAL(itemAdded(const QIcon &, const QString &)), this,
+            SLOT(onItemAdded(const QIcon &, const QString &)));
+    connect(&action, SIGNAL(editableChanged()), this, SLOT(onEditableChanged()));
+    addAction(&action);
+    setFixedHeight(22);
+}
+
+RibbonCatComboComboBox::~RibbonCatComboComboBox() = default;
+
+void RibbonCatComboComboBox::onItemAdded(const QIcon &icon, const QString &item)
+{
+    addItem(icon, item);
+}
+
+void RibbonCatComboComboBox::onEditableChanged()
+{
+    if (m_action)
+        setEditable(m_action->isEditable());
+}
+
+void RibbonCatComboComboBox::updateActionSelection(const QString &item)
+{
+    setCurrentIndex(findText(item, Qt::MatchCaseSensitive));
+    setEditText(item);
+}
+
+void RibbonCatComboComboBox::keyPressEvent(QKeyEvent *event)
+{
+    QComboBox::keyPressEvent(event);
+    if (!m_action)
+        return;
+    const int key = event->key();
+    m_action->emitKeyPressed(key);
+    if (m_action->isSearchable() && (key == Qt::Key_Return || key == Qt::Key_Enter)) {
+        setFocus();
+        if (QLineEdit *edit = lineEdit())
+            edit->selectAll();
+    }
+}
+
+void RibbonCatComboComboBox::actionEvent(QActionEvent *event)
+{
+    QComboBox::actionEvent(event);
+    // The action may be in its destructor when it is removed: read nothing from it then.
+    if (!m_action || event->action() != m_action || event->type() == QEvent::ActionRemoved)
+        return;
+    if (event->type() == QEvent::ActionAdded || event->type() == QEvent::ActionChanged)
+        updateActionSelection(m_action->selectionText());
+    setEnabled(m_action->isEnabled());
+}
+
+} // namespace zel

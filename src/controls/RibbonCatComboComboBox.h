@@ -1,0 +1,35 @@
+#pragma once
+
+#include "zelribbon_export.h"
+
+#include <QComboBox>
+#include <QPointer>
+
+namespace zel {
+
+class RibbonCatComboAction;
+
+// The combo box of a RibbonCatComboAction: shows the action's items and selection and
+// hands the user's choice and key presses to the action.
+class ZELRIBBON_EXPORT RibbonCatComboComboBox : public QComboBox
+{
+    Q_OBJECT
+public:
+    RibbonCatComboComboBox(RibbonCatComboAction &action, QWidget *parent);
+    ~RibbonCatComboComboBox() override;
+
+public slots:
+    void onItemAdded(const QIcon &icon, const QString &item);
+    void onEditableChanged();
+    // Shows the given text as the selection.
+    void updateActionSelection(const QString &item);
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void actionEvent(QActionEvent *event) override;
+
+private:
+    QPointer<RibbonCatComboAction> m_action;
+};
+
+} // namespace zel

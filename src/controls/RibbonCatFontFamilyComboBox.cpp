@@ -1,0 +1,52 @@
+#include "RibbonCatFontFamilyComboBox.h"
+
+#include "RibbonCatFontFamilyAction.h"
+
+#include <QActionEvent>
+
+namespace zel {
+
+RibbonCatFontFamilyComboBox::RibbonCatFontFamilyComboBox(RibbonCatFontFamilyAction &action,
+                                                         QWidget *parent)
+    : QFontComboBox(parent)
+    , m_action(&action)
+{
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    setFixedWidth(140);
+    connect(this, SIGNAL(currentFontChanged(const QFont &)), &action,
+            SLOT(setFontFamily(const QFont &)));
+    connect(this, SIGNAL(activated(int)), this, SLOT(onIndexChanged(int)));
+    addAction(&action);
+    setFixedHeight(22);
+}
+
+RibbonCatFontFamilyComboBox::~RibbonCatFontFamilyComboBox() = default;
+
+void RibbonCatFontFamilyComboBox::actionEvent(QActionEvent *event)
+{
+    QFontComboBox::actionEvent(event);
+    if (!m_action || event->action() != m_action)
+        return;
+    if (event->type() != QEvent::ActionAdded && event->type() != QEvent::ActionChanged)
+        return;
+    // Showing the action's font must not send it back: the signals stay blocked until
+    // control returns to the event loop.
+    blockSignals(true);
+    setEnabled(m_action->isEnabled());
+    setCurrentFont(m_action->fontFamily());
+    QMetaObject::invokeMethod(this, "unblockSignals", Qt::QueuedConnection);
+}
+
+void RibbonCatFontFamilyComboBox::onIndexChanged(int index)
+{
+    Q_UNUSED(index)
+    // Choosing the font already shown changes no index, yet must still reach the action.
+    emit currentFontChanged(currentFont());
+}
+
+void RibbonCatFontFamilyComboBox::unblockSignals()
+{
+    blockSignals(false);
+}
+
+} // namespace zel
