@@ -1,0 +1,255 @@
+#include "RibbonCatActionGroupWidget.h"
+
+#include "IRibbonGroupWidget.h"
+#include "RibbonApplication.h"
+#include "RibbonCatActionGroup.h"
+#include "RibbonPaint_p.h"
+#include "RibbonStyle.h"
+
+#include <QActionEvent>
+#include <QCursor>
+#include <QMap>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPointer>
+
+namespace zel {
+
+namespace {
+
+const int kPlainCell = 22;
+const int kWideCell = 30;
+const int kStripHeight = 22;
+const int kIconExtent = 16;
+
+// Parts of a wide cell, relative to its left edge.
+const QRect kWideMain(0, 0, 20, 22);
+const QRect kWideArrow(20, 0, 8, 22);
+const QRect kWideRightEdge(28, 0, 2, 22);
+
+// The hidden button behind a member of a wide strip that opens a popup of its own; it
+// implements IRibbonGroupWidget. Null for members that are plain commands, which are
+// the only kind of member this build knows: a kind with a popup adds its maker here.
+QWidget *makePopupButton(RibbonAction *action, QWidget *parent)
+{
+    Q_UNUSED(action)
+    Q_UNUSED(parent)
+    return nullptr;
+}
+
+} // namespace
+
+struct RibbonCatActionGroupWidget::Priv
+{
+    struct PopupWidget
+    {
+        QPointer<QWidget> widget;
+        IRibbonGroupWidget *groupWidget = nullptr;
+    };
+
+    QPointer<RibbonCatActionGroup> group;
+    int pressedIndex = -1;
+    QMap<RibbonAction *, PopupWidget> popupWidgets;
+};
+
+RibbonCatActionGroupWidget::RibbonCatActionGroupWidget(RibbonCatActionGroup &group, QWidget *parent)
+    : QWidget(parent)
+    , d(new Priv)
+{
+    d->group = &group;
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    setMouseTracking(true);
+    addAction(&group);
+}
+
+RibbonCatActionGroupWidget::~RibbonCatActionGroupWidget() = default;
+
+RibbonCatActionGroup *RibbonCatActionGroupWidget::group() const
+{
+    return d->group;
+}
+
+int RibbonCatActionGroupWidget::cellWidth() const
+{
+    return d->group && d->group->isWide() ? kWideCell : kPlainCell;
+}
+
+int RibbonCatActionGroupWidget::cellAt(const QPoint &pos) const
+{
+    if (!d->group || pos.x() < 0)
+        return -1;
+    const int index = pos.x() / cellWidth();
+    return index < d->group->actions().size() ? index : -1;
+}
+
+QSize RibbonCatActionGroupWidget::sizeHint() const
+{
+    const int count = d->group ? d->group->actions().size() : 0;
+    return QSize(count * cellWidth(), kStripHeight);
+}
+
+void RibbonCatActionGroupWidget::syncPopupWidgets()
+{
+    RibbonCatActionGroup *group = d->group;
+    const bool wide = group && group->isWide();
+
+    // Drop the buttons of members that left the group (or of a strip no longer wide).
+    for (auto it = d->popupWidgets.begin(); it != d->popupWidgets.end();) {
+        if (!wide || !group->actions().contains(it.key())) {
+            delete it->widget.data();
+            it = d->popupWidgets.erase(it);
+        } else {
+            ++it;
+        }
+    }
+    if (!wide)
+        return;
+    for (RibbonAction *action : group->actions()) {
+        if (d->popupWidgets.contains(action))
+            continue;
+        QWidget *button = makePopupButton(action, this);
+        IRibbonGroupWidget *groupWidget = IRibbonGroupWidget::groupWidget(button);
+        if (!groupWidget) {
+            delete button;
+            continue;
+        }
+        button->hide();
+        d->popupWidgets.insert(action, {button, groupWidget});
+    }
+}
+
+void RibbonCatActionGroupWidget::actionEvent(QActionEvent *event)
+{
+    QWidget::actionEvent(event);
+    QAction *group = d->group;
+    if (group && event->action() == group) {
+        switch (event->type()) {
+        case QEvent::ActionAdded:
+        case QEvent::ActionChanged:
+            // Members come and go through ActionChanged events of the group.
+            syncPopupWidgets();
+            updateGeometry();
+            break;
+        case QEvent::ActionRemoved:
+            // Also reached while the group is being destroyed: forget it without
+            // touching it.
+            d->group = nullptr;
+            d->pressedIndex = -1;
+            break;
+        default:
+            break;
+        }
+    }
+    update();
+}
+
+void RibbonCatActionGroupWidget::mousePressEvent(QMouseEvent *event)
+{
+    QWidget::mousePressEvent(event);
+    if (event->button() != Qt::LeftButton || !d->group)
+        return;
+    const int index = cellAt(event->pos());
+    if (index >= 0 && d->group->actions().at(index)->isEnabled()) {
+        d->pressedIndex = index;
+        if (d->group->isWide()) {
+            const auto it = d->popupWidgets.constFind(d->group->actions().at(index));
+            if (it != d->popupWidgets.constEnd() && it->widget)
+                it->groupWidget->processEvents(event);
+        }
+    }
+    update();
+}
+
+void RibbonCatActionGroupWidget::mouseMoveEvent(QMouseEvent *event)
+{
+    QWidget::mouseMoveEvent(event);
+    const int index = cellAt(event->pos());
+    if (index >= 0)
+        setToolTip(d->group->actions().at(index)->toolTip());
+    update();
+}
+
+void RibbonCatActionGroupWidget::mouseReleaseEvent(QMouseEvent *event)
+{
+    QWidget::mouseReleaseEvent(event);
+    const int pressed = d->pressedIndex;
+    d->pressedIndex = -1;
+    if (event->button() == Qt::LeftButton && pressed >= 0 && d->group && pressed == cellAt(event->pos())) {
+        RibbonAction *action = d->group->actions().at(pressed);
+        if (action->isEnabled()) {
+            // The command may delete this strip.
+            QPointer<RibbonCatActionGroupWidget> self(this);
+            action->trigger();
+            if (!self)
+                return;
+        }
+    }
+    update();
+}
+
+void RibbonCatActionGroupWidget::paintEvent(QPaintEvent *)
+{
+    RibbonCatActionGroup *group = d->group;
+    if (!group)
+        return;
+    const RibbonStyle &style = RibbonApplication::theApp().ribbonStyle();
+    const QList<RibbonAction *> &actions = group->actions();
+    const int count = actions.size();
+    const bool wide = group->isWide();
+    const int cw = cellWidth();
+    const int row = RibbonPaint::SmallRowHeight;
+    const QPoint cursor = mapFromGlobal(QCursor::pos());
+    const bool mouseInside = underMouse();
+    const bool groupEnabled = group->isEnabled();
+
+    QPainter painter(this);
+    for (int i = 0; i < count; ++i) {
+        RibbonAction *action = actions.at(i);
+        const bool enabled = groupEnabled && action->isEnabled();
+        const QRect cell(cw * i, 0, cw, kStripHeight);
+        const QRect main = wide ? kWideMain.translated(cell.topLeft()) : cell;
+        const bool hovered = mouseInside && cell.contains(cursor);
+
+        int state = 0;
+        if (!enabled)
+            state = 0;
+        else if (i == d->pressedIndex && !wide)
+            state = 2;
+        else if (action->isChecked())
+            state = hovered ? 4 : 3;
+        else if (hovered)
+            state = 1;
+
+        const QPixmap &segment = i == 0 ? style.btnGroupFirst()
+                                 : i == count - 1 ? style.btnGroupLast()
+                                                  : style.btnGroupMidle();
+        if (!wide) {
+            const QPixmap &image = count == 1 ? style.normalButtonSmall() : segment;
+            painter.drawPixmap(cell, image, QRect(0, row * state, kPlainCell, row));
+        } else {
+            // The first cell opens the strip with the first segment's left edge; later
+            // cells begin with a middle segment, whose left edge separates them from
+            // their neighbour. Only the last cell closes the strip.
+            const QPixmap &mainImage = i == 0 ? style.btnGroupFirst() : style.btnGroupMidle();
+            painter.drawPixmap(main, mainImage, QRect(0, row * state, 20, row));
+            painter.drawPixmap(kWideArrow.translated(cell.topLeft()), style.btnGroupMidle(),
+                               QRect(2, row * state, 10, row));
+            const QPixmap &edgeImage = i == count - 1 ? style.btnGroupLast() : style.btnGroupMidle();
+            painter.drawPixmap(kWideRightEdge.translated(cell.topLeft()), edgeImage,
+                               QRect(20, row * state, 2, row));
+            const QColor color = RibbonPaint::textColor(groupEnabled);
+            painter.setPen(color);
+            painter.setBrush(color);
+            RibbonStyle::drawSymbol(painter, QRect(cell.x() + 20, height() / 2, 5, 3), SymbolDropDown);
+        }
+
+        const QPixmap pixmap = RibbonPaint::iconPixmap(action->icon(), kIconExtent, enabled);
+        if (!pixmap.isNull()) {
+            const QSize ps = pixmap.size() / pixmap.devicePixelRatio();
+            painter.drawPixmap(main.x() + (main.width() - ps.width()) / 2,
+                               main.y() + (main.height() - ps.height()) / 2, pixmap);
+        }
+    }
+}
+
+} // namespace zel

@@ -1,0 +1,218 @@
+#include "RibbonCatSimpleButton.h"
+
+#include "RibbonApplication.h"
+#include "RibbonCatSimpleAction.h"
+#include "RibbonPaint_p.h"
+#include "RibbonScale_p.h"
+#include "RibbonStyle.h"
+
+#include <QActionEvent>
+#include <QPainter>
+#include <QPointer>
+
+namespace zel {
+
+namespace {
+
+// Rows of the state sheets; -1 paints no background.
+enum { NoState = -1 };
+
+const int kLargeRow = 66;
+const int kSmallRow = 22;
+const int kLargeIcon = 32;
+const int kSmallIcon = 16;
+const int kLargeTextFlags = Qt::AlignTop | Qt::AlignHCenter | Qt::TextWordWrap;
+
+// Width of a large button's caption: one line when short, otherwise the narrowest
+// width at which the text still fits in two lines.
+int largeCaptionWidth(const QFontMetrics &fm, const QString &text)
+{
+    const int textWidth = fm.horizontalAdvance(text);
+    if (textWidth + 4 < 35)
+        return textWidth;
+    const int limit = 2 * fm.height();
+    int trial = textWidth;
+    int best = textWidth;
+    int step = textWidth;
+    while (step != 0) {
+        step /= 2;
+        const QRect bounds = fm.boundingRect(QRect(0, 0, trial, 0), kLargeTextFlags, text);
+        if (bounds.height() <= limit) {
+            best = bounds.width();
+            trial -= step;
+        } else {
+            trial += step;
+        }
+    }
+    return best;
+}
+
+} // namespace
+
+struct RibbonCatSimpleButton::Priv
+{
+    QPointer<RibbonCatSimpleAction> action;
+    RibbonCatSimpleAction::eSize size = RibbonCatSimpleAction::SizeLarge;
+    mutable QSize sizeHint; // invalid until computed
+    RibbonSlices background;
+};
+
+RibbonCatSimpleButton::RibbonCatSimpleButton(RibbonCatSimpleAction &action, QWidget *parent)
+    : QAbstractButton(parent)
+    , d(new Priv)
+{
+    d->action = &action;
+    d->size = action.size();
+    addAction(&action);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    setMouseTracking(true);
+    setFocusPolicy(Qt::NoFocus);
+    connect(&action, SIGNAL(changed()), this, SLOT(update()));
+    connect(this, SIGNAL(clicked()), &action, SLOT(trigger()));
+}
+
+RibbonCatSimpleButton::~RibbonCatSimpleButton() = default;
+
+RibbonCatSimpleAction *RibbonCatSimpleButton::action() const
+{
+    return d->action;
+}
+
+QSize RibbonCatSimpleButton::sizeHint() const
+{
+    if (d->sizeHint.isValid())
+        return d->sizeHint;
+
+    const QFontMetrics fm = fontMetrics();
+    const QString caption = text();
+    int width = 0;
+    int height = scaled(kSmallRow);
+    switch (d->size) {
+    case RibbonCatSimpleAction::SizeLarge:
+        width = qMax(largeCaptionWidth(fm, caption) + 10, 42);
+        height = scaled(kLargeRow);
+        break;
+    case RibbonCatSimpleAction::SizeMedium:
+        width = (icon().isNull() ? 0 : 18) + (caption.isEmpty() ? 0 : fm.horizontalAdvance(caption) + 10);
+        break;
+    case RibbonCatSimpleAction::SizeSmall:
+        width = icon().isNull() ? 4 : 22;
+        break;
+    }
+    if (d->action && d->action->minimalWidth() != -1)
+        width = qMax(width, d->action->minimalWidth());
+    d->sizeHint = QSize(width, height);
+    return d->sizeHint;
+}
+
+void RibbonCatSimpleButton::actionEvent(QActionEvent *event)
+{
+    QAbstractButton::actionEvent(event);
+    QAction *own = d->action;
+    switch (event->type()) {
+    case QEvent::ActionAdded:
+    case QEvent::ActionChanged:
+        if (own && event->action() == own) {
+            setEnabled(own->isEnabled());
+            setIcon(own->icon());
+            setText(own->text());
+            setToolTip(own->toolTip());
+            setCheckable(own->isCheckable());
+            setChecked(own->isChecked());
+            d->sizeHint = QSize();
+            updateGeometry();
+        }
+        break;
+    case QEvent::ActionRemoved:
+        // Also reached while the action is being destroyed: compare addresses only.
+        if (own && event->action() == own)
+            d->action = nullptr;
+        break;
+    default:
+        break;
+    }
+    update();
+}
+
+void RibbonCatSimpleButton::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+        d->sizeHint = QSize();
+        updateGeometry();
+    }
+    QAbstractButton::changeEvent(event);
+}
+
+void RibbonCatSimpleButton::enterEvent(QEvent *event)
+{
+    QAbstractButton::enterEvent(event);
+    update();
+}
+
+void RibbonCatSimpleButton::leaveEvent(QEvent *event)
+{
+    QAbstractButton::leaveEvent(event);
+    update();
+}
+
+void RibbonCatSimpleButton::nextCheckState()
+{
+}
+
+void RibbonCatSimpleButton::paintEvent(QPaintEvent *)
+{
+    const RibbonStyle &style = RibbonApplication::theApp().ribbonStyle();
+    const bool enabled = isEnabled();
+    const bool hovered = underMouse();
+
+    int state = NoState;
+    if (!enabled)
+        state = isCheckable() && isChecked() ? 4 : NoState;
+    else if (isDown())
+        state = 1;
+    else if (isCheckable() && isChecked())
+        state = hovered ? 3 : 2;
+    else if (hovered)
+        state = 0;
+
+    const int w = width();
+    const int h = height();
+    const QMargins border(2, 2, 2, 2);
+    QPainter painter(this);
+
+    if (d->size == RibbonCatSimpleAction::SizeLarge) {
+        if (state != NoState) {
+            d->background.set(rect(), QRect(0, 0, style.paletteItemLarge().width(), kLargeRow), border);
+            d->background.draw(painter, style.paletteItemLarge(), state * kLargeRow);
+        }
+        const QPixmap pixmap = RibbonPaint::iconPixmap(icon(), kLargeIcon, enabled);
+        if (!pixmap.isNull()) {
+            const QSize ps = pixmap.size() / pixmap.devicePixelRatio();
+            painter.drawPixmap((w - ps.width()) / 2, (32 - ps.height()) / 2 + 2, pixmap);
+        }
+        painter.setPen(RibbonPaint::textColor(enabled));
+        const QRect textRect = QRect(0, scaled(34), w, h - 34)
+                                   .adjusted(scaled(2), scaled(2), scaled(-2), scaled(-2));
+        painter.drawText(textRect, kLargeTextFlags, text());
+        return;
+    }
+
+    if (state != NoState) {
+        d->background.set(rect(), QRect(0, 0, style.paletteItemSmall().width(), kSmallRow), border);
+        d->background.draw(painter, style.paletteItemSmall(), state * kSmallRow);
+    }
+    const QPixmap pixmap = RibbonPaint::iconPixmap(icon(), kSmallIcon, enabled);
+    if (!pixmap.isNull()) {
+        const QSize ps = pixmap.size() / pixmap.devicePixelRatio();
+        painter.drawPixmap((18 - ps.width()) / 2 + 2, scaled((18 - ps.height()) / 2 + 2), pixmap);
+    }
+    if (d->size == RibbonCatSimpleAction::SizeMedium && !text().isEmpty()) {
+        const int left = pixmap.isNull() ? 2 : 20;
+        painter.setPen(RibbonPaint::textColor(enabled));
+        const QRect textRect = QRect(left, 0, w - left, h)
+                                   .adjusted(scaled(2), scaled(2), scaled(-2), scaled(-2));
+        painter.drawText(textRect, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, text());
+    }
+}
+
+} // namespace zel

@@ -1,0 +1,85 @@
+#include "RibbonPaint_p.h"
+
+#include "RibbonApplication.h"
+#include "RibbonStyle.h"
+
+#include <QAbstractButton>
+#include <QPainter>
+
+namespace zel {
+
+void RibbonSlices::set(const QRect &target, const QRect &source, const QMargins &border)
+{
+    if (target == m_target && source == m_source && border == m_border && !m_pieces.isEmpty())
+        return;
+    m_target = target;
+    m_source = source;
+    m_border = border;
+    m_pieces.clear();
+
+    // Columns and rows as (offset, size) in source and target; the middle one stretches.
+    const int sx[3] = {0, border.left(), source.width() - border.right()};
+    const int sw[3] = {border.left(), source.width() - border.left() - border.right(), border.right()};
+    const int sy[3] = {0, border.top(), source.height() - border.bottom()};
+    const int sh[3] = {border.top(), source.height() - border.top() - border.bottom(), border.bottom()};
+    const int tx[3] = {0, border.left(), target.width() - border.right()};
+    const int tw[3] = {border.left(), target.width() - border.left() - border.right(), border.right()};
+    const int ty[3] = {0, border.top(), target.height() - border.bottom()};
+    const int th[3] = {border.top(), target.height() - border.top() - border.bottom(), border.bottom()};
+
+    for (int row = 0; row < 3; ++row) {
+        for (int col = 0; col < 3; ++col) {
+            if (sw[col] <= 0 || sh[row] <= 0 || tw[col] <= 0 || th[row] <= 0)
+                continue;
+            m_pieces.append({QRect(target.x() + tx[col], target.y() + ty[row], tw[col], th[row]),
+                             QRect(source.x() + sx[col], source.y() + sy[row], sw[col], sh[row])});
+        }
+    }
+}
+
+void RibbonSlices::draw(QPainter &painter, const QPixmap &pixmap, int sourceOffsetY) const
+{
+    if (pixmap.isNull())
+        return;
+    for (const Piece &piece : m_pieces)
+        painter.drawPixmap(piece.target, pixmap, piece.source.translated(0, sourceOffsetY));
+}
+
+namespace RibbonPaint {
+
+void drawThreeSlice(QPainter &painter, const QRect &target, const QPixmap &pixmap,
+                    const QRect &source, int leftCap, int rightCap)
+{
+    RibbonSlices slices;
+    slices.set(target, source, QMargins(leftCap, 0, rightCap, 0));
+    slices.draw(painter, pixmap);
+}
+
+QColor textColor(bool enabled)
+{
+    const RibbonStyle &style = RibbonApplication::theApp().ribbonStyle();
+    return enabled ? style.highlightedCategoryTextColor() : style.disabledCategoryTextColor();
+}
+
+int smallButtonRow(const QAbstractButton &button)
+{
+    const bool checked = button.isCheckable() && button.isChecked();
+    if (!button.isEnabled())
+        return checked ? 0 : -1;
+    if (button.isDown())
+        return 2;
+    if (checked)
+        return button.underMouse() ? 3 : 4;
+    return button.underMouse() ? 1 : -1;
+}
+
+QPixmap iconPixmap(const QIcon &icon, int extent, bool enabled)
+{
+    if (icon.isNull())
+        return QPixmap();
+    return icon.pixmap(QSize(extent, extent), enabled ? QIcon::Normal : QIcon::Disabled, QIcon::Off);
+}
+
+} // namespace RibbonPaint
+
+} // namespace zel

@@ -1,0 +1,64 @@
+#pragma once
+
+// Painting helpers shared by the ribbon's widgets: slicing palette images and the
+// colours and icon modes that follow a widget's enabled state. Not installed.
+
+#include <QColor>
+#include <QIcon>
+#include <QMargins>
+#include <QPixmap>
+#include <QRect>
+#include <QVarLengthArray>
+
+class QAbstractButton;
+class QPainter;
+
+namespace zel {
+
+// A source rectangle of an image cut by a border into up to nine pieces and mapped onto
+// a target rectangle: corners keep their size, edges stretch along their side, the
+// centre stretches both ways. A three-slice is a border with zero top and bottom.
+// The piece geometry is kept between paints; set() recomputes only when an input
+// changed, so widgets may call it from paintEvent.
+class RibbonSlices
+{
+public:
+    void set(const QRect &target, const QRect &source, const QMargins &border);
+    // Draws the pieces with the source moved down by sourceOffsetY, which selects a
+    // row of a state sheet without recomputing the geometry.
+    void draw(QPainter &painter, const QPixmap &pixmap, int sourceOffsetY = 0) const;
+
+private:
+    struct Piece
+    {
+        QRect target;
+        QRect source;
+    };
+    QVarLengthArray<Piece, 9> m_pieces;
+    QRect m_target;
+    QRect m_source;
+    QMargins m_border;
+};
+
+namespace RibbonPaint {
+
+// Draws a three-slice (caps of leftCap and rightCap pixels) of source onto target.
+void drawThreeSlice(QPainter &painter, const QRect &target, const QPixmap &pixmap,
+                    const QRect &source, int leftCap, int rightCap);
+
+// The pen colour of a control's text and symbols by its enabled state.
+QColor textColor(bool enabled);
+
+// Height of a row in the small state sheets (normalButtonSmall, paletteItemSmall and
+// the strip segments).
+const int SmallRowHeight = 22;
+
+// Row of normalButtonSmall for a small tool button's state, -1 for no background.
+int smallButtonRow(const QAbstractButton &button);
+
+// A pixmap of at most extent x extent pixels in the mode of the enabled state.
+QPixmap iconPixmap(const QIcon &icon, int extent, bool enabled);
+
+} // namespace RibbonPaint
+
+} // namespace zel

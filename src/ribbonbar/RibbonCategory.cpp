@@ -1,0 +1,294 @@
+#include "RibbonCategory.h"
+
+#include "RibbonApplication.h"
+#include "RibbonCatActionGroup.h"
+#include "RibbonCatActionGroupWidget.h"
+#include "RibbonCatSimpleAction.h"
+#include "RibbonCatSimpleButton.h"
+#include "RibbonCategoryAction.h"
+#include "RibbonCategoryLayout.h"
+#include "RibbonPaint_p.h"
+#include "RibbonStyle.h"
+
+#include <QActionEvent>
+#include <QCursor>
+#include <QMap>
+#include <QPainter>
+#include <QPointer>
+
+namespace zel {
+
+namespace {
+
+int dpiRound(double v)
+{
+    return int(v * RibbonApplication::theApp().dpiFactor().second + 0.5);
+}
+
+// Makers of the control for a member, tried in order (subclasses before their bases);
+// each returns null for an action it does not handle.
+using ControlMaker = QWidget *(*)(RibbonAction *action, QWidget *parent);
+
+QWidget *makeSimpleButton(RibbonAction *action, QWidget *parent)
+{
+    auto *simple = qobject_cast<RibbonCatSimpleAction *>(action);
+    return simple ? new RibbonCatSimpleButton(*simple, parent) : nullptr;
+}
+
+QWidget *makeGroupStrip(RibbonAction *action, QWidget *parent)
+{
+    auto *group = qobject_cast<RibbonCatActionGroup *>(action);
+    return group ? new RibbonCatActionGroupWidget(*group, parent) : nullptr;
+}
+
+const ControlMaker controlMakers[] = {
+    makeSimpleButton,
+    makeGroupStrip,
+};
+
+QWidget *makeControl(RibbonAction *action, QWidget *parent)
+{
+    for (ControlMaker maker : controlMakers) {
+        if (QWidget *control = maker(action, parent))
+            return control;
+    }
+    return nullptr;
+}
+
+const int kCapWidth = 3;
+const int kImageWidth = 100;
+const int kTopHoverOffset = 68;
+const int kBottomHoverOffset = 17;
+
+} // namespace
+
+struct RibbonCategory::Priv
+{
+    QPointer<RibbonCategoryAction> action;
+    RibbonCategoryLayout *layout = nullptr;
+    QMap<RibbonAction *, QPointer<QWidget>> widgets;
+    QString caption;            // the caption measured for the size hint
+    mutable QSize sizeHint;     // invalid until computed
+
+    // Background bands, recomputed on resize.
+    RibbonSlices topEdge;
+    RibbonSlices body;
+    RibbonSlices captionBand;
+    RibbonSlices bottomEdge;
+    QRect captionRect;
+
+    // The entry of the map whose key is action, compared by address only: the action
+    // may be in the middle of its destruction.
+    QMap<RibbonAction *, QPointer<QWidget>>::iterator find(const QAction *action)
+    {
+        for (auto it = widgets.begin(); it != widgets.end(); ++it) {
+            if (static_cast<QAction *>(it.key()) == action)
+                return it;
+        }
+        return widgets.end();
+    }
+};
+
+RibbonCategory::RibbonCategory(QWidget *parent, RibbonCategoryAction &action)
+    : QWidget(parent)
+    , d(new Priv)
+{
+    d->action = &action;
+    d->caption = action.text();
+    setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
+    setMouseTracking(true);
+    setAttribute(Qt::WA_Hover);
+
+    connect(&action, SIGNAL(actionAdded(RibbonAction*)), this, SLOT(addRibbonAction(RibbonAction*)));
+    connect(&action, SIGNAL(actionRemoved(RibbonAction*)), this, SLOT(removeRibbonAction(RibbonAction*)));
+    connect(&action, SIGNAL(changed()), this, SLOT(onCategoryChanged()));
+
+    d->layout = new RibbonCategoryLayout(this);
+    setLayout(d->layout);
+    for (RibbonAction *member : action.actions())
+        QWidget::addAction(member);
+}
+
+RibbonCategory::~RibbonCategory() = default;
+
+RibbonCategoryAction *RibbonCategory::action() const
+{
+    return d->action;
+}
+
+RibbonAction *RibbonCategory::action(QWidget *widget) const
+{
+    if (!widget)
+        return nullptr;
+    for (auto it = d->widgets.cbegin(); it != d->widgets.cend(); ++it) {
+        if (it.value() == widget)
+            return it.key();
+    }
+    return nullptr;
+}
+
+QWidget *RibbonCategory::widget(RibbonAction *action) const
+{
+    return d->widgets.value(action);
+}
+
+int RibbonCategory::actionRow(RibbonAction *action) const
+{
+    return d->action ? d->action->actionRow(action) : -1;
+}
+
+RibbonCategoryLayout *RibbonCategory::categoryLayout() const
+{
+    return d->layout;
+}
+
+QSize RibbonCategory::sizeHint() const
+{
+    if (!d->sizeHint.isValid()) {
+        const QSize layoutSize = d->layout->sizeHint();
+        const int captionWidth = fontMetrics().horizontalAdvance(d->caption) + 6;
+        d->sizeHint = QSize(qMax(qMax(layoutSize.width(), captionWidth), 50), layoutSize.height());
+    }
+    return d->sizeHint;
+}
+
+void RibbonCategory::invalidateSizeHint()
+{
+    d->sizeHint = QSize();
+    updateGeometry();
+}
+
+void RibbonCategory::addRibbonAction(RibbonAction *action)
+{
+    QWidget::addAction(action);
+}
+
+void RibbonCategory::removeRibbonAction(RibbonAction *action)
+{
+    QWidget::removeAction(action);
+}
+
+void RibbonCategory::actionEvent(QActionEvent *event)
+{
+    QWidget::actionEvent(event);
+    switch (event->type()) {
+    case QEvent::ActionAdded: {
+        RibbonAction *action = qobject_cast<RibbonAction *>(event->action());
+        if (!action || d->widgets.contains(action))
+            return;
+        QWidget *control = makeControl(action, this);
+        if (!control)
+            return;
+        d->widgets.insert(action, control);
+        // A child added to a visible widget stays hidden until shown, and a hidden
+        // control would enter the arrangement with an empty size.
+        if (isVisible())
+            control->show();
+        d->layout->addWidget(control);
+        invalidateSizeHint();
+        update();
+        break;
+    }
+    case QEvent::ActionRemoved: {
+        const auto it = d->find(event->action());
+        if (it == d->widgets.end())
+            return;
+        QWidget *control = it.value();
+        d->widgets.erase(it);
+        if (control) {
+            d->layout->removeWidget(control);
+            delete control;
+        }
+        invalidateSizeHint();
+        update();
+        break;
+    }
+    default:
+        break;
+    }
+}
+
+void RibbonCategory::onCategoryChanged()
+{
+    // The category also reports every change of a member; only a new caption matters here.
+    if (d->action && d->action->text() != d->caption) {
+        d->caption = d->action->text();
+        invalidateSizeHint();
+        update();
+    }
+}
+
+void RibbonCategory::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        invalidateSizeHint();
+    QWidget::changeEvent(event);
+}
+
+void RibbonCategory::enterEvent(QEvent *event)
+{
+    QWidget::enterEvent(event);
+    update();
+}
+
+void RibbonCategory::leaveEvent(QEvent *event)
+{
+    QWidget::leaveEvent(event);
+    update();
+}
+
+void RibbonCategory::mouseMoveEvent(QMouseEvent *event)
+{
+    QWidget::mouseMoveEvent(event);
+    update();
+}
+
+void RibbonCategory::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    const int w = width();
+    const QMargins caps(kCapWidth, 0, kCapWidth, 0);
+    const int bodyHeight = dpiRound(66);
+    const QRect topEdge(0, 0, w, 3);
+    const QRect body(0, 3, w, bodyHeight);
+    const QRect captionBand(0, bodyHeight + 3, w, dpiRound(13));
+    const QRect bottomEdge(0, dpiRound(79) + 3, w, 3);
+
+    d->topEdge.set(topEdge, QRect(0, 0, kImageWidth, 3), caps);
+    d->body.set(body, QRect(0, 3, kImageWidth, 65), caps);
+    d->captionBand.set(captionBand, QRect(0, 0, kImageWidth, 14), caps);
+    d->bottomEdge.set(bottomEdge, QRect(0, 14, kImageWidth, 3), caps);
+    d->captionRect = QRect(0, dpiRound(69), w, dpiRound(14)).adjusted(3, 0, -3, 0);
+}
+
+void RibbonCategory::paintEvent(QPaintEvent *)
+{
+    const RibbonStyle &style = RibbonApplication::theApp().ribbonStyle();
+    const bool hovered = rect().contains(mapFromGlobal(QCursor::pos()));
+    QPainter painter(this);
+
+    const QPixmap &top = style.categoryTop();
+    const QPixmap &bottom = style.categoryBottom();
+    // The hovered look lies below the normal one in both images.
+    const int topOffset = hovered ? kTopHoverOffset : 0;
+    const int bottomOffset = hovered ? kBottomHoverOffset : 0;
+    d->topEdge.draw(painter, top, topOffset);
+    d->body.draw(painter, top, topOffset);
+    d->captionBand.draw(painter, bottom, bottomOffset);
+    d->bottomEdge.draw(painter, bottom, bottomOffset);
+
+    painter.setPen(style.categoryCaptionTextColor());
+    painter.drawText(d->captionRect, Qt::AlignCenter, d->caption);
+
+    // In-ribbon galleries get a thin frame.
+    painter.setPen(QColor(QStringLiteral("#afafaf")));
+    painter.setBrush(Qt::NoBrush);
+    for (const QPointer<QWidget> &control : qAsConst(d->widgets)) {
+        if (control && control->inherits("zel::RibbonCatListPreview")) {
+            const QRect g = control->geometry();
+            painter.drawRect(g.x() - 1, g.y() - 1, g.width() + 1, g.height() + 1);
+        }
+    }
+}
+
+} // namespace zel
