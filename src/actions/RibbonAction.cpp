@@ -2,6 +2,9 @@
 
 #include "RibbonActionListener.h"
 #include "RibbonActionsContainer.h"
+#include "RibbonCategoriesPanelAction.h"
+#include "RibbonCategoryAction.h"
+#include "RibbonContextCategoryPanelAction.h"
 
 #include <QActionEvent>
 #include <QCoreApplication>
@@ -11,6 +14,25 @@
 namespace zel {
 
 QStringList RibbonAction::ForbiddenActions;
+
+namespace {
+
+// Signals of the action classes name their pointer types without the namespace, as
+// declared inside it; the short names are registered too so that queued connections
+// and signal spies can carry them.
+void registerActionMetaTypes()
+{
+    static const bool registered = [] {
+        qRegisterMetaType<RibbonAction *>("RibbonAction*");
+        qRegisterMetaType<RibbonCategoryAction *>("RibbonCategoryAction*");
+        qRegisterMetaType<RibbonCategoriesPanelAction *>("RibbonCategoriesPanelAction*");
+        qRegisterMetaType<RibbonContextCategoryPanelAction *>("RibbonContextCategoryPanelAction*");
+        return true;
+    }();
+    Q_UNUSED(registered)
+}
+
+} // namespace
 
 RibbonAction::RibbonAction(QObject *parent)
     : QWidgetAction(parent)
@@ -97,6 +119,7 @@ void RibbonAction::adoptAlias()
 
 void RibbonAction::connectToListener()
 {
+    registerActionMetaTypes();
     // Unique: setAliasAction() makes this connection again, and a trigger must reach
     // the listener (and so the host's report) exactly once.
     connect(this, SIGNAL(triggered()), &RibbonActionListener::instance(),
