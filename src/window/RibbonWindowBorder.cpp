@@ -265,21 +265,27 @@ void RibbonWindowBorder::BorderItem::paintEvent(QPaintEvent *event)
         case Bottom:
             p.drawLine(r.left(), r.top() + i, r.right(), r.top() + i);
             break;
+        // Each L is drawn as its vertical leg plus the rest of its horizontal leg, so the
+        // shared corner pixel is not blended twice.
         case TopLeft:
             p.drawLine(r.right() - i, r.bottom() - i, r.right() - i, r.bottom());
-            p.drawLine(r.right() - i, r.bottom() - i, r.right(), r.bottom() - i);
+            if (i > 0)
+                p.drawLine(r.right() - i + 1, r.bottom() - i, r.right(), r.bottom() - i);
             break;
         case TopRight:
             p.drawLine(r.left() + i, r.bottom() - i, r.left() + i, r.bottom());
-            p.drawLine(r.left(), r.bottom() - i, r.left() + i, r.bottom() - i);
+            if (i > 0)
+                p.drawLine(r.left(), r.bottom() - i, r.left() + i - 1, r.bottom() - i);
             break;
         case BottomRight:
             p.drawLine(r.left() + i, r.top(), r.left() + i, r.top() + i);
-            p.drawLine(r.left(), r.top() + i, r.left() + i, r.top() + i);
+            if (i > 0)
+                p.drawLine(r.left(), r.top() + i, r.left() + i - 1, r.top() + i);
             break;
         case BottomLeft:
             p.drawLine(r.right() - i, r.top(), r.right() - i, r.top() + i);
-            p.drawLine(r.right() - i, r.top() + i, r.right(), r.top() + i);
+            if (i > 0)
+                p.drawLine(r.right() - i + 1, r.top() + i, r.right(), r.top() + i);
             break;
         default:
             break;

@@ -1,0 +1,564 @@
+#include "ZelTest.h"
+
+#include "RibbonPlatform.h"
+#include "RibbonStyle.h"
+#include "RibbonWindow.h"
+
+#include <QIcon>
+#include <QImage>
+#include <QMouseEvent>
+
+#include <memory>
+
+using namespace zel;
+
+namespace {
+
+// Sends mouse events with explicit global positions: while a window moves under the
+// cursor, positions derived from the widget would drift with it.
+class Mouse
+{
+public:
+    explicit Mouse(QWidget *widget) : m_widget(widget) {}
+
+    void press(const QPoint &global, Qt::MouseButton button = Qt::LeftButton)
+    {
+        m_held |= button;
+        send(QEvent::MouseButtonPress, global, button);
+    }
+    void release(const QPoint &global, Qt::MouseButton button = Qt::LeftButton)
+    {
+        m_held &= ~Qt::MouseButtons(button);
+        send(QEvent::MouseButtonRelease, global, button);
+    }
+    void move(const QPoint &global) { send(QEvent::MouseMove, global, Qt::NoButton); }
+    void doubleClick(const QPoint &global)
+    {
+        press(global);
+        release(global);
+        m_held |= Qt::LeftButton;
+        send(QEvent::MouseButtonDblClick, global, Qt::LeftButton);
+        release(global);
+    }
+    void click(const QPoint &global)
+    {
+        press(global);
+        release(global);
+    }
+
+private:
+    void send(QEvent::Type type, const QPoint &global, Qt::MouseButton button)
+    {
+        QMouseEvent event(type, m_widget->mapFromGlobal(global), global, button, m_held,
+                          Qt::NoModifier);
+        QCoreApplication::sendEvent(m_widget, &event);
+    }
+
+    QWidget *m_widget;
+    Qt::MouseButtons m_held = Qt::NoButton;
+};
+
+const QRect kStartGeometry(100, 100, 300, 200);
+
+QRect minimizeRect(const QWidget *w) { return QRect(w->width() - 67, 10, 16, 16); }
+QRect maximizeRect(const QWidget *w) { return QRect(w->width() - 45, 10, 16, 16); }
+QRect closeRect(const QWidget *w) { return QRect(w->width() - 23, 10, 16, 16); }
+
+QRect maximizedGeometry()
+{
+    const QRect available = RibbonPlatform::availableGeometry();
+    return RibbonPlatform::isVistaOrLater() ? available.adjusted(-7, -7, 7, -1)
+                                            : available.adjusted(-7, -7, 7, 7);
+}
+
+const RibbonStyle &style()
+{
+    return RibbonApplication::theApp().ribbonStyle();
+}
+
+QImage part(const QImage &image, const QRect &rect)
+{
+    return image.copy(rect);
+}
+
+} // namespace
+
+class tst_RibbonWindow : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void construction();
+    void systemButtons_data();
+    void systemButtons();
+    void maximizeButtonRestores();
+    void otherButtonsStayIdle_data();
+    void otherButtonsStayIdle();
+    void otherButtonReleaseKeepsButtonPressed();
+    void captionDragMoves();
+    void borderResize_data();
+    void borderResize();
+    void resizeStepBelowMinimumIsDropped_data();
+    void resizeStepBelowMinimumIsDropped();
+    void maximizedWindowNeitherMovesNorResizes();
+    void tinyWindowHasNoBorderAreas_data();
+    void tinyWindowHasNoBorderAreas();
+    void maskCutsCornersSymmetrically();
+    void styleChangeResetsBackground();
+    void titleAndIconPaintOnlyTheirPlace();
+    void inactiveWindowUsesInactiveColours();
+    void pressedButtonIsDrawnUntilRelease();
+
+private:
+    QPoint global(const QPoint &local) const { return m_window->mapToGlobal(local); }
+
+    std::unique_ptr<RibbonWindow> m_window;
+};
+
+void tst_RibbonWindow::init()
+{
+    m_window.reset(new RibbonWindow);
+    m_window->setGeometry(kStartGeometry);
+    m_window->show();
+    QApplication::setActiveWindow(m_window.get());
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    QCOMPARE(m_window->geometry(), kStartGeometry);
+}
+
+void tst_RibbonWindow::cleanup()
+{
+    m_window.reset();
+}
+
+void tst_RibbonWindow::construction()
+{
+    const Qt::WindowFlags flags = Qt::FramelessWindowHint | Qt::WindowSystemMenuHint;
+    QCOMPARE(m_window->windowFlags() & flags, flags);
+    QVERIFY(m_window->hasMouseTracking());
+    const int c = m_window->captionHeight();
+    QCOMPARE(c, qMax(m_window->fontMetrics().height(), 16) + 17);
+    QCOMPARE(m_window->contentsMargins(), QMargins(7, c, 7, 7));
+    QCOMPARE(m_window->captionRect(),
+             QRect(29, 10, 300 - 96, qMax(m_window->fontMetrics().height(), 16)));
+
+    RibbonWindow child(m_window.get(), Qt::Widget);
+    QCOMPARE(child.parentWidget(), m_window.get());
+    QVERIFY(!child.isWindow());
+}
+
+void tst_RibbonWindow::systemButtons_data()
+{
+    QTest::addColumn<int>("button");
+    QTest::addColumn<bool>("releaseInside");
+
+    QTest::newRow("minimise") << 0 << true;
+    QTest::newRow("minimise, released outside") << 0 << false;
+    QTest::newRow("maximise") << 1 << true;
+    QTest::newRow("maximise, released outside") << 1 << false;
+    QTest::newRow("close") << 2 << true;
+    QTest::newRow("close, released outside") << 2 << false;
+}
+
+void tst_RibbonWindow::systemButtons()
+{
+    QFETCH(int, button);
+    QFETCH(bool, releaseInside);
+
+    const QRect rects[] = {minimizeRect(m_window.get()), maximizeRect(m_window.get()),
+                           closeRect(m_window.get())};
+    const QRect target = rects[button];
+    Mouse mouse(m_window.get());
+    mouse.press(global(target.center()));
+    QVERIFY(m_window->isVisible());
+    QVERIFY(!m_window->isMinimized());
+    QCOMPARE(m_window->geometry(), kStartGeometry);
+
+    // Outside every button, over the client area.
+    const QPoint outside = releaseInside ? target.center() : QPoint(150, 120);
+    mouse.release(global(outside));
+
+    QCOMPARE(m_window->isMinimized(), button == 0 && releaseInside);
+    QCOMPARE(m_window->geometry(),
+             button == 1 && releaseInside ? maximizedGeometry() : kStartGeometry);
+    QCOMPARE(m_window->isVisible(), !(button == 2 && releaseInside));
+
+    // The machine is back in its idle state: a release alone does nothing.
+    if (m_window->isVisible() && !m_window->isMinimized()) {
+        const QRect geometry = m_window->geometry();
+        mouse.release(global(closeRect(m_window.get()).center()));
+        QVERIFY(m_window->isVisible());
+        QCOMPARE(m_window->geometry(), geometry);
+    }
+}
+
+void tst_RibbonWindow::maximizeButtonRestores()
+{
+    Mouse mouse(m_window.get());
+    mouse.click(global(maximizeRect(m_window.get()).center()));
+    QCOMPARE(m_window->geometry(), maximizedGeometry());
+    QVERIFY(!m_window->isMaximized()); // the window state is left alone
+    mouse.click(global(maximizeRect(m_window.get()).center()));
+    QCOMPARE(m_window->geometry(), kStartGeometry);
+}
+
+void tst_RibbonWindow::otherButtonsStayIdle_data()
+{
+    QTest::addColumn<QPoint>("pressAt");
+
+    QTest::newRow("caption") << QPoint(100, 18);
+    QTest::newRow("left border") << QPoint(3, 100);
+    // The buttons of a window 300 pixels wide.
+    QTest::newRow("minimise") << QPoint(241, 18);
+    QTest::newRow("close") << QPoint(285, 18);
+}
+
+void tst_RibbonWindow::otherButtonsStayIdle()
+{
+    QFETCH(QPoint, pressAt);
+
+    for (Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton}) {
+        Mouse mouse(m_window.get());
+        const QPoint start = global(pressAt);
+        mouse.press(start, button);
+        mouse.move(start + QPoint(-30, 25));
+        QCOMPARE(m_window->geometry(), kStartGeometry);
+        // Had the press entered a button state, this left release would act.
+        mouse.release(start, Qt::LeftButton);
+        mouse.release(start, button);
+        QVERIFY(m_window->isVisible());
+        QVERIFY(!m_window->isMinimized());
+        QCOMPARE(m_window->geometry(), kStartGeometry);
+    }
+}
+
+void tst_RibbonWindow::otherButtonReleaseKeepsButtonPressed()
+{
+    Mouse mouse(m_window.get());
+    const QPoint close = global(closeRect(m_window.get()).center());
+    mouse.press(close);
+    mouse.release(close, Qt::RightButton);
+    QVERIFY(m_window->isVisible());
+    mouse.release(close);
+    QVERIFY(!m_window->isVisible());
+}
+
+void tst_RibbonWindow::captionDragMoves()
+{
+    Mouse mouse(m_window.get());
+    const QPoint start = global(m_window->captionRect().center());
+    mouse.press(start);
+    QCOMPARE(m_window->geometry(), kStartGeometry);
+
+    mouse.move(start + QPoint(30, 20));
+    QCOMPARE(m_window->geometry(), kStartGeometry.translated(30, 20));
+    mouse.move(start + QPoint(-45, 7));
+    QCOMPARE(m_window->geometry(), kStartGeometry.translated(-45, 7));
+
+    mouse.release(start + QPoint(-45, 7));
+    mouse.move(start + QPoint(100, 100));
+    QCOMPARE(m_window->geometry(), kStartGeometry.translated(-45, 7));
+}
+
+void tst_RibbonWindow::borderResize_data()
+{
+    QTest::addColumn<QPoint>("pressAt");
+    QTest::addColumn<QPoint>("delta");
+    QTest::addColumn<int>("cursor");
+    QTest::addColumn<QRect>("expected");
+
+    const int hor = Qt::SizeHorCursor;
+    const int ver = Qt::SizeVerCursor;
+    const int fdiag = Qt::SizeFDiagCursor;
+    const int bdiag = Qt::SizeBDiagCursor;
+    QTest::newRow("top") << QPoint(150, 4) << QPoint(5, -10) << ver << QRect(100, 90, 300, 210);
+    QTest::newRow("top-right") << QPoint(296, 2) << QPoint(10, -10) << bdiag
+                               << QRect(100, 90, 310, 210);
+    QTest::newRow("right") << QPoint(297, 100) << QPoint(20, 5) << hor
+                           << QRect(100, 100, 320, 200);
+    QTest::newRow("bottom-right") << QPoint(299, 199) << QPoint(10, 10) << fdiag
+                                  << QRect(100, 100, 310, 210);
+    QTest::newRow("bottom") << QPoint(150, 197) << QPoint(5, 10) << ver
+                            << QRect(100, 100, 300, 210);
+    QTest::newRow("bottom-left") << QPoint(0, 195) << QPoint(-10, 10) << bdiag
+                                 << QRect(90, 100, 310, 210);
+    QTest::newRow("left") << QPoint(3, 100) << QPoint(-20, 5) << hor
+                          << QRect(80, 100, 320, 200);
+    QTest::newRow("top-left") << QPoint(6, 9) << QPoint(-10, -10) << fdiag
+                              << QRect(90, 90, 310, 210);
+    QTest::newRow("client area") << QPoint(150, 100) << QPoint(10, 10) << int(Qt::ArrowCursor)
+                                 << kStartGeometry;
+    QTest::newRow("just inside the frame") << QPoint(7, 100) << QPoint(10, 10)
+                                           << int(Qt::ArrowCursor) << kStartGeometry;
+}
+
+void tst_RibbonWindow::borderResize()
+{
+    QFETCH(QPoint, pressAt);
+    QFETCH(QPoint, delta);
+    QFETCH(int, cursor);
+    QFETCH(QRect, expected);
+
+    m_window->setCursor(Qt::CrossCursor);
+    Mouse mouse(m_window.get());
+    const QPoint start = global(pressAt);
+    mouse.move(start);
+    QCOMPARE(int(m_window->cursor().shape()), cursor);
+
+    mouse.press(start);
+    mouse.move(start + delta);
+    QCOMPARE(m_window->geometry(), expected);
+    mouse.release(start + delta);
+    mouse.move(start + 2 * delta);
+    QCOMPARE(m_window->geometry(), expected);
+}
+
+void tst_RibbonWindow::resizeStepBelowMinimumIsDropped_data()
+{
+    QTest::addColumn<QSize>("minimum");
+    QTest::addColumn<QPoint>("pressAt");
+    QTest::addColumn<QList<QPoint>>("steps");
+    QTest::addColumn<QList<QRect>>("expected");
+
+    QTest::newRow("minimum width, right edge")
+        << QSize(250, 0) << QPoint(297, 100)
+        << QList<QPoint>{{-30, 0}, {-60, 0}, {-40, 0}}
+        << QList<QRect>{{100, 100, 270, 200}, {100, 100, 270, 200}, {100, 100, 260, 200}};
+    QTest::newRow("minimum height, top edge")
+        << QSize(0, 150) << QPoint(150, 4)
+        << QList<QPoint>{{0, 40}, {0, 60}, {0, 50}}
+        << QList<QRect>{{100, 140, 300, 160}, {100, 140, 300, 160}, {100, 150, 300, 150}};
+    QTest::newRow("frame width, left edge")
+        << QSize() << QPoint(3, 100)
+        << QList<QPoint>{{287, 0}, {286, 0}}
+        << QList<QRect>{kStartGeometry, {386, 100, 14, 200}};
+    QTest::newRow("frame height, bottom edge")
+        << QSize() << QPoint(150, 197)
+        << QList<QPoint>{{0, -184}, {0, -183}, {0, -300}}
+        << QList<QRect>{kStartGeometry, {100, 100, 300, 17}, {100, 100, 300, 17}};
+    QTest::newRow("corner, one direction too small")
+        << QSize(200, 100) << QPoint(299, 199)
+        << QList<QPoint>{{-50, -50}, {-150, -10}}
+        << QList<QRect>{{100, 100, 250, 150}, {100, 100, 250, 150}};
+}
+
+void tst_RibbonWindow::resizeStepBelowMinimumIsDropped()
+{
+    QFETCH(QSize, minimum);
+    QFETCH(QPoint, pressAt);
+    QFETCH(QList<QPoint>, steps);
+    QFETCH(QList<QRect>, expected);
+
+    if (minimum.isValid())
+        m_window->setMinimumSize(minimum);
+    QCOMPARE(m_window->geometry(), kStartGeometry);
+
+    Mouse mouse(m_window.get());
+    const QPoint start = global(pressAt);
+    mouse.press(start);
+    for (int i = 0; i < steps.size(); ++i) {
+        mouse.move(start + steps.at(i));
+        QCOMPARE(m_window->geometry(), expected.at(i));
+    }
+    mouse.release(start + steps.last());
+}
+
+void tst_RibbonWindow::maximizedWindowNeitherMovesNorResizes()
+{
+    Mouse mouse(m_window.get());
+    mouse.doubleClick(global(m_window->captionRect().center()));
+    const QRect maximized = maximizedGeometry();
+    QCOMPARE(m_window->geometry(), maximized);
+
+    // The cursor is left as it is over the frame of a maximised window.
+    m_window->setCursor(Qt::CrossCursor);
+    const QPoint leftEdge = maximized.topLeft() + QPoint(3, 100);
+    mouse.move(leftEdge);
+    QCOMPARE(m_window->cursor().shape(), Qt::CrossCursor);
+
+    mouse.press(leftEdge);
+    mouse.move(leftEdge + QPoint(40, 0));
+    mouse.release(leftEdge + QPoint(40, 0));
+    QCOMPARE(m_window->geometry(), maximized);
+
+    const QPoint caption = global(m_window->captionRect().center());
+    mouse.press(caption);
+    mouse.move(caption + QPoint(40, 40));
+    mouse.release(caption + QPoint(40, 40));
+    QCOMPARE(m_window->geometry(), maximized);
+
+    // A double-click elsewhere does not restore; on the caption it does.
+    mouse.doubleClick(global(QPoint(200, 200)));
+    QCOMPARE(m_window->geometry(), maximized);
+    mouse.doubleClick(global(m_window->captionRect().center()));
+    QCOMPARE(m_window->geometry(), kStartGeometry);
+}
+
+void tst_RibbonWindow::tinyWindowHasNoBorderAreas_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<QPoint>("pressAt");
+
+    QTest::newRow("narrow, left edge") << QSize(13, 100) << QPoint(1, 50);
+    QTest::newRow("narrow, bottom-right") << QSize(13, 100) << QPoint(12, 99);
+    QTest::newRow("low, top edge") << QSize(100, 16) << QPoint(50, 1);
+    QTest::newRow("low, bottom edge") << QSize(100, 16) << QPoint(50, 15);
+}
+
+void tst_RibbonWindow::tinyWindowHasNoBorderAreas()
+{
+    QFETCH(QSize, size);
+    QFETCH(QPoint, pressAt);
+
+    m_window->resize(size);
+    QTRY_COMPARE(m_window->size(), size);
+    const QRect geometry = m_window->geometry();
+
+    m_window->setCursor(Qt::SizeAllCursor);
+    Mouse mouse(m_window.get());
+    const QPoint start = global(pressAt);
+    mouse.move(start);
+    QCOMPARE(m_window->cursor().shape(), Qt::ArrowCursor);
+    mouse.press(start);
+    mouse.move(start + QPoint(30, 30));
+    mouse.release(start + QPoint(30, 30));
+    QCOMPARE(m_window->geometry(), geometry);
+}
+
+void tst_RibbonWindow::maskCutsCornersSymmetrically()
+{
+    for (const QSize &size : {QSize(300, 200), QSize(120, 60)}) {
+        m_window->resize(size);
+        QTRY_COMPARE(m_window->size(), size);
+        const QRegion mask = m_window->mask();
+        const int w = size.width();
+        const int h = size.height();
+        QCOMPARE(mask.boundingRect(), QRect(0, 0, w, h));
+        QVERIFY(mask.contains(QPoint(w / 2, h / 2)));
+        QVERIFY(mask.contains(QPoint(w / 2, 0)));
+        QVERIFY(mask.contains(QPoint(0, h / 2)));
+        QVERIFY(mask.contains(QPoint(w - 1, h / 2)));
+        QVERIFY(mask.contains(QPoint(w / 2, h - 1)));
+
+        int cut = 0;
+        for (int y = 0; y < 5; ++y) {
+            for (int x = 0; x < 5; ++x) {
+                const bool topLeft = mask.contains(QPoint(x, y));
+                QCOMPARE(mask.contains(QPoint(w - 1 - x, y)), topLeft);
+                QCOMPARE(mask.contains(QPoint(x, h - 1 - y)), topLeft);
+                QCOMPARE(mask.contains(QPoint(w - 1 - x, h - 1 - y)), topLeft);
+                // The steps are diagonal: a corner pixel is cut exactly when its mirror
+                // across the diagonal is.
+                QCOMPARE(mask.contains(QPoint(y, x)), topLeft);
+                if (!topLeft)
+                    ++cut;
+            }
+        }
+        QVERIFY(!mask.contains(QPoint(0, 0)));
+        QVERIFY(!mask.contains(QPoint(1, 1)));
+        QVERIFY(mask.contains(QPoint(4, 0)));
+        QVERIFY(mask.contains(QPoint(2, 2)));
+        // Four pixels of the first row, two of the second, and their mirrors in the
+        // first column: (0,0) (1,0) (2,0) (3,0) (1,1) (0,1) (0,2) (0,3).
+        QCOMPARE(cut, 8);
+    }
+}
+
+void tst_RibbonWindow::styleChangeResetsBackground()
+{
+    QPalette pal = m_window->palette();
+    pal.setColor(QPalette::Window, Qt::red);
+    m_window->setPalette(pal);
+    QCOMPARE(m_window->palette().color(QPalette::Window), QColor(Qt::red));
+
+    emit RibbonApplication::theApp().ribbonStyleChanged();
+    for (QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
+        QCOMPARE(m_window->palette().color(group, QPalette::Window), style().mainClientColor());
+}
+
+void tst_RibbonWindow::titleAndIconPaintOnlyTheirPlace()
+{
+    const QImage blank = m_window->grab().toImage();
+
+    m_window->setWindowTitle(QStringLiteral("Find and replace"));
+    const QImage titled = m_window->grab().toImage();
+    const QRect caption = m_window->captionRect();
+    QVERIFY(part(titled, caption) != part(blank, caption));
+    QImage outside = titled;
+    QImage outsideBlank = blank;
+    for (QImage *image : {&outside, &outsideBlank}) {
+        for (int y = caption.top(); y <= caption.bottom(); ++y)
+            for (int x = caption.left(); x <= caption.right(); ++x)
+                image->setPixel(x, y, 0);
+    }
+    QCOMPARE(outside, outsideBlank);
+
+    QPixmap iconPixmap(16, 16);
+    iconPixmap.fill(Qt::magenta);
+    m_window->setWindowIcon(QIcon(iconPixmap));
+    const QImage withIcon = m_window->grab().toImage();
+    const int lineHeight = qMax(m_window->fontMetrics().height(), 16);
+    const QRect iconRect(7, 10 + (lineHeight - 16) / 2, 16, 16);
+    QCOMPARE(withIcon.pixelColor(iconRect.center()), QColor(Qt::magenta));
+    QCOMPARE(part(withIcon, caption), part(titled, caption));
+    QVERIFY(part(titled, iconRect) != part(withIcon, iconRect));
+
+    // A title too long for the caption is elided, never drawn over the buttons.
+    const QRect buttons(minimizeRect(m_window.get()).left(), 0, 67, 30);
+    m_window->setWindowTitle(QString(200, QLatin1Char('W')));
+    QCOMPARE(part(m_window->grab().toImage(), buttons), part(titled, buttons));
+}
+
+void tst_RibbonWindow::inactiveWindowUsesInactiveColours()
+{
+    m_window->setWindowTitle(QStringLiteral("Find and replace"));
+    const QImage active = m_window->grab().toImage();
+
+    QWidget other;
+    other.setGeometry(500, 400, 100, 100);
+    other.show();
+    QApplication::setActiveWindow(&other);
+    QVERIFY(QTest::qWaitForWindowActive(&other));
+    QVERIFY(!m_window->isActiveWindow());
+    const QImage inactive = m_window->grab().toImage();
+
+    const QRect caption = m_window->captionRect();
+    QVERIFY(part(active, caption) != part(inactive, caption));
+    if (style().mainBorder().isNull() || style().mainBorderCaption().isNull())
+        QSKIP("The palette has no frame images in this build");
+    const int c = m_window->captionHeight();
+    const QRect leftSide(0, c, 7, m_window->height() - 7 - c);
+    const QRect bottom(7, m_window->height() - 7, m_window->width() - 14, 7);
+    QVERIFY(part(active, leftSide) != part(inactive, leftSide));
+    QVERIFY(part(active, bottom) != part(inactive, bottom));
+}
+
+void tst_RibbonWindow::pressedButtonIsDrawnUntilRelease()
+{
+    if (style().sysBtnBack().isNull() || style().sysBtnCloseSmall().isNull())
+        QSKIP("The palette has no system-button images in this build");
+
+    const QRect close = closeRect(m_window.get());
+    QCursor::setPos(global(QPoint(150, 120)));
+    const QImage normal = part(m_window->grab().toImage(), close);
+    QCursor::setPos(global(close.center()));
+    const QImage hovered = part(m_window->grab().toImage(), close);
+    QVERIFY(hovered != normal);
+
+    Mouse mouse(m_window.get());
+    mouse.press(global(close.center()));
+    const QImage pressed = part(m_window->grab().toImage(), close);
+    QVERIFY(pressed != hovered);
+    QVERIFY(pressed != normal);
+
+    // Released away from the button: nothing happens and the button is drawn unpressed.
+    QCursor::setPos(global(QPoint(150, 120)));
+    mouse.release(global(QPoint(150, 120)));
+    QVERIFY(m_window->isVisible());
+    QCOMPARE(part(m_window->grab().toImage(), close), normal);
+}
+
+ZEL_TEST_MAIN(tst_RibbonWindow)
+#include "tst_ribbonwindow.moc"

@@ -1,0 +1,508 @@
+#include "ZelTest.h"
+
+#include "RibbonPlatform.h"
+#include "RibbonWindow.h"
+#include "RibbonWindowBorder.h"
+
+#include <QElapsedTimer>
+#include <QMouseEvent>
+#include <QPointer>
+
+#include <algorithm>
+#include <memory>
+
+using namespace zel;
+
+namespace {
+
+QList<QWidget *> borderItems()
+{
+    QList<QWidget *> items;
+    const QWidgetList topLevels = QApplication::topLevelWidgets();
+    for (QWidget *widget : topLevels) {
+        if (widget->objectName() == QLatin1String("BorderItem"))
+            items.append(widget);
+    }
+    return items;
+}
+
+QList<QRect> geometries(const QList<QWidget *> &widgets)
+{
+    QList<QRect> result;
+    for (const QWidget *widget : widgets)
+        result.append(widget->geometry());
+    std::sort(result.begin(), result.end(), [](const QRect &a, const QRect &b) {
+        return std::make_tuple(a.x(), a.y(), a.width(), a.height())
+            < std::make_tuple(b.x(), b.y(), b.width(), b.height());
+    });
+    return result;
+}
+
+// The eight item rectangles, in position order from the left side clockwise, around a
+// window geometry with the given contents margin.
+QList<QRect> expectedItems(const QRect &geometry, int margin)
+{
+    const int s = RibbonPlatform::sizingFrameThickness();
+    const QRect r = geometry.adjusted(margin, margin, 1 - margin, 1 - margin);
+    return {
+        QRect(r.topLeft() - QPoint(s, 0), QSize(s, r.height())),
+        QRect(r.topLeft() - QPoint(s, s), QSize(s, s)),
+        QRect(r.topLeft() - QPoint(0, s), QSize(r.width(), s)),
+        QRect(r.topRight() - QPoint(0, s), QSize(s, s)),
+        QRect(r.topRight(), QSize(s, r.height())),
+        QRect(r.bottomRight(), QSize(s, s)),
+        QRect(r.bottomLeft(), QSize(r.width(), s)),
+        QRect(r.bottomLeft() - QPoint(s, 0), QSize(s, s)),
+    };
+}
+
+QList<QRect> sorted(QList<QRect> rects)
+{
+    std::sort(rects.begin(), rects.end(), [](const QRect &a, const QRect &b) {
+        return std::make_tuple(a.x(), a.y(), a.width(), a.height())
+            < std::make_tuple(b.x(), b.y(), b.width(), b.height());
+    });
+    return rects;
+}
+
+QWidget *itemWithGeometry(const QRect &geometry)
+{
+    const QList<QWidget *> items = borderItems();
+    for (QWidget *item : items) {
+        if (item->geometry() == geometry)
+            return item;
+    }
+    return nullptr;
+}
+
+void sendMouse(QWidget *widget, QEvent::Type type, const QPoint &global, Qt::MouseButtons held)
+{
+    const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+    QMouseEvent event(type, widget->mapFromGlobal(global), global, button, held, Qt::NoModifier);
+    QCoreApplication::sendEvent(widget, &event);
+}
+
+bool allVisible(bool visible)
+{
+    const QList<QWidget *> items = borderItems();
+    return items.size() == 8
+        && std::all_of(items.cbegin(), items.cend(),
+                       [visible](const QWidget *item) { return item->isVisible() == visible; });
+}
+
+const QRect kGeometry(100, 100, 300, 200);
+
+} // namespace
+
+class tst_RibbonWindowBorder : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void placement_data();
+    void placement();
+    void itemsFollowVisibility();
+    void dragKeepsOppositeEdgeAtMinimum_data();
+    void dragKeepsOppositeEdgeAtMinimum();
+    void fixedSizeWindowDoesNotResize();
+    void minimizeHidesAtOnceAndRestoreShows();
+    void closeHidesForGood();
+    void releaseActivatesWindow();
+    void maskLeavesOutOtherWindows();
+    void shadowFadesAwayFromWindow_data();
+    void shadowFadesAwayFromWindow();
+    void stayOnTopShadowNeedsActiveApplication();
+    void deletingWindowDeletesItems();
+    void itemsDeletedElsewhereAreSkipped();
+
+private:
+    void makeWindow(int margin = 0);
+
+    std::unique_ptr<QWidget> m_window;
+    QPointer<RibbonWindowBorder> m_border;
+};
+
+void tst_RibbonWindowBorder::init()
+{
+    QVERIFY(borderItems().isEmpty());
+}
+
+void tst_RibbonWindowBorder::cleanup()
+{
+    m_window.reset();
+    QVERIFY(!m_border);
+    QVERIFY(borderItems().isEmpty());
+}
+
+void tst_RibbonWindowBorder::makeWindow(int margin)
+{
+    m_window.reset(new QWidget(nullptr, Qt::FramelessWindowHint));
+    m_window->setContentsMargins(margin, margin, margin, margin);
+    m_window->setGeometry(kGeometry);
+    m_border = new RibbonWindowBorder(m_window.get(), false);
+    QCOMPARE(m_border->parent(), m_window.get());
+    QCOMPARE(borderItems().size(), 8);
+    QVERIFY(allVisible(false));
+}
+
+void tst_RibbonWindowBorder::placement_data()
+{
+    QTest::addColumn<int>("margin");
+    QTest::newRow("no margin") << 0;
+    QTest::newRow("frame margin") << 7;
+}
+
+void tst_RibbonWindowBorder::placement()
+{
+    QFETCH(int, margin);
+    makeWindow(margin);
+    QCOMPARE(geometries(borderItems()), sorted(expectedItems(kGeometry, margin)));
+
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    QVERIFY(allVisible(true));
+
+    const QRect moved(150, 80, 300, 200);
+    m_window->move(moved.topLeft());
+    QTRY_COMPARE(m_window->geometry(), moved);
+    QCOMPARE(geometries(borderItems()), sorted(expectedItems(moved, margin)));
+
+    const QRect resized(150, 80, 240, 310);
+    m_window->resize(resized.size());
+    QTRY_COMPARE(m_window->geometry(), resized);
+    QCOMPARE(geometries(borderItems()), sorted(expectedItems(resized, margin)));
+
+    const QList<QRect> expected = expectedItems(resized, 0);
+    if (margin == 0) {
+        // Right and bottom items start just beyond the window, left and top end just
+        // before it.
+        QCOMPARE(expected.at(4).left(), resized.right() + 1);
+        QCOMPARE(expected.at(6).top(), resized.bottom() + 1);
+        QCOMPARE(expected.at(0).right(), resized.left() - 1);
+        QCOMPARE(expected.at(2).bottom(), resized.top() - 1);
+    }
+}
+
+void tst_RibbonWindowBorder::itemsFollowVisibility()
+{
+    makeWindow();
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    QVERIFY(allVisible(true));
+    m_window->hide();
+    QVERIFY(allVisible(false));
+    m_window->show();
+    QVERIFY(allVisible(true));
+}
+
+void tst_RibbonWindowBorder::dragKeepsOppositeEdgeAtMinimum_data()
+{
+    QTest::addColumn<int>("position");
+    QTest::addColumn<QPoint>("step");
+    QTest::addColumn<QRect>("first");
+    QTest::addColumn<QRect>("second");
+
+    // Minimum 150 by 100 on a window at (100, 100) of 300 by 200: the first step stays
+    // above the minimum, the second would go 50 below it.
+    QTest::newRow("left") << 0 << QPoint(100, 0) << QRect(200, 100, 200, 200)
+                          << QRect(250, 100, 150, 200);
+    QTest::newRow("top") << 2 << QPoint(0, 70) << QRect(100, 170, 300, 130)
+                         << QRect(100, 200, 300, 100);
+    QTest::newRow("top-left") << 1 << QPoint(100, 70) << QRect(200, 170, 200, 130)
+                              << QRect(250, 200, 150, 100);
+    QTest::newRow("bottom-left") << 7 << QPoint(100, -70) << QRect(200, 100, 200, 130)
+                                 << QRect(250, 100, 150, 100);
+    QTest::newRow("right") << 4 << QPoint(-100, 0) << QRect(100, 100, 200, 200)
+                           << QRect(100, 100, 150, 200);
+}
+
+void tst_RibbonWindowBorder::dragKeepsOppositeEdgeAtMinimum()
+{
+    QFETCH(int, position);
+    QFETCH(QPoint, step);
+    QFETCH(QRect, first);
+    QFETCH(QRect, second);
+
+    makeWindow();
+    m_window->setMinimumSize(150, 100);
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+
+    QWidget *item = itemWithGeometry(expectedItems(kGeometry, 0).at(position));
+    QVERIFY(item);
+    QVERIFY(item->testAttribute(Qt::WA_SetCursor));
+    const QPoint start = item->mapToGlobal(item->rect().center());
+    sendMouse(item, QEvent::MouseButtonPress, start, Qt::LeftButton);
+    sendMouse(item, QEvent::MouseMove, start + step, Qt::LeftButton);
+    QTRY_COMPARE(m_window->geometry(), first);
+    sendMouse(item, QEvent::MouseMove, start + 2 * step, Qt::LeftButton);
+    QTRY_COMPARE(m_window->geometry(), second);
+
+    // Once stopped by the minimum, the edge follows the cursor again straight away.
+    const QPoint back = start - step;
+    sendMouse(item, QEvent::MouseMove, back, Qt::LeftButton);
+    QTRY_VERIFY(m_window->width() > kGeometry.width() || m_window->height() > kGeometry.height());
+    sendMouse(item, QEvent::MouseButtonRelease, back, Qt::NoButton);
+
+    // A move without the button does nothing.
+    const QRect released = m_window->geometry();
+    sendMouse(item, QEvent::MouseMove, start, Qt::NoButton);
+    QCOMPARE(m_window->geometry(), released);
+}
+
+void tst_RibbonWindowBorder::fixedSizeWindowDoesNotResize()
+{
+    m_window.reset(new QWidget(nullptr, Qt::FramelessWindowHint));
+    m_window->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    m_window->setGeometry(kGeometry);
+    m_border = new RibbonWindowBorder(m_window.get(), false);
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+
+    const QList<QWidget *> items = borderItems();
+    QCOMPARE(items.size(), 8);
+    for (QWidget *item : items) {
+        QVERIFY(!item->testAttribute(Qt::WA_SetCursor));
+        const QPoint start = item->mapToGlobal(item->rect().center());
+        sendMouse(item, QEvent::MouseButtonPress, start, Qt::LeftButton);
+        sendMouse(item, QEvent::MouseMove, start + QPoint(-20, -20), Qt::LeftButton);
+        sendMouse(item, QEvent::MouseButtonRelease, start + QPoint(-20, -20), Qt::NoButton);
+    }
+    QCOMPARE(m_window->geometry(), kGeometry);
+}
+
+void tst_RibbonWindowBorder::minimizeHidesAtOnceAndRestoreShows()
+{
+    makeWindow();
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    QVERIFY(allVisible(true));
+
+    m_window->showMinimized();
+    QVERIFY(allVisible(false));
+    // Qt sends the restored window a show event, which brings the items back at once;
+    // the delayed update after the state change follows and must not hide them again.
+    m_window->setWindowState(Qt::WindowNoState);
+    QTRY_VERIFY(allVisible(true));
+    QTest::qWait(450);
+    QVERIFY(allVisible(true));
+
+    m_window->showMinimized();
+    QVERIFY(allVisible(false));
+    QTest::qWait(450);
+    QVERIFY(allVisible(false));
+    m_window->showNormal();
+    QTRY_VERIFY(allVisible(true));
+}
+
+void tst_RibbonWindowBorder::closeHidesForGood()
+{
+    makeWindow();
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    QVERIFY(allVisible(true));
+
+    QVERIFY(m_window->close());
+    QVERIFY(allVisible(false));
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    QVERIFY(allVisible(false));
+    // The delayed updates after activation must not bring them back either.
+    QApplication::setActiveWindow(m_window.get());
+    QTest::qWait(500);
+    QVERIFY(allVisible(false));
+}
+
+void tst_RibbonWindowBorder::releaseActivatesWindow()
+{
+    makeWindow();
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+
+    QWidget other;
+    other.setGeometry(500, 400, 100, 100);
+    other.show();
+    QApplication::setActiveWindow(&other);
+    // Platforms that activate every window they show may hand the activation on to a
+    // border item; all that counts is that the window lost it.
+    QTRY_VERIFY(!m_window->isActiveWindow());
+
+    QWidget *item = itemWithGeometry(expectedItems(kGeometry, 0).at(6));
+    QVERIFY(item);
+    const QPoint at = item->mapToGlobal(item->rect().center());
+    sendMouse(item, QEvent::MouseButtonPress, at, Qt::LeftButton);
+    sendMouse(item, QEvent::MouseButtonRelease, at, Qt::NoButton);
+    QCOMPARE(QApplication::activeWindow(), m_window.get());
+    QCOMPARE(m_window->geometry(), kGeometry);
+}
+
+void tst_RibbonWindowBorder::maskLeavesOutOtherWindows()
+{
+    makeWindow();
+    m_window->show();
+    QApplication::setActiveWindow(m_window.get());
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+
+    QWidget *left = itemWithGeometry(expectedItems(kGeometry, 0).at(0));
+    QVERIFY(left);
+    left->grab();
+    QVERIFY(left->mask().isEmpty());
+
+    // Another window, active, overlaps the lower part of the left item. Its system
+    // frame and caption count as part of it.
+    const int s = RibbonPlatform::sizingFrameThickness();
+    const int c = RibbonPlatform::captionHeight();
+    QWidget other;
+    other.setGeometry(50, 300, 100, 100);
+    other.show();
+    QApplication::setActiveWindow(&other);
+    QTRY_VERIFY(!m_window->isActiveWindow());
+
+    const QImage partly = left->grab().toImage();
+    const QRegion mask = left->mask();
+    QVERIFY(!mask.isEmpty());
+    const int cutFrom = 300 - (c + s) - left->y();
+    QVERIFY(mask.contains(QPoint(s - 1, cutFrom - 1)));
+    QVERIFY(!mask.contains(QPoint(s - 1, cutFrom)));
+    QVERIFY(!mask.contains(QPoint(s - 1, left->height() - 1)));
+    QVERIFY(qAlpha(partly.pixel(s - 1, 10)) > 0);
+
+    // Wholly under the other window: no mask and nothing drawn.
+    other.setGeometry(0, 60, 300, 400);
+    QTRY_COMPARE(other.geometry(), QRect(0, 60, 300, 400));
+    const QImage hidden = left->grab().toImage();
+    QVERIFY(left->mask().isEmpty());
+    QCOMPARE(qAlpha(hidden.pixel(s - 1, 10)), 0);
+    QCOMPARE(qAlpha(hidden.pixel(s - 1, left->height() / 2)), 0);
+
+    // Back to our window: the whole item again.
+    QApplication::setActiveWindow(m_window.get());
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    left->grab();
+    QVERIFY(left->mask().isEmpty());
+}
+
+void tst_RibbonWindowBorder::shadowFadesAwayFromWindow_data()
+{
+    QTest::addColumn<int>("position");
+    QTest::addColumn<QPoint>("nearest");
+    QTest::addColumn<QPoint>("away");
+
+    const int s = RibbonPlatform::sizingFrameThickness();
+    QTest::newRow("left") << 0 << QPoint(s - 1, 20) << QPoint(-1, 0);
+    QTest::newRow("top") << 2 << QPoint(20, s - 1) << QPoint(0, -1);
+    QTest::newRow("right") << 4 << QPoint(0, 20) << QPoint(1, 0);
+    QTest::newRow("bottom") << 6 << QPoint(20, 0) << QPoint(0, 1);
+    QTest::newRow("top-left corner") << 1 << QPoint(s - 1, s - 1) << QPoint(-1, -1);
+    QTest::newRow("bottom-right corner") << 5 << QPoint(0, 0) << QPoint(1, 1);
+}
+
+void tst_RibbonWindowBorder::shadowFadesAwayFromWindow()
+{
+    QFETCH(int, position);
+    QFETCH(QPoint, nearest);
+    QFETCH(QPoint, away);
+
+    makeWindow();
+    m_window->show();
+    QApplication::setActiveWindow(m_window.get());
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+
+    QWidget *item = itemWithGeometry(expectedItems(kGeometry, 0).at(position));
+    QVERIFY(item);
+    const QImage image = item->grab().toImage();
+    const int alphas[] = {128, 100, 70, 40, 20, 10, 3};
+    const int s = RibbonPlatform::sizingFrameThickness();
+    for (int i = 0; i < qMin(s, 7); ++i) {
+        const QPoint at = nearest + i * away;
+        QCOMPARE(qAlpha(image.pixel(at)), alphas[i]);
+        QCOMPARE(QColor(image.pixel(at)).red(), QColor(image.pixel(at)).blue());
+    }
+    if (position == 1 || position == 5) {
+        // The far row of a corner item belongs to the outermost L.
+        const QPoint far = nearest + s * away - away;
+        const QPoint off(far.x() == nearest.x() ? far.x() : nearest.x(), far.y());
+        QCOMPARE(qAlpha(image.pixel(off)), alphas[s - 1]);
+    }
+}
+
+void tst_RibbonWindowBorder::stayOnTopShadowNeedsActiveApplication()
+{
+    m_window.reset(new QWidget(nullptr, Qt::FramelessWindowHint));
+    m_window->setGeometry(kGeometry);
+    m_border = new RibbonWindowBorder(m_window.get(), true);
+    for (const QWidget *item : borderItems())
+        QVERIFY(item->windowFlags() & Qt::WindowStaysOnTopHint);
+    m_window->show();
+    QApplication::setActiveWindow(m_window.get());
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+
+    QWidget *left = itemWithGeometry(expectedItems(kGeometry, 0).at(0));
+    QVERIFY(left);
+    const int s = RibbonPlatform::sizingFrameThickness();
+    QCOMPARE(qAlpha(left->grab().toImage().pixel(s - 1, 10)), 128);
+
+    QApplication::setActiveWindow(nullptr);
+    QTRY_VERIFY(!QApplication::activeWindow());
+    QCOMPARE(qAlpha(left->grab().toImage().pixel(s - 1, 10)), 0);
+}
+
+void tst_RibbonWindowBorder::deletingWindowDeletesItems()
+{
+    makeWindow();
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    QApplication::setActiveWindow(m_window.get());
+    QVERIFY(allVisible(true));
+
+    QList<QPointer<QWidget>> items;
+    for (QWidget *item : borderItems())
+        items.append(item);
+    m_window.reset();
+    QVERIFY(!m_border);
+    for (const QPointer<QWidget> &item : qAsConst(items))
+        QVERIFY(!item);
+    // Pending delayed updates die with the border.
+    QTest::qWait(450);
+
+    // The border may also go first; the window lives on undecorated.
+    makeWindow();
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    delete m_border;
+    QVERIFY(borderItems().isEmpty());
+    m_window->move(10, 10);
+    m_window->close();
+}
+
+void tst_RibbonWindowBorder::itemsDeletedElsewhereAreSkipped()
+{
+    // A host tearing down every top-level widget may delete the items before the border.
+    makeWindow();
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    qDeleteAll(borderItems());
+    QVERIFY(borderItems().isEmpty());
+    m_window->move(20, 20);
+    m_window->hide();
+    m_window->show();
+    QApplication::setActiveWindow(m_window.get());
+    QTest::qWait(450);
+    QVERIFY(borderItems().isEmpty());
+
+    // A RibbonWindow decorated the same way goes down cleanly with its border.
+    auto *ribbonWindow = new RibbonWindow;
+    new RibbonWindowBorder(ribbonWindow, true);
+    ribbonWindow->setGeometry(kGeometry);
+    ribbonWindow->show();
+    QVERIFY(QTest::qWaitForWindowExposed(ribbonWindow));
+    QCOMPARE(borderItems().size(), 8);
+    delete ribbonWindow;
+    QVERIFY(borderItems().isEmpty());
+}
+
+ZEL_TEST_MAIN(tst_RibbonWindowBorder)
+#include "tst_ribbonwindowborder.moc"
