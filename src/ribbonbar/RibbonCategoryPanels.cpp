@@ -1,0 +1,164 @@
+#include "RibbonCategoryPanels.h"
+
+#include "RibbonApplication.h"
+#include "RibbonCategoriesPanelAction.h"
+#include "RibbonCategoryPanel.h"
+#include "RibbonMenuBar.h"
+#include "RibbonMenuBarButton.h"
+#include "RibbonPaint_p.h"
+#include "RibbonScale_p.h"
+#include "RibbonStyle.h"
+
+#include <QActionEvent>
+#include <QApplication>
+#include <QMap>
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace zel {
+
+struct RibbonCategoryPanels::Priv
+{
+    explicit Priv(RibbonMenuBar &b)
+        : bar(b)
+    {
+    }
+
+    RibbonMenuBar &bar;
+    // Keyed by plain QAction: a tab being destroyed is no longer a
+    // RibbonCategoriesPanelAction when its removal arrives, but its page must still go.
+    QMap<QAction *, RibbonCategoryPanel *> pages;
+};
+
+RibbonCategoryPanels::RibbonCategoryPanels(RibbonMenuBar &menuBar)
+    : QStackedWidget(nullptr)
+    , d(new Priv(menuBar))
+{
+    setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
+    setFixedHeight(scaled(92));
+    setContentsMargins(4, 3, 4, 4);
+}
+
+RibbonCategoryPanels::~RibbonCategoryPanels() = default;
+
+RibbonMenuBar &RibbonCategoryPanels::menuBar() const
+{
+    return d->bar;
+}
+
+RibbonCategoryPanel *RibbonCategoryPanels::panel(RibbonCategoriesPanelAction *tab) const
+{
+    return d->pages.value(tab);
+}
+
+QPointer<RibbonCategoriesPanelAction> RibbonCategoryPanels::action(QWidget *page) const
+{
+    if (!page)
+        return nullptr;
+    for (auto it = d->pages.cbegin(); it != d->pages.cend(); ++it) {
+        if (it.value() == page)
+            return qobject_cast<RibbonCategoriesPanelAction *>(it.key());
+    }
+    return nullptr;
+}
+
+RibbonMenuBarButton *RibbonCategoryPanels::panelMenuButton(QWidget *page) const
+{
+    const QPointer<RibbonCategoriesPanelAction> tab = action(page);
+    return tab ? d->bar.menuBarButton(tab.data()) : nullptr;
+}
+
+void RibbonCategoryPanels::actionEvent(QActionEvent *event)
+{
+    QStackedWidget::actionEvent(event);
+    QAction *tabAction = event->action();
+    auto *tab = qobject_cast<RibbonCategoriesPanelAction *>(tabAction);
+    switch (event->type()) {
+    case QEvent::ActionAdded:
+        if (tab && !d->pages.contains(tabAction)) {
+            auto *page = new RibbonCategoryPanel(*this, *tab);
+            d->pages.insert(tabAction, page);
+            addWidget(page);
+            if (tab->isChecked())
+                setCurrentWidget(page);
+        }
+        break;
+    case QEvent::ActionRemoved:
+        if (RibbonCategoryPanel *page = d->pages.take(tabAction)) {
+            removeWidget(page);
+            delete page;
+        }
+        break;
+    case QEvent::ActionChanged:
+        if (tab && tab->isChecked()) {
+            if (RibbonCategoryPanel *page = d->pages.value(tabAction)) {
+                if (currentWidget() != page)
+                    setCurrentWidget(page);
+                // While the ribbon is minimised this opens the popup.
+                if (!isVisible())
+                    show();
+            }
+        }
+        break;
+    default:
+        break;
+    }
+    updateGeometry();
+}
+
+void RibbonCategoryPanels::showEvent(QShowEvent *event)
+{
+    QStackedWidget::showEvent(event);
+    if (event->spontaneous())
+        return;
+    if (const QPointer<RibbonCategoriesPanelAction> tab = action(currentWidget()))
+        tab->setChecked(true);
+}
+
+void RibbonCategoryPanels::hideEvent(QHideEvent *event)
+{
+    QStackedWidget::hideEvent(event);
+    // A window being minimised by the system is no reason to lose the current tab.
+    if (event->spontaneous())
+        return;
+    if (const QPointer<RibbonCategoriesPanelAction> tab = action(currentWidget()))
+        tab->setChecked(false);
+}
+
+void RibbonCategoryPanels::mousePressEvent(QMouseEvent *event)
+{
+    if (windowType() == Qt::Popup) {
+        // A press on the tab whose panel is open keeps the popup open.
+        auto *button = qobject_cast<RibbonMenuBarButton *>(QApplication::widgetAt(event->globalPos()));
+        if (button && button->isChecked())
+            return;
+    }
+    QStackedWidget::mousePressEvent(event);
+}
+
+void RibbonCategoryPanels::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    QStackedWidget::mouseDoubleClickEvent(event);
+}
+
+void RibbonCategoryPanels::paintEvent(QPaintEvent *)
+{
+    const RibbonStyle &style = RibbonApplication::theApp().ribbonStyle();
+    QPainter painter(this);
+
+    RibbonPaint::drawThreeSlice(painter, QRect(0, 0, width(), scaled(92)), style.categories(),
+                                QRect(0, 0, 80, 92), 5, 5);
+
+    // Join the current tab to the panel: the bar and this widget share their x origin
+    // while the ribbon is pinned.
+    const QColor under = style.categoryColorUnderButton();
+    RibbonMenuBarButton *button = panelMenuButton(currentWidget());
+    if (button && under.isValid()) {
+        const int x = button->mapTo(&d->bar, QPoint(0, 0)).x();
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(under);
+        painter.drawRect(QRect(x + 3, 0, button->width() - 6, 2));
+    }
+}
+
+} // namespace zel

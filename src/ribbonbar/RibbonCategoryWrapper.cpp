@@ -1,0 +1,220 @@
+#include "RibbonCategoryWrapper.h"
+
+#include "RibbonApplication.h"
+#include "RibbonCategory.h"
+#include "RibbonCategoryAction.h"
+#include "RibbonCategoryPanel.h"
+#include "RibbonCategoryWrapperPopup.h"
+#include "RibbonPaint_p.h"
+#include "RibbonScale_p.h"
+#include "RibbonStyle.h"
+
+#include <QFontMetrics>
+#include <QIcon>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPointer>
+#include <QStyleOption>
+
+namespace zel {
+
+struct RibbonCategoryWrapper::Priv
+{
+    Priv(RibbonCategoryPanel &p, RibbonCategoryAction &a)
+        : panel(p)
+        , action(a)
+    {
+    }
+
+    RibbonCategoryPanel &panel;
+    RibbonCategoryAction &action;
+    bool colapsed = false;
+    bool myChecked = false;
+    RibbonCategory *category = nullptr;
+    QPointer<RibbonCategoryWrapperPopup> popup;
+};
+
+RibbonCategoryWrapper::RibbonCategoryWrapper(RibbonCategoryPanel &panel, RibbonCategoryAction &action)
+    : QAbstractButton(&panel)
+    , d(new Priv(panel, action))
+{
+    setSizePolicy(QSizePolicy::MinimumExpanding, QSizePolicy::Fixed);
+    setFocusPolicy(Qt::NoFocus);
+    // Repaint on enter and leave: the collapsed button has a hover look.
+    setAttribute(Qt::WA_Hover);
+
+    d->category = new RibbonCategory(this, action);
+    d->category->move(0, 0);
+    d->category->resize(d->category->sizeHint());
+}
+
+RibbonCategoryWrapper::~RibbonCategoryWrapper()
+{
+    // The popup shows controls of this group; it must not outlive the wrapper's view of
+    // it. It may be in the middle of its own event handling, so it goes at the next turn.
+    if (RibbonCategoryWrapperPopup *popup = d->popup.data()) {
+        d->popup = nullptr;
+        popup->hide();
+        popup->deleteLater();
+    }
+}
+
+RibbonCategoryPanel &RibbonCategoryWrapper::categoryPanel() const
+{
+    return d->panel;
+}
+
+RibbonCategoryAction &RibbonCategoryWrapper::categoryAction() const
+{
+    return d->action;
+}
+
+RibbonCategory *RibbonCategoryWrapper::category() const
+{
+    return d->category;
+}
+
+bool RibbonCategoryWrapper::isColapsed() const
+{
+    return d->colapsed;
+}
+
+void RibbonCategoryWrapper::setColapsed(bool colapsed)
+{
+    if (d->colapsed == colapsed)
+        return;
+    d->colapsed = colapsed;
+    d->category->setVisible(!colapsed);
+    // An expanded group shows its controls in place; a popup of it would be a duplicate.
+    if (!colapsed && d->popup)
+        d->popup->close();
+    updateGeometry();
+    update();
+}
+
+bool RibbonCategoryWrapper::isMyChecked() const
+{
+    return d->myChecked;
+}
+
+void RibbonCategoryWrapper::setMyChecked(bool checked)
+{
+    if (d->myChecked == checked)
+        return;
+    d->myChecked = checked;
+    if (checked && !d->popup)
+        d->popup = new RibbonCategoryWrapperPopup(*this);
+    update();
+}
+
+RibbonCategoryWrapperPopup *RibbonCategoryWrapper::popup() const
+{
+    return d->popup.data();
+}
+
+QSize RibbonCategoryWrapper::normalSize() const
+{
+    return d->category->sizeHint();
+}
+
+QSize RibbonCategoryWrapper::colapsedSize() const
+{
+    const QFontMetrics fm = fontMetrics();
+    const QString text = d->action.text();
+    const int textWidth = fm.horizontalAdvance(text);
+    const int lineHeight = fm.height();
+
+    int width = 0;
+    if (textWidth + 4 < 35) {
+        width = qMax(textWidth, 38);
+    } else {
+        // Narrowest width at which the caption still wraps into at most two lines.
+        int best = textWidth;
+        int trial = textWidth;
+        int step = textWidth;
+        do {
+            step /= 2;
+            const QRect bounds = fm.boundingRect(QRect(0, 0, trial, 0),
+                                                 Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, text);
+            if (bounds.height() <= 2 * lineHeight) {
+                best = bounds.width();
+                trial -= step;
+            } else {
+                trial += step;
+            }
+        } while (step != 0);
+        width = qMax(best, 38);
+    }
+    return QSize(width + 12, scaled(85));
+}
+
+QSize RibbonCategoryWrapper::sizeHint() const
+{
+    return normalSize();
+}
+
+QSize RibbonCategoryWrapper::minimumSizeHint() const
+{
+    return colapsedSize();
+}
+
+bool RibbonCategoryWrapper::event(QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::LayoutRequest:
+    case QEvent::Show:
+        // The group is not in a layout: follow its size hint by hand.
+        if (d->category->size() != d->category->sizeHint()) {
+            d->category->resize(d->category->sizeHint());
+            updateGeometry();
+        }
+        break;
+    default:
+        break;
+    }
+    return QAbstractButton::event(event);
+}
+
+void RibbonCategoryWrapper::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton && d->colapsed && !d->popup)
+        setMyChecked(true);
+}
+
+void RibbonCategoryWrapper::mouseReleaseEvent(QMouseEvent *)
+{
+    // The press opened the popup; a release is no click of this button.
+}
+
+void RibbonCategoryWrapper::paintEvent(QPaintEvent *)
+{
+    if (!d->colapsed)
+        return;
+
+    const RibbonStyle &style = RibbonApplication::theApp().ribbonStyle();
+    QPainter painter(this);
+    QStyleOption option;
+    option.initFrom(this);
+
+    const int rowY = d->myChecked ? 170 : (option.state & QStyle::State_MouseOver) ? 85 : 0;
+    const int h = scaled(85);
+    RibbonPaint::drawThreeSlice(painter, QRect(0, 0, width(), h), style.categoryWrapperBack(),
+                                QRect(0, rowY, 52, 85), 3, 3);
+
+    painter.drawPixmap(QRect(width() / 2 - 3, height() - 10, 5, 3), style.categoryWrapperIcon(),
+                       QRect(0, 0, 5, 3));
+
+    const QIcon icon = d->action.icon();
+    if (!icon.isNull()) {
+        const QSize iconSize = icon.actualSize(size()).boundedTo(QSize(32, 32));
+        const QRect target(width() / 2 - iconSize.width() / 2, scaled(24 - iconSize.height() / 2),
+                           iconSize.width(), iconSize.height());
+        icon.paint(&painter, target, Qt::AlignCenter, QIcon::Normal, QIcon::Off);
+    }
+
+    painter.setPen(style.categoryWrapperCaptionTextColor());
+    painter.drawText(QRect(6, scaled(44), width() - 12, scaled(38)),
+                     Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, d->action.text());
+}
+
+} // namespace zel

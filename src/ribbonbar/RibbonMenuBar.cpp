@@ -1,0 +1,460 @@
+#include "RibbonMenuBar.h"
+
+#include "MenuHLayout.h"
+#include "RibbonButtonMain.h"
+#include "RibbonButtonNormal.h"
+#include "RibbonCatComboAction.h"
+#include "RibbonCatComboComboBox.h"
+#include "RibbonCategoriesPanelAction.h"
+#include "RibbonCategoryPanelsProxy.h"
+#include "RibbonContextCategoryPanel.h"
+#include "RibbonContextCategoryPanelAction.h"
+#include "RibbonMainWindow.h"
+#include "RibbonMenuBarButton.h"
+#include "RibbonSimpleAction.h"
+
+#include <QActionEvent>
+#include <QActionGroup>
+#include <QCoreApplication>
+#include <QGridLayout>
+#include <QHash>
+#include <QIcon>
+#include <QPointer>
+#include <QSpacerItem>
+
+namespace zel {
+
+struct RibbonMenuBar::Priv
+{
+    explicit Priv(RibbonMainWindow &w)
+        : window(w)
+    {
+    }
+
+    RibbonMainWindow &window;
+    QGridLayout *grid = nullptr;
+    MenuHLayout *tabRow = nullptr;
+    QHBoxLayout *tabStrip = nullptr;
+    QSpacerItem *spacer = nullptr; // owned by the tab row
+    QActionGroup *group = nullptr;
+    RibbonCategoryPanelsProxy *panels = nullptr;
+    RibbonButtonMain *mainButton = nullptr;
+    QPointer<RibbonAction> helpAction;
+    QPointer<RibbonAction> findComboAction;
+    QPointer<RibbonAction> findAction;
+    RibbonSimpleAction *collapseAction = nullptr;
+    RibbonButtonNormal *collapseButton = nullptr;
+    RibbonContextCategoryPanel *contextPanels = nullptr;
+    QPointer<RibbonContextCategoryPanelAction> displayedContext;
+    QPointer<RibbonAction> lastClicked;
+
+    // Tab buttons by tab, and the widgets made for the help, find-combo and find
+    // actions. Keyed by plain QAction so that an action being destroyed (no longer of
+    // its ribbon class by then) is still found.
+    QHash<QAction *, QPointer<RibbonMenuBarButton>> tabButtons;
+    QHash<QAction *, QPointer<QWidget>> commandWidgets;
+};
+
+RibbonMenuBar::RibbonMenuBar(RibbonMainWindow &window)
+    : QWidget(&window)
+    , d(new Priv(window))
+{
+    setCursor(Qt::ArrowCursor);
+
+    d->grid = new QGridLayout(this);
+    d->grid->setContentsMargins(0, 0, 0, 0);
+    d->grid->setHorizontalSpacing(0);
+    d->grid->setVerticalSpacing(0);
+
+    d->tabRow = new MenuHLayout;
+    d->tabRow->setContentsMargins(0, 0, 4, 0);
+    d->tabRow->setSpacing(5);
+    d->grid->addLayout(d->tabRow, 0, 0, 1, 3);
+
+    d->tabStrip = new QHBoxLayout;
+    d->tabStrip->setContentsMargins(0, 0, 0, 0);
+    d->tabStrip->setSpacing(0);
+    d->tabRow->addLayout(d->tabStrip);
+
+    d->spacer = new QSpacerItem(0, 0, QSizePolicy::Expanding, QSizePolicy::Ignored);
+    d->tabRow->addItem(d->spacer);
+
+    d->group = new QActionGroup(this);
+    d->group->setExclusive(true);
+
+    d->panels = new RibbonCategoryPanelsProxy(*this);
+    d->grid->addWidget(d->panels, 1, 0, 1, 3);
+
+    d->mainButton = new RibbonButtonMain(*this);
+    d->mainButton->setText(QCoreApplication::translate("RibbonMenuBar", "File").toUpper());
+    d->tabStrip->addWidget(d->mainButton);
+    d->mainButton->hide(); // until the first tab arrives
+
+    d->collapseAction = new RibbonSimpleAction(this);
+    d->collapseAction->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_F1));
+    d->collapseButton = new RibbonButtonNormal(this);
+    d->collapseButton->setFixedSize(16, 20);
+    d->collapseButton->addAction(d->collapseAction);
+    d->tabRow->addWidget(d->collapseButton);
+    updateCollapseRibbonAction();
+
+    d->contextPanels = new RibbonContextCategoryPanel(*this);
+}
+
+RibbonMenuBar::~RibbonMenuBar() = default;
+
+RibbonMainWindow &RibbonMenuBar::ribbonMainWindow() const
+{
+    return d->window;
+}
+
+bool RibbonMenuBar::isMWMaximized() const
+{
+    return d->window.isMaximized();
+}
+
+bool RibbonMenuBar::isRibbonMinimized() const
+{
+    return d->panels->isCollapsable();
+}
+
+void RibbonMenuBar::setMinimizeRibbon(bool minimize)
+{
+    d->panels->setCollapsable(minimize);
+    updateCollapseRibbonAction();
+}
+
+RibbonCategoryPanelsProxy *RibbonMenuBar::categoryPanels() const
+{
+    return d->panels;
+}
+
+RibbonButtonMain *RibbonMenuBar::mainMenuButton() const
+{
+    return d->mainButton;
+}
+
+RibbonMenuBarButton *RibbonMenuBar::menuBarButton(RibbonCategoriesPanelAction *tab) const
+{
+    if (!tab)
+        return nullptr;
+    for (int i = 0; i < d->tabStrip->count(); ++i) {
+        auto *button = qobject_cast<RibbonMenuBarButton *>(d->tabStrip->itemAt(i)->widget());
+        if (button && !button->actions().isEmpty() && button->actions().first() == tab)
+            return button;
+    }
+    return nullptr;
+}
+
+QAction *RibbonMenuBar::collapseRibbonAction() const
+{
+    return d->collapseAction;
+}
+
+RibbonContextCategoryPanel &RibbonMenuBar::ribbonContextCategoryPanel() const
+{
+    return *d->contextPanels;
+}
+
+RibbonContextCategoryPanelAction *RibbonMenuBar::displayedContextPanel() const
+{
+    return d->displayedContext.data();
+}
+
+void RibbonMenuBar::displayedContextPanelRect(QRect &rect) const
+{
+    RibbonContextCategoryPanelAction *set = d->displayedContext.data();
+    if (!set)
+        return;
+    for (RibbonCategoriesPanelAction *tab : set->panelActions()) {
+        if (RibbonMenuBarButton *button = menuBarButton(tab)) {
+            const QRect local = button->rect();
+            rect = rect.united(QRect(button->mapToGlobal(local.topLeft()),
+                                     button->mapToGlobal(local.bottomRight())));
+        }
+    }
+}
+
+void RibbonMenuBar::showContextPanelAction(RibbonContextCategoryPanelAction *set)
+{
+    if (!set || !d->contextPanels->containsAction(set))
+        return;
+    if (d->displayedContext && d->displayedContext != set)
+        hideContextPanelAction(d->displayedContext);
+
+    const QFontMetrics fm = fontMetrics();
+    const QList<RibbonCategoriesPanelAction *> tabs = set->panelActions();
+    int textSum = 0;
+    for (RibbonCategoriesPanelAction *tab : tabs) {
+        addAction(tab);
+        textSum += fm.horizontalAdvance(tab->text());
+        if (tab == d->lastClicked && !isRibbonMinimized())
+            tab->setChecked(true);
+    }
+
+    // A set whose caption is wider than its tabs widens their buttons so that the
+    // caption painted above them fits.
+    const int captionWidth = fm.horizontalAdvance(set->text());
+    const int n = tabs.size();
+    if (n > 0 && captionWidth > textSum) {
+        const int extra = int((captionWidth - textSum) / double(n) + 0.5) - 12 * n;
+        for (RibbonCategoriesPanelAction *tab : tabs) {
+            if (RibbonMenuBarButton *button = menuBarButton(tab)) {
+                const int current = button->sizeHint().width();
+                // Never narrower than its own caption.
+                button->setFixedWidth(qMax(current, current + extra));
+            }
+        }
+    }
+
+    d->displayedContext = set;
+    emit contextRibbonChanged();
+    update();
+}
+
+void RibbonMenuBar::hideContextPanelAction(RibbonContextCategoryPanelAction *set)
+{
+    if (!set || !d->contextPanels->containsAction(set) || set != d->displayedContext)
+        return;
+    const QList<RibbonCategoriesPanelAction *> tabs = set->panelActions();
+    for (RibbonCategoriesPanelAction *tab : tabs)
+        removeAction(tab);
+    d->displayedContext = nullptr;
+    emit contextRibbonChanged();
+    update();
+}
+
+void RibbonMenuBar::replaceCommandAction(QAction *oldAction, RibbonAction *newAction)
+{
+    if (oldAction && oldAction != newAction)
+        removeAction(oldAction);
+    if (newAction && !actions().contains(newAction))
+        addAction(newAction);
+}
+
+void RibbonMenuBar::setHelpAction(RibbonAction *action)
+{
+    QPointer<RibbonAction> old = d->helpAction;
+    d->helpAction = action;
+    replaceCommandAction(old.data(), action);
+}
+
+RibbonAction *RibbonMenuBar::helpAction() const
+{
+    return d->helpAction.data();
+}
+
+void RibbonMenuBar::setFindComboAction(RibbonAction *action)
+{
+    QPointer<RibbonAction> old = d->findComboAction;
+    d->findComboAction = action;
+    replaceCommandAction(old.data(), action);
+    // The find button goes with the combo.
+    if (RibbonAction *find = d->findAction.data()) {
+        if (action)
+            replaceCommandAction(nullptr, find);
+        else
+            removeAction(find);
+    }
+}
+
+RibbonAction *RibbonMenuBar::findComboAction() const
+{
+    return d->findComboAction.data();
+}
+
+void RibbonMenuBar::setFindAction(RibbonAction *action)
+{
+    QPointer<RibbonAction> old = d->findAction;
+    d->findAction = action;
+    if (old && old != action)
+        removeAction(old);
+    if (action && d->findComboAction && !actions().contains(action))
+        addAction(action);
+}
+
+RibbonAction *RibbonMenuBar::findAction() const
+{
+    return d->findAction.data();
+}
+
+RibbonAction *RibbonMenuBar::lastClickedAction() const
+{
+    return d->lastClicked.data();
+}
+
+void RibbonMenuBar::setLastClickedAction(RibbonAction *action)
+{
+    d->lastClicked = action;
+}
+
+void RibbonMenuBar::insertBeforeCollapseButton(QWidget *widget)
+{
+    int index = -1;
+    const QList<QWidget *> associated = d->collapseAction->associatedWidgets();
+    for (QWidget *candidate : associated) {
+        const int at = d->tabRow->indexOf(candidate);
+        if (at >= 0) {
+            index = at;
+            break;
+        }
+    }
+    d->tabRow->insertWidget(index, widget);
+}
+
+void RibbonMenuBar::actionEvent(QActionEvent *event)
+{
+    QWidget::actionEvent(event);
+    QAction *action = event->action();
+
+    if (event->type() == QEvent::ActionAdded) {
+        auto *ribbonAction = qobject_cast<RibbonAction *>(action);
+        if (!ribbonAction)
+            return;
+        if (ribbonAction == d->helpAction) {
+            auto *button = new RibbonButtonNormal(this);
+            button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+            button->setFixedSize(20, 20);
+            button->addAction(ribbonAction);
+            d->tabRow->addWidget(button);
+            d->commandWidgets.insert(action, button);
+        } else if (auto *tab = qobject_cast<RibbonCategoriesPanelAction *>(ribbonAction)) {
+            d->mainButton->show();
+            connect(tab, SIGNAL(changed()), this, SLOT(ribbonActionChanged()));
+            if (tab->isEnabled())
+                addPanelAction(tab);
+        } else if (auto *combo = qobject_cast<RibbonCatComboAction *>(ribbonAction)) {
+            auto *widget = new RibbonCatComboComboBox(*combo, this);
+            insertBeforeCollapseButton(widget);
+            d->commandWidgets.insert(action, widget);
+            updateGeometry();
+            update();
+        }
+    } else if (event->type() == QEvent::ActionRemoved) {
+        // The widget made for a help, find-combo or find action leaves with it.
+        if (QWidget *widget = d->commandWidgets.take(action).data()) {
+            d->tabRow->removeWidget(widget);
+            delete widget;
+            updateGeometry();
+            update();
+            return;
+        }
+        disconnect(action, SIGNAL(changed()), this, SLOT(ribbonActionChanged()));
+        // A tab being destroyed has lost its class by now; it is still in the group.
+        if (d->group->actions().contains(action))
+            removeTab(action);
+    }
+}
+
+void RibbonMenuBar::ribbonActionChanged()
+{
+    auto *tab = qobject_cast<RibbonCategoriesPanelAction *>(sender());
+    if (!tab)
+        return;
+    if (tab->isEnabled())
+        addPanelAction(tab);
+    else
+        removePanelAction(tab);
+}
+
+void RibbonMenuBar::addPanelAction(RibbonCategoriesPanelAction *tab)
+{
+    if (!tab || d->group->actions().contains(tab))
+        return;
+    d->group->addAction(tab);
+
+    tab->setChecked(tab->isChecked() && !isRibbonMinimized());
+    const bool checked = tab->isChecked();
+    tab->setChecked(false);
+
+    d->window.addAction(tab); // for its shortcut
+    d->panels->addAction(tab);
+
+    auto *button = new RibbonMenuBarButton(*this);
+    button->addAction(tab);
+    d->tabStrip->addWidget(button);
+    button->show();
+    d->tabButtons.insert(tab, button);
+
+    if (checked)
+        tab->setChecked(true);
+    ensureChecked();
+}
+
+void RibbonMenuBar::removePanelAction(RibbonCategoriesPanelAction *tab)
+{
+    if (tab)
+        removeTab(tab);
+}
+
+void RibbonMenuBar::removeTab(QAction *tab)
+{
+    if (!d->group->actions().contains(tab))
+        return;
+    const int index = d->group->actions().indexOf(tab);
+    const bool wasChecked = tab->isChecked();
+
+    d->group->removeAction(tab);
+    // A tab in its destructor has lost its class; it must not announce anything more.
+    if (qobject_cast<RibbonCategoriesPanelAction *>(tab))
+        tab->setChecked(false);
+    d->window.removeAction(tab);
+    d->panels->removeAction(tab);
+
+    if (RibbonMenuBarButton *button = d->tabButtons.take(tab).data()) {
+        d->tabStrip->removeWidget(button);
+        button->removeAction(tab);
+        delete button;
+    }
+
+    const QList<QAction *> remaining = d->group->actions();
+    if (wasChecked && !remaining.isEmpty())
+        remaining.value(index, remaining.last())->setChecked(true);
+    ensureChecked();
+}
+
+void RibbonMenuBar::ensureChecked()
+{
+    if (isRibbonMinimized())
+        return;
+    const QList<QAction *> tabs = d->group->actions();
+    if (!tabs.isEmpty() && !d->group->checkedAction())
+        tabs.first()->setChecked(true);
+}
+
+void RibbonMenuBar::pinRibbon()
+{
+    d->panels->setCollapsable(false);
+    updateCollapseRibbonAction();
+}
+
+void RibbonMenuBar::minimizeRibbon()
+{
+    d->panels->setCollapsable(true);
+    updateCollapseRibbonAction();
+}
+
+void RibbonMenuBar::collapse()
+{
+    if (isRibbonMinimized())
+        d->panels->collapse();
+}
+
+void RibbonMenuBar::updateCollapseRibbonAction()
+{
+    if (!d->collapseAction)
+        return;
+    if (!isRibbonMinimized()) {
+        disconnect(d->collapseAction, SIGNAL(triggered()), this, SLOT(pinRibbon()));
+        connect(d->collapseAction, SIGNAL(triggered()), this, SLOT(minimizeRibbon()), Qt::UniqueConnection);
+        d->collapseAction->setIcon(QIcon(QStringLiteral(":/zel/common/Resources/MinimizeRibbon.ico")));
+        d->collapseAction->setToolTip(tr("Collapse the Ribbon"));
+    } else {
+        connect(d->collapseAction, SIGNAL(triggered()), this, SLOT(pinRibbon()), Qt::UniqueConnection);
+        disconnect(d->collapseAction, SIGNAL(triggered()), this, SLOT(minimizeRibbon()));
+        d->collapseAction->setIcon(QIcon(QStringLiteral(":/zel/common/Resources/PinRibbon.ico")));
+        d->collapseAction->setToolTip(tr("Pin the Ribbon"));
+    }
+}
+
+} // namespace zel
