@@ -109,8 +109,12 @@ void RibbonCatActionGroup::forgetAction(QObject *action)
     }
     if (static_cast<QObject *>(m_checkedAction) == action)
         m_checkedAction = nullptr;
-    sendActionChangedEvt();
-    emit changed();
+    // Announced later: the dying member, or an owner in the middle of deleting its
+    // children, may still be connected to this container's signals.
+    QMetaObject::invokeMethod(this, [this] {
+        sendActionChangedEvt();
+        emit changed();
+    }, Qt::QueuedConnection);
 }
 
 } // namespace zel

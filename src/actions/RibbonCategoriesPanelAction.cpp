@@ -76,7 +76,9 @@ void RibbonCategoriesPanelAction::forgetCategory(QObject *category)
         if (static_cast<QObject *>(m_categories.at(i)) == category)
             m_categories.removeAt(i);
     }
-    emit changed();
+    // Announced later: the dying member, or an owner in the middle of deleting its
+    // children, may still be connected to this container's signals.
+    QMetaObject::invokeMethod(this, [this] { emit changed(); }, Qt::QueuedConnection);
 }
 
 } // namespace zel

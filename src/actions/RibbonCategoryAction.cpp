@@ -78,7 +78,9 @@ void RibbonCategoryAction::forgetAction(QObject *action)
             m_rows.remove(member);
         }
     }
-    emit changed();
+    // Announced later: the dying member, or an owner in the middle of deleting its
+    // children, may still be connected to this container's signals.
+    QMetaObject::invokeMethod(this, [this] { emit changed(); }, Qt::QueuedConnection);
 }
 
 } // namespace zel

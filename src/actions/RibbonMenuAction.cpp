@@ -145,7 +145,9 @@ void RibbonMenuAction::setExclusive(bool exclusive)
     m_exclusive = exclusive;
     if (!exclusive)
         m_checkedItem = nullptr;
-    emitChanged();
+    // Announced later: the dying member, or an owner in the middle of deleting its
+    // children, may still be connected to this container's signals.
+    QMetaObject::invokeMethod(this, [this] { emitChanged(); }, Qt::QueuedConnection);
 }
 
 bool RibbonMenuAction::isExclusive() const
@@ -255,8 +257,7 @@ void RibbonMenuAction::disconnectItem(RibbonAction *action)
 
 void RibbonMenuAction::forgetItem(QObject *action)
 {
-    // The item is being destroyed: compare its address only, and announce the change
-    // without handing anyone the dying pointer.
+    // The item is being destroyed: compare its address only; no signal carries it.
     for (int i = m_menuActions.size() - 1; i >= 0; --i) {
         if (static_cast<QObject *>(m_menuActions.at(i)) == action)
             m_menuActions.removeAt(i);
@@ -265,7 +266,9 @@ void RibbonMenuAction::forgetItem(QObject *action)
         m_defaultAction = nullptr;
     if (static_cast<QObject *>(m_checkedItem) == action)
         m_checkedItem = nullptr;
-    emitChanged();
+    // Announced later: the dying member, or an owner in the middle of deleting its
+    // children, may still be connected to this container's signals.
+    QMetaObject::invokeMethod(this, [this] { emitChanged(); }, Qt::QueuedConnection);
 }
 
 } // namespace zel

@@ -1,0 +1,650 @@
+// Simple, string and menu actions: activation relay, default and checked items,
+// enabling of items, filling menus and view popups, and lifetimes of items.
+
+#include "ZelTest.h"
+
+#include "RibbonActionsContainer.h"
+#include "RibbonCatMenuAction.h"
+#include "RibbonCatSimpleAction.h"
+#include "RibbonMenuAction.h"
+#include "RibbonSeparatorAction.h"
+#include "RibbonSimpleAction.h"
+#include "RibbonStringAction.h"
+#include "RibbonTextAction.h"
+#include "RibbonViewPopup.h"
+
+#include <QMenu>
+#include <QMetaEnum>
+#include <QPixmap>
+#include <QPointer>
+#include <QWidget>
+
+using namespace zel;
+
+namespace {
+
+RibbonSimpleAction *checkableItem(const QString &text, QObject *parent)
+{
+    auto *item = new RibbonSimpleAction(parent);
+    item->setText(text);
+    item->setCheckable(true);
+    return item;
+}
+
+QStringList entryTexts(const QMenu &menu)
+{
+    QStringList texts;
+    const QList<QAction *> actions = menu.actions();
+    for (QAction *action : actions)
+        texts << (action->isSeparator() ? QStringLiteral("|") : action->text());
+    return texts;
+}
+
+} // namespace
+
+class tst_MenuActions : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void simpleActionsRelayActivation_data();
+    void simpleActionsRelayActivation();
+    void separatorAndTextActions();
+    void enumerations();
+    void catSimpleActionMakesNoWidgetOutsideToolBars();
+    void menuItemsIgnoreNullAndDuplicates();
+    void defaultAction();
+    void aliasDefaultActionFollows();
+    void removeDefaultEmitsNothing();
+    void exclusiveMenu();
+    void exclusiveCatMenu();
+    void checkedActionAndToBeToggled_data();
+    void checkedActionAndToBeToggled();
+    void autoChangeEnableSubActions_data();
+    void autoChangeEnableSubActions();
+    void itemTriggerAndActivation();
+    void insertAction();
+    void catMenuSettersAndLists();
+    void catMenuEnablesPopupCommands();
+    void fillMenuSkipsStringsAndRecurses();
+    void fillMenuSurvivesCycles();
+    void viewPopup();
+    void viewPopupDiesWithItsAction();
+    void deleteItemInsideMenu();
+    void deleteItemInsideOwnTriggeredHandler();
+    void deleteMenuBeforeItems();
+};
+
+void tst_MenuActions::simpleActionsRelayActivation_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<int>("expected");
+    QTest::newRow("RibbonSimpleAction") << 0 << 1;
+    QTest::newRow("RibbonCatSimpleAction (relay made twice)") << 1 << 1;
+    QTest::newRow("RibbonTextAction") << 2 << 1;
+    QTest::newRow("RibbonStringAction") << 3 << 0;
+    QTest::newRow("RibbonMenuAction") << 4 << 0;
+}
+
+void tst_MenuActions::simpleActionsRelayActivation()
+{
+    QFETCH(int, kind);
+    QFETCH(int, expected);
+    QScopedPointer<RibbonAction> action;
+    switch (kind) {
+    case 0: action.reset(new RibbonSimpleAction(nullptr)); break;
+    case 1: action.reset(new RibbonCatSimpleAction(RibbonCatSimpleAction::SizeMedium, nullptr)); break;
+    case 2: action.reset(new RibbonTextAction(nullptr)); break;
+    case 3: action.reset(new RibbonStringAction(nullptr)); break;
+    case 4: action.reset(new RibbonMenuAction(nullptr)); break;
+    }
+    QSignalSpy activated(action.data(), &RibbonAction::ribbonActionActivated);
+    action->trigger();
+    QCOMPARE(activated.count(), expected);
+}
+
+void tst_MenuActions::separatorAndTextActions()
+{
+    RibbonSeparatorAction separator(nullptr);
+    QVERIFY(separator.isSeparator());
+
+    QPixmap pixmap(16, 16);
+    pixmap.fill(Qt::red);
+    RibbonAction source(nullptr);
+    source.setText(QStringLiteral("Zoom"));
+    source.setIcon(QIcon(pixmap));
+    RibbonTextAction text(QPointer<RibbonAction>(&source), nullptr);
+    QCOMPARE(text.text(), QStringLiteral("Zoom")); // copied at once, unlike a simple action
+    QVERIFY(!text.icon().isNull());
+    RibbonSimpleAction simple(QPointer<RibbonAction>(&source), nullptr);
+    QVERIFY(simple.text().isEmpty());
+}
+
+void tst_MenuActions::enumerations()
+{
+    const QMetaEnum size = QMetaEnum::fromType<RibbonCatSimpleAction::eSize>();
+    QCOMPARE(size.keyToValue("SizeLarge"), 0);
+    QCOMPARE(size.keyToValue("SizeMedium"), 1);
+    QCOMPARE(size.keyToValue("SizeSmall"), 2);
+    const QMetaEnum menuSize = QMetaEnum::fromType<RibbonCatMenuAction::eMenuSize>();
+    QCOMPARE(menuSize.keyToValue("MenuSizeLarge"), 0);
+    QCOMPARE(menuSize.keyToValue("MenuSizeMedium"), 1);
+    QCOMPARE(menuSize.keyToValue("MenuSizeSmall"), 2);
+    const QMetaEnum popup = QMetaEnum::fromType<RibbonCatMenuAction::ePopupType>();
+    QCOMPARE(popup.keyToValue("PopupMenu"), 0);
+    QCOMPARE(popup.keyToValue("PopupPalette"), 1);
+    QCOMPARE(popup.keyToValue("PopupView"), 2);
+    QCOMPARE(popup.keyToValue("PopupListPreview"), 3);
+    QCOMPARE(QMetaEnum::fromType<RibbonCatMenuAction::eMenuType>().keyToValue("MenuTypeButton"), 0);
+
+    RibbonCatSimpleAction defaultSize;
+    QCOMPARE(defaultSize.size(), RibbonCatSimpleAction::SizeLarge);
+    RibbonCatMenuAction defaults;
+    QCOMPARE(defaults.menuType(), RibbonCatMenuAction::MenuTypeButton);
+    QCOMPARE(defaults.menuSize(), RibbonCatMenuAction::MenuSizeLarge);
+    QCOMPARE(defaults.popupType(), RibbonCatMenuAction::PopupMenu);
+}
+
+void tst_MenuActions::catSimpleActionMakesNoWidgetOutsideToolBars()
+{
+    RibbonCatSimpleAction action(RibbonCatSimpleAction::SizeLarge, nullptr);
+    QWidget plain;
+    plain.addAction(&action);
+    QVERIFY(!action.requestWidget(&plain));
+}
+
+void tst_MenuActions::menuItemsIgnoreNullAndDuplicates()
+{
+    RibbonMenuAction menu(nullptr);
+    RibbonSimpleAction a(nullptr), b(nullptr), stranger(nullptr);
+    menu.addAction(&a, false);
+    menu.addAction(&b, false);
+    QSignalSpy changed(&menu, &QAction::changed);
+    menu.addAction(&a, true);
+    menu.addAction(nullptr, true);
+    menu.removeAction(&stranger);
+    menu.removeAction(nullptr);
+    menu.insertAction(0, nullptr);
+    QCOMPARE(changed.count(), 0);
+    QCOMPARE(menu.menuActions(), (QList<RibbonAction *>{&a, &b}));
+    QVERIFY(!menu.defaultAction()); // the duplicate did not make a the default
+}
+
+void tst_MenuActions::defaultAction()
+{
+    RibbonMenuAction menu(nullptr);
+    RibbonSimpleAction a(nullptr), b(nullptr);
+    a.setToolTip(QStringLiteral("Paste"));
+    b.setToolTip(QStringLiteral("Paste special"));
+    QSignalSpy defaultChanged(&menu, &RibbonMenuAction::defaultActionChanged);
+
+    menu.addAction(&a, true);
+    QCOMPARE(menu.defaultAction(), &a);
+    QCOMPARE(defaultChanged.count(), 0);
+    QVERIFY(menu.toolTip().isEmpty());
+
+    menu.setDefaultAction(&a); // already the default
+    QCOMPARE(defaultChanged.count(), 0);
+
+    menu.addAction(&b, false);
+    menu.setDefaultAction(&b);
+    QCOMPARE(defaultChanged.count(), 1);
+    QCOMPARE(menu.toolTip(), QStringLiteral("Paste special"));
+
+    menu.setDefaultAction(nullptr);
+    QCOMPARE(defaultChanged.count(), 2);
+    QVERIFY(!static_cast<const RibbonMenuAction &>(menu).defaultAction());
+    QVERIFY(menu.toolTip().isEmpty());
+}
+
+void tst_MenuActions::aliasDefaultActionFollows()
+{
+    RibbonMenuAction host(nullptr);
+    RibbonSimpleAction item(nullptr);
+    host.addAction(&item, false);
+    RibbonMenuAction mirror(QPointer<QAction>(&host), nullptr);
+    host.setDefaultAction(&item);
+    QCOMPARE(mirror.defaultAction(), &item);
+}
+
+void tst_MenuActions::removeDefaultEmitsNothing()
+{
+    RibbonMenuAction menu(nullptr);
+    RibbonSimpleAction a(nullptr);
+    menu.addAction(&a, true);
+    QSignalSpy defaultChanged(&menu, &RibbonMenuAction::defaultActionChanged);
+    QSignalSpy changed(&menu, &QAction::changed);
+    menu.removeAction(&a);
+    QVERIFY(!menu.defaultAction());
+    QCOMPARE(defaultChanged.count(), 0);
+    QCOMPARE(changed.count(), 1);
+    QVERIFY(menu.menuActions().isEmpty());
+
+    // Removed items are disconnected.
+    QSignalSpy triggered(&menu, qOverload<RibbonAction *>(&RibbonMenuAction::triggered));
+    a.trigger();
+    QCOMPARE(triggered.count(), 0);
+}
+
+void tst_MenuActions::exclusiveMenu()
+{
+    QObject owner;
+    RibbonMenuAction menu(nullptr);
+    RibbonSimpleAction *a = checkableItem(QStringLiteral("A"), &owner);
+    RibbonSimpleAction *b = checkableItem(QStringLiteral("B"), &owner);
+    RibbonSimpleAction *c = checkableItem(QStringLiteral("C"), &owner);
+    menu.addAction(a, false);
+    menu.addAction(b, false);
+    menu.addAction(c, false);
+    menu.setExclusive(true);
+    QVERIFY(menu.isExclusive());
+
+    a->setChecked(true);
+    QCOMPARE(menu.checkedAction(), a);
+    b->setChecked(true);
+    QVERIFY(!a->isChecked());
+    QCOMPARE(menu.checkedAction(), b);
+
+    // Another change of an unchecked item leaves the checked one alone.
+    c->setText(QStringLiteral("C renamed"));
+    QVERIFY(b->isChecked());
+    QCOMPARE(menu.checkedAction(), b);
+
+    b->setChecked(false);
+    QVERIFY(!menu.checkedAction());
+
+    c->setChecked(true);
+    menu.setExclusive(false);
+    QVERIFY(!menu.checkedAction());
+    QVERIFY(c->isChecked());
+    a->setChecked(true);
+    QVERIFY(c->isChecked()); // no longer exclusive
+}
+
+void tst_MenuActions::exclusiveCatMenu()
+{
+    // The category menu has a slot of the same name as the item slot; the items must
+    // still reach the item rules.
+    QObject owner;
+    RibbonCatMenuAction menu(RibbonCatMenuAction::MenuTypeButton, RibbonCatMenuAction::MenuSizeSmall,
+                             RibbonCatMenuAction::PopupMenu, nullptr);
+    RibbonSimpleAction *a = checkableItem(QStringLiteral("A"), &owner);
+    RibbonSimpleAction *b = checkableItem(QStringLiteral("B"), &owner);
+    menu.addAction(a, false);
+    menu.addAction(b, false);
+    menu.setExclusive(true);
+    a->setChecked(true);
+    b->setChecked(true);
+    QVERIFY(!a->isChecked());
+    QCOMPARE(menu.checkedAction(), b);
+
+    menu.removeAction(b);
+    QVERIFY(!menu.checkedAction());
+    a->setChecked(true);
+    QVERIFY(b->isChecked()); // b is no longer an item
+}
+
+void tst_MenuActions::checkedActionAndToBeToggled_data()
+{
+    QTest::addColumn<bool>("showIndicator");
+    QTest::addColumn<bool>("toBeToggledFlag");
+    QTest::addColumn<bool>("withDefault");
+    QTest::addColumn<bool>("defaultCheckable");
+    QTest::addColumn<bool>("defaultChecked");
+    QTest::addColumn<bool>("itemChecked");
+    QTest::addColumn<bool>("expectedToggled");
+    QTest::addColumn<QString>("expectedChecked");
+
+    QTest::newRow("nothing") << true << false << false << false << false << false << false << "";
+    QTest::newRow("item checked, no flag, no default") << true << false << false << false << false << true << false << "";
+    QTest::newRow("flag, item checked") << true << true << false << false << false << true << true << "second";
+    QTest::newRow("flag, nothing checked") << true << true << false << false << false << false << false << "";
+    QTest::newRow("default checked") << true << false << true << true << true << false << true << "";
+    QTest::newRow("default checkable, unchecked") << true << false << true << true << false << true << false << "";
+    QTest::newRow("default not checkable") << true << false << true << false << false << false << false << "";
+    QTest::newRow("indicator off, flag, item checked") << false << true << false << false << false << true << false << "second";
+    QTest::newRow("indicator off, default checked") << false << false << true << true << true << false << false << "";
+}
+
+void tst_MenuActions::checkedActionAndToBeToggled()
+{
+    QFETCH(bool, showIndicator);
+    QFETCH(bool, toBeToggledFlag);
+    QFETCH(bool, withDefault);
+    QFETCH(bool, defaultCheckable);
+    QFETCH(bool, defaultChecked);
+    QFETCH(bool, itemChecked);
+    QFETCH(bool, expectedToggled);
+    QFETCH(QString, expectedChecked);
+
+    QObject owner;
+    RibbonMenuAction menu(nullptr);
+    RibbonSimpleAction *first = checkableItem(QStringLiteral("first"), &owner);
+    RibbonSimpleAction *second = checkableItem(QStringLiteral("second"), &owner);
+    RibbonSimpleAction *third = checkableItem(QStringLiteral("third"), &owner);
+    auto *defaultItem = new RibbonSimpleAction(&owner);
+    defaultItem->setText(QStringLiteral("default"));
+    defaultItem->setCheckable(defaultCheckable);
+    defaultItem->setChecked(defaultChecked);
+    menu.addAction(first, false);
+    menu.addAction(second, false);
+    menu.addAction(third, false);
+    if (withDefault)
+        menu.addAction(defaultItem, true);
+    if (itemChecked) {
+        third->setChecked(true);
+        second->setChecked(true); // the first in menu order wins, not the last checked
+    }
+    menu.setShowToggledIndicator(showIndicator);
+    menu.setToBeToggled(toBeToggledFlag);
+
+    QCOMPARE(menu.toBeToggled(), expectedToggled);
+    RibbonAction *checked = static_cast<const RibbonMenuAction &>(menu).checkedAction();
+    QCOMPARE(checked ? checked->text() : QString(), expectedChecked);
+}
+
+void tst_MenuActions::autoChangeEnableSubActions_data()
+{
+    QTest::addColumn<bool>("autoChange");
+    QTest::newRow("on") << true;
+    QTest::newRow("off") << false;
+}
+
+void tst_MenuActions::autoChangeEnableSubActions()
+{
+    QFETCH(bool, autoChange);
+    RibbonMenuAction menu(nullptr);
+    RibbonSimpleAction a(nullptr), b(nullptr);
+    menu.addAction(&a, false);
+    menu.addAction(&b, false);
+    b.setEnabled(false);
+    menu.autoChangeEnableSubActions(autoChange);
+
+    menu.setEnabled(false);
+    QCOMPARE(a.isEnabled(), !autoChange);
+    QVERIFY(!b.isEnabled());
+    menu.setEnabled(true);
+    QVERIFY(a.isEnabled());
+    QCOMPARE(b.isEnabled(), autoChange);
+
+    // The menu's own announcements (item changes) do not push the state.
+    menu.setEnabled(false);
+    a.setEnabled(true);
+    QVERIFY(a.isEnabled());
+}
+
+void tst_MenuActions::itemTriggerAndActivation()
+{
+    RibbonMenuAction menu(nullptr);
+    RibbonSimpleAction simple(nullptr);
+    RibbonStringAction text(nullptr);
+    menu.addAction(&simple, false);
+    menu.addAction(&text, false);
+    QSignalSpy triggered(&menu, qOverload<RibbonAction *>(&RibbonMenuAction::triggered));
+    QSignalSpy activated(&menu, &RibbonAction::ribbonActionActivated);
+
+    simple.trigger();
+    QCOMPARE(triggered.count(), 1);
+    QCOMPARE(triggered.at(0).at(0).value<RibbonAction *>(), &simple);
+    QCOMPARE(activated.count(), 1);
+
+    text.trigger();
+    QCOMPARE(triggered.count(), 2);
+    QCOMPARE(activated.count(), 1); // a string action announces no activation
+}
+
+void tst_MenuActions::insertAction()
+{
+    RibbonMenuAction menu(nullptr);
+    RibbonSimpleAction a(nullptr), b(nullptr), c(nullptr), d(nullptr);
+    menu.addAction(&a, false);
+    menu.addAction(&b, false);
+    menu.addAction(&c, false);
+    QSignalSpy changed(&menu, &QAction::changed);
+
+    menu.insertAction(0, &c); // moves
+    QCOMPARE(menu.menuActions(), (QList<RibbonAction *>{&c, &a, &b}));
+    QCOMPARE(changed.count(), 1);
+    menu.insertAction(99, &d); // out of range: appended
+    menu.insertAction(-5, &b); // out of range: prepended
+    QCOMPARE(menu.menuActions(), (QList<RibbonAction *>{&b, &c, &a, &d}));
+
+    // An inserted item gets no item connections.
+    QSignalSpy triggered(&menu, qOverload<RibbonAction *>(&RibbonMenuAction::triggered));
+    d.trigger();
+    QCOMPARE(triggered.count(), 0);
+}
+
+void tst_MenuActions::catMenuSettersAndLists()
+{
+    RibbonCatMenuAction menu(QStringLiteral("Views"), RibbonCatMenuAction::MenuTypeButton,
+                             RibbonCatMenuAction::MenuSizeMedium, RibbonCatMenuAction::PopupView,
+                             nullptr);
+    RibbonActionsContainer::instance().removeAction(QStringLiteral("Views"));
+    QCOMPARE(menu.menuSize(), RibbonCatMenuAction::MenuSizeMedium);
+    QCOMPARE(menu.popupType(), RibbonCatMenuAction::PopupView);
+    QCOMPARE(menu.menuMarkerOffset(), 0);
+    QCOMPARE(menu.listPreviewVisibleIconsCount(), 4);
+    QVERIFY(menu.drawCheckedMarker());
+    QVERIFY(menu.iconActionGroup());
+    QCOMPARE(menu.iconActionGroup()->parent(), &menu);
+
+    QSignalSpy changed(&menu, &QAction::changed);
+    menu.setMenuMarkerOffset(12);
+    menu.setListPreviewVisibleIconsCount(6);
+    menu.setDrawCheckedMarker(false);
+    QCOMPARE(changed.count(), 0);
+    QCOMPARE(menu.menuMarkerOffset(), 12);
+    QCOMPARE(menu.listPreviewVisibleIconsCount(), 6);
+    QVERIFY(!menu.drawCheckedMarker());
+
+    QActionGroup *own = menu.iconActionGroup();
+    QPointer<QActionGroup> other = new QActionGroup(nullptr);
+    menu.addIconActionGroup(other);
+    QCOMPARE(menu.iconActionGroup(), other.data());
+    QCOMPARE(own->parent(), &menu);
+    delete other.data();
+    QVERIFY(!menu.iconActionGroup());
+
+    RibbonSimpleAction top(nullptr), bottom(nullptr);
+    menu.addTopAction(&top);
+    menu.addTopAction(nullptr);
+    menu.addBottomAction(&bottom);
+    QCOMPARE(menu.topActions(), QList<RibbonSimpleAction *>{&top});
+    QCOMPARE(menu.bottomActions(), QList<RibbonSimpleAction *>{&bottom});
+}
+
+void tst_MenuActions::catMenuEnablesPopupCommands()
+{
+    RibbonCatMenuAction menu;
+    RibbonSimpleAction top(nullptr), bottom(nullptr), tile(nullptr);
+    menu.addTopAction(&top);
+    menu.addBottomAction(&bottom);
+    menu.iconActionGroup()->addAction(&tile);
+
+    menu.setEnabled(false);
+    QVERIFY(!top.isEnabled());
+    QVERIFY(!bottom.isEnabled());
+    QVERIFY(!tile.isEnabled());
+    menu.setEnabled(true);
+    QVERIFY(top.isEnabled() && bottom.isEnabled() && tile.isEnabled());
+}
+
+void tst_MenuActions::fillMenuSkipsStringsAndRecurses()
+{
+    QObject owner;
+    RibbonCatMenuAction menu;
+    auto *simple = new RibbonSimpleAction(&owner);
+    simple->setText(QStringLiteral("Copy"));
+    auto *text = new RibbonStringAction(&owner);
+    text->setText(QStringLiteral("Hidden string"));
+    auto *sub = new RibbonMenuAction(&owner);
+    sub->setText(QStringLiteral("More"));
+    auto *subItem = new RibbonSimpleAction(&owner);
+    subItem->setText(QStringLiteral("Copy format"));
+    auto *deeper = new RibbonMenuAction(&owner);
+    deeper->setText(QStringLiteral("Deeper"));
+    auto *deepItem = new RibbonCatSimpleAction(RibbonCatSimpleAction::SizeSmall, &owner);
+    deepItem->setText(QStringLiteral("Deep"));
+    deeper->addAction(deepItem, false);
+    sub->addAction(subItem, false);
+    sub->addAction(new RibbonStringAction(&owner), false);
+    sub->addAction(deeper, false);
+    menu.addAction(simple, false);
+    menu.addAction(text, false);
+    menu.addAction(sub, false);
+
+    QMenu qmenu;
+    menu.fillMenu(qmenu);
+    QCOMPARE(entryTexts(qmenu), (QStringList{QStringLiteral("Copy"), QStringLiteral("More")}));
+    QCOMPARE(qmenu.actions().at(0), simple); // shared, not copied
+    QMenu *subMenu = qmenu.actions().at(1)->menu();
+    QVERIFY(subMenu);
+    QCOMPARE(entryTexts(*subMenu), (QStringList{QStringLiteral("Copy format"), QStringLiteral("Deeper")}));
+    QMenu *deepMenu = subMenu->actions().at(1)->menu();
+    QVERIFY(deepMenu);
+    QCOMPARE(entryTexts(*deepMenu), QStringList{QStringLiteral("Deep")});
+
+    QMenu direct;
+    menu.fillMenu(direct, QPointer<RibbonMenuAction>(sub));
+    QCOMPARE(entryTexts(direct), QStringList{QStringLiteral("More")});
+    menu.fillMenu(direct, QPointer<RibbonMenuAction>());
+    QCOMPARE(direct.actions().size(), 1);
+}
+
+void tst_MenuActions::fillMenuSurvivesCycles()
+{
+    RibbonCatMenuAction menu;
+    RibbonMenuAction sub(nullptr);
+    sub.setText(QStringLiteral("Loop"));
+    menu.addAction(&sub, false);
+    sub.addAction(&menu, false); // contains its own parent
+    QMenu qmenu;
+    menu.fillMenu(qmenu);
+    QCOMPARE(entryTexts(qmenu), QStringList{QStringLiteral("Loop")});
+    QVERIFY(qmenu.actions().at(0)->menu()->actions().isEmpty());
+}
+
+void tst_MenuActions::viewPopup()
+{
+    RibbonCatMenuAction menu;
+    RibbonSimpleAction top(nullptr), bottom(nullptr), tileA(nullptr), tileB(nullptr), disabled(nullptr);
+    top.setText(QStringLiteral("Top"));
+    bottom.setText(QStringLiteral("Bottom"));
+    tileA.setText(QStringLiteral("Tile A"));
+    tileB.setText(QStringLiteral("Tile B"));
+    disabled.setText(QStringLiteral("Off"));
+    disabled.setEnabled(false);
+    menu.addTopAction(&top);
+    menu.addBottomAction(&bottom);
+    menu.iconActionGroup()->addAction(&tileA);
+    menu.iconActionGroup()->addAction(&disabled);
+    menu.iconActionGroup()->addAction(&tileB);
+
+    QScopedPointer<RibbonViewPopup> popup(menu.fillMenu());
+    QVERIFY(popup);
+    // A menu can only have a widget parent: the popup is top-level and dies with the
+    // action instead (see viewPopupDiesWithItsAction).
+    QVERIFY(!popup->parent());
+    QVERIFY(popup->windowFlags() & Qt::Popup);
+    QCOMPARE(entryTexts(*popup), (QStringList{QStringLiteral("Top"), QStringLiteral("|"),
+                                              QStringLiteral("Tile A"), QStringLiteral("Tile B"),
+                                              QStringLiteral("|"), QStringLiteral("Bottom")}));
+    popup->popup(QPoint(40, 40));
+    QTRY_VERIFY(popup->isVisible());
+    popup->close();
+}
+
+void tst_MenuActions::viewPopupDiesWithItsAction()
+{
+    auto *menu = new RibbonCatMenuAction;
+    RibbonSimpleAction top(nullptr);
+    menu->addTopAction(&top);
+    QPointer<RibbonViewPopup> popup = menu->fillMenu();
+    delete menu;
+    QVERIFY(popup.isNull());
+
+    // With a widget as parent, the popup is a child window of that widget.
+    QWidget window;
+    QPointer<RibbonViewPopup> child = new RibbonViewPopup({&top}, {}, nullptr, &window);
+    QCOMPARE(child->parentWidget(), &window);
+    QVERIFY(child->windowFlags() & Qt::Popup);
+    QCOMPARE(entryTexts(*child), QStringList{top.text()});
+}
+
+void tst_MenuActions::deleteItemInsideMenu()
+{
+    RibbonCatMenuAction menu;
+    menu.setExclusive(true);
+    RibbonSimpleAction *item = checkableItem(QStringLiteral("Gone"), nullptr);
+    RibbonSimpleAction keep(nullptr);
+    menu.addAction(item, true);
+    menu.addAction(&keep, false);
+    menu.addTopAction(item);
+    menu.addBottomAction(item);
+    item->setChecked(true);
+    QCOMPARE(menu.checkedAction(), item);
+    QSignalSpy defaultChanged(&menu, &RibbonMenuAction::defaultActionChanged);
+
+    delete item;
+    QCOMPARE(menu.menuActions(), QList<RibbonAction *>{&keep});
+    QVERIFY(!menu.defaultAction());
+    QVERIFY(!menu.checkedAction());
+    QVERIFY(menu.topActions().isEmpty());
+    QVERIFY(menu.bottomActions().isEmpty());
+    QCOMPARE(defaultChanged.count(), 0);
+    menu.setEnabled(false); // pushes to the remaining popup commands only
+    QVERIFY(!menu.toBeToggled());
+
+    // An inserted item and a default that is not an item are cleaned up as well.
+    auto *inserted = new RibbonSimpleAction(nullptr);
+    auto *loneDefault = new RibbonSimpleAction(nullptr);
+    menu.insertAction(0, inserted);
+    menu.setDefaultAction(loneDefault);
+    delete inserted;
+    delete loneDefault;
+    QCOMPARE(menu.menuActions(), QList<RibbonAction *>{&keep});
+    QVERIFY(!menu.defaultAction());
+}
+
+void tst_MenuActions::deleteItemInsideOwnTriggeredHandler()
+{
+    RibbonMenuAction menu(nullptr);
+    QPointer<RibbonSimpleAction> item = new RibbonSimpleAction(nullptr);
+    menu.addAction(item, true);
+    connect(item.data(), &QAction::triggered, this, [&item] { delete item.data(); });
+    QSignalSpy triggered(&menu, qOverload<RibbonAction *>(&RibbonMenuAction::triggered));
+    QSignalSpy activated(&menu, &RibbonAction::ribbonActionActivated);
+
+    item->trigger();
+    QVERIFY(item.isNull());
+    QVERIFY(menu.menuActions().isEmpty());
+    QVERIFY(!menu.defaultAction());
+    QCOMPARE(activated.count(), 1);
+    QCOMPARE(triggered.count(), 1);
+}
+
+void tst_MenuActions::deleteMenuBeforeItems()
+{
+    auto *menu = new RibbonCatMenuAction;
+    RibbonSimpleAction item(nullptr), top(nullptr);
+    item.setCheckable(true);
+    menu->addAction(&item, true);
+    menu->addTopAction(&top);
+    menu->setExclusive(true);
+    menu->autoChangeEnableSubActions(true);
+    auto *outer = new RibbonMenuAction(nullptr);
+    outer->addAction(menu, false);
+
+    delete menu;
+    QVERIFY(outer->menuActions().isEmpty());
+    delete outer;
+    item.setChecked(true);
+    item.setEnabled(false);
+    item.trigger();
+    top.setEnabled(false);
+    QVERIFY(!item.isEnabled());
+}
+
+ZEL_TEST_MAIN(tst_MenuActions)
+#include "tst_menuactions.moc"
