@@ -14,6 +14,17 @@ public:
     // Takes ownership of baseStyle; nullptr means the default base style.
     explicit RibbonMainTabBarStyle(QStyle *baseStyle = nullptr);
     ~RibbonMainTabBarStyle() override;
+
+    void polish(QWidget *widget) override;
+    using QProxyStyle::polish;
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
+                       const QWidget *widget = nullptr) const override;
+    void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                     const QWidget *widget = nullptr) const override;
+
+private:
+    Q_DISABLE_COPY(RibbonMainTabBarStyle)
 };
 
 } // namespace zel

@@ -6,16 +6,42 @@
 
 namespace zel {
 
-// Paints the standard Qt controls (menus, scroll bars, check boxes, combo boxes, tool
-// tips, tool-box tabs, tabs) in the palette's colours and images over a base style,
-// so that they sit well next to the ribbon.
+// Paints the standard Qt controls (menus, scroll bars, check boxes, radio buttons,
+// combo boxes, tool tips, tool-box tabs, tabs, tool buttons) in the palette's colours
+// and images over a base style, so that they sit well next to the ribbon. Whatever it
+// does not paint itself, and everything when the application is not a
+// RibbonApplication, is left to the base style.
 class ZELRIBBON_EXPORT RibbonQStyle : public QProxyStyle
 {
     Q_OBJECT
 public:
-    // Takes ownership of baseStyle; nullptr means the default base style.
+    // Takes ownership of baseStyle; nullptr means the application's default base style.
     explicit RibbonQStyle(QStyle *baseStyle = nullptr);
     ~RibbonQStyle() override;
+
+    void polish(QWidget *widget) override;
+    using QProxyStyle::polish;
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
+                       const QWidget *widget = nullptr) const override;
+    void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                     const QWidget *widget = nullptr) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,
+                            const QWidget *widget = nullptr) const override;
+    QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &contentsSize,
+                           const QWidget *widget = nullptr) const override;
+    int pixelMetric(PixelMetric metric, const QStyleOption *option = nullptr,
+                    const QWidget *widget = nullptr) const override;
+    int styleHint(StyleHint hint, const QStyleOption *option = nullptr, const QWidget *widget = nullptr,
+                  QStyleHintReturn *returnData = nullptr) const override;
+
+private:
+    void drawMenuItem(const QStyleOption *option, QPainter *painter, const QWidget *widget) const;
+    void drawScrollBar(const QStyleOptionComplex *option, QPainter *painter, const QWidget *widget) const;
+    void drawComboBox(const QStyleOptionComplex *option, QPainter *painter, const QWidget *widget) const;
+    void drawCheckIndicator(const QStyleOption *option, QPainter *painter, bool radio) const;
+
+    Q_DISABLE_COPY(RibbonQStyle)
 };
 
 } // namespace zel
