@@ -15,9 +15,25 @@
 
 namespace {
 
+// The shadow border only makes sense around a top-level window; the interactive demo
+// embeds the screen in a tab, so the border is added when the window first shows alone.
+class FindReplaceWindow : public zel::RibbonWindow
+{
+protected:
+    void showEvent(QShowEvent *event) override
+    {
+        zel::RibbonWindow::showEvent(event);
+        if (isWindow() && !m_border)
+            m_border = new zel::RibbonWindowBorder(this, false);
+    }
+
+private:
+    zel::RibbonWindowBorder *m_border = nullptr;
+};
+
 QWidget *makeFindReplaceWindow()
 {
-    auto *window = new zel::RibbonWindow;
+    auto *window = new FindReplaceWindow;
     window->setWindowTitle(QStringLiteral("Find and replace"));
     window->setMinimumSize(300, 180);
 
@@ -52,7 +68,6 @@ QWidget *makeFindReplaceWindow()
     layout->addStretch();
     layout->addLayout(buttons);
 
-    new zel::RibbonWindowBorder(window, false);
     window->resize(440, 200);
     return window;
 }
