@@ -5,6 +5,8 @@
 #include "RibbonButtonNormal.h"
 #include "RibbonCatComboAction.h"
 #include "RibbonCatComboComboBox.h"
+#include "RibbonCatMenuAction.h"
+#include "RibbonCatMenuButton.h"
 #include "RibbonCategoriesPanelAction.h"
 #include "RibbonCategoryPanelsProxy.h"
 #include "RibbonContextCategoryPanel.h"
@@ -325,6 +327,12 @@ void RibbonMenuBar::actionEvent(QActionEvent *event)
                 addPanelAction(tab);
         } else if (auto *combo = qobject_cast<RibbonCatComboAction *>(ribbonAction)) {
             auto *widget = new RibbonCatComboComboBox(*combo, this);
+            insertBeforeCollapseButton(widget);
+            d->commandWidgets.insert(action, widget);
+            updateGeometry();
+            update();
+        } else if (auto *menu = qobject_cast<RibbonCatMenuAction *>(ribbonAction)) {
+            auto *widget = new RibbonCatMenuButton(*menu, this);
             insertBeforeCollapseButton(widget);
             d->commandWidgets.insert(action, widget);
             updateGeometry();
