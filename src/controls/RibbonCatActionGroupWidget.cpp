@@ -3,6 +3,8 @@
 #include "IRibbonGroupWidget.h"
 #include "RibbonApplication.h"
 #include "RibbonCatActionGroup.h"
+#include "RibbonCatMenuAction.h"
+#include "RibbonCatMenuButton.h"
 #include "RibbonPaint_p.h"
 #include "RibbonStyle.h"
 
@@ -28,12 +30,11 @@ const QRect kWideArrow(20, 0, 8, 22);
 const QRect kWideRightEdge(28, 0, 2, 22);
 
 // The hidden button behind a member of a wide strip that opens a popup of its own; it
-// implements IRibbonGroupWidget. Null for members that are plain commands, which are
-// the only kind of member this build knows: a kind with a popup adds its maker here.
+// implements IRibbonGroupWidget. Null for members that are plain commands.
 QWidget *makePopupButton(RibbonAction *action, QWidget *parent)
 {
-    Q_UNUSED(action)
-    Q_UNUSED(parent)
+    if (auto *menu = qobject_cast<RibbonCatMenuAction *>(action))
+        return new RibbonCatMenuButton(*menu, parent);
     return nullptr;
 }
 

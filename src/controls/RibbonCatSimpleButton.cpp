@@ -193,7 +193,8 @@ void RibbonCatSimpleButton::paintEvent(QPaintEvent *)
         painter.setPen(RibbonPaint::textColor(enabled));
         const QRect textRect = QRect(0, scaled(34), w, h - 34)
                                    .adjusted(scaled(2), scaled(2), scaled(-2), scaled(-2));
-        painter.drawText(textRect, kLargeTextFlags, text());
+        // Descenders of the second line may reach a pixel beyond the rectangle.
+        painter.drawText(textRect, kLargeTextFlags | Qt::TextDontClip, text());
         return;
     }
 

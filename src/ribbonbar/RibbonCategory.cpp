@@ -3,6 +3,14 @@
 #include "RibbonApplication.h"
 #include "RibbonCatActionGroup.h"
 #include "RibbonCatActionGroupWidget.h"
+#include "RibbonCatCheckBox.h"
+#include "RibbonCatCheckBoxAction.h"
+#include "RibbonCatComboAction.h"
+#include "RibbonCatComboWidget.h"
+#include "RibbonCatFontFamilyAction.h"
+#include "RibbonCatFontFamilyComboBox.h"
+#include "RibbonCatMenuAction.h"
+#include "RibbonCatMenuButton.h"
 #include "RibbonCatSimpleAction.h"
 #include "RibbonCatSimpleButton.h"
 #include "RibbonCategoryAction.h"
@@ -29,21 +37,32 @@ int dpiRound(double v)
 // each returns null for an action it does not handle.
 using ControlMaker = QWidget *(*)(RibbonAction *action, QWidget *parent);
 
-QWidget *makeSimpleButton(RibbonAction *action, QWidget *parent)
+template<typename Action, typename Control>
+QWidget *makeFor(RibbonAction *action, QWidget *parent)
 {
-    auto *simple = qobject_cast<RibbonCatSimpleAction *>(action);
-    return simple ? new RibbonCatSimpleButton(*simple, parent) : nullptr;
+    auto *typed = qobject_cast<Action *>(action);
+    return typed ? new Control(*typed, parent) : nullptr;
 }
 
-QWidget *makeGroupStrip(RibbonAction *action, QWidget *parent)
+QWidget *makeMenuButton(RibbonAction *action, QWidget *parent)
 {
-    auto *group = qobject_cast<RibbonCatActionGroup *>(action);
-    return group ? new RibbonCatActionGroupWidget(*group, parent) : nullptr;
+    auto *menu = qobject_cast<RibbonCatMenuAction *>(action);
+    if (!menu)
+        return nullptr;
+    // An in-ribbon gallery has no button; this build has no gallery control, so such a
+    // member gets no control at all rather than a button that is not meant to exist.
+    if (menu->popupType() == RibbonCatMenuAction::PopupListPreview)
+        return nullptr;
+    return new RibbonCatMenuButton(*menu, parent);
 }
 
 const ControlMaker controlMakers[] = {
-    makeSimpleButton,
-    makeGroupStrip,
+    makeMenuButton,
+    makeFor<RibbonCatSimpleAction, RibbonCatSimpleButton>,
+    makeFor<RibbonCatActionGroup, RibbonCatActionGroupWidget>,
+    makeFor<RibbonCatFontFamilyAction, RibbonCatFontFamilyComboBox>,
+    makeFor<RibbonCatCheckBoxAction, RibbonCatCheckBox>,
+    makeFor<RibbonCatComboAction, RibbonCatComboWidget>,
 };
 
 QWidget *makeControl(RibbonAction *action, QWidget *parent)
@@ -278,7 +297,7 @@ void RibbonCategory::paintEvent(QPaintEvent *)
     d->bottomEdge.draw(painter, bottom, bottomOffset);
 
     painter.setPen(style.categoryCaptionTextColor());
-    painter.drawText(d->captionRect, Qt::AlignCenter, d->caption);
+    painter.drawText(d->captionRect, Qt::AlignCenter | Qt::TextDontClip, d->caption);
 
     // In-ribbon galleries get a thin frame.
     painter.setPen(QColor(QStringLiteral("#afafaf")));

@@ -56,6 +56,7 @@ void RibbonCategoryLayout::addItem(QLayoutItem *item)
     m_items.append(item);
     m_rects.append(QRect());
     recompute();
+    invalidate();
 }
 
 QLayoutItem *RibbonCategoryLayout::itemAt(int index) const
@@ -69,7 +70,10 @@ QLayoutItem *RibbonCategoryLayout::takeAt(int index)
         return nullptr;
     QLayoutItem *item = m_items.takeAt(index);
     m_rects.removeAt(index);
-    recompute();
+    if (!m_suppressed) {
+        recompute();
+        invalidate();
+    }
     return item;
 }
 
