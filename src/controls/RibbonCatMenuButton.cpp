@@ -429,9 +429,11 @@ QWidget *RibbonCatMenuButtonBPriv::openMenu()
     const QScreen *screen = owner.screen();
     const QRect available = screen ? screen->availableGeometry() : RibbonPlatform::availableGeometry();
     if (bottomLeft.y() + 100 > available.y() + available.height()) {
+        // QMenu::popup(pos, action) leaves the menu's frame above the entry; place the
+        // entry itself.
         const QList<QAction *> entries = menu->actions();
-        menu->popup(owner.mapToGlobal(QPoint(0, 0)) - QPoint(0, 30),
-                    entries.isEmpty() ? nullptr : entries.last());
+        const int entryTop = entries.isEmpty() ? 0 : menu->actionGeometry(entries.last()).top();
+        menu->popup(owner.mapToGlobal(QPoint(0, 0)) - QPoint(0, 30 + entryTop));
     } else {
         menu->popup(bottomLeft);
     }
