@@ -127,6 +127,8 @@ private slots:
     void fonts();
     void welcomePressedColorIsBluePressed();
     void ribbonStyleKind();
+    void compiledInImages_data();
+    void compiledInImages();
     void imagesLoadFromGivenDirectory();
     void missingImagesStayNullSilently();
 
@@ -137,6 +139,7 @@ private slots:
     void arrowSymbols_data();
     void arrowSymbols();
     void symbolBarArrowDown();
+    void symbolDropDownDrawsWrapperIcon();
     void drawSymbolKeepsPenAndBrush();
 
     void createStyleKinds_data();
@@ -359,6 +362,73 @@ void TestRibbonStyle::ribbonStyleKind()
     QCOMPARE(int(RibbonApplication::theApp().getRibbonStyle()), 1);
 }
 
+void TestRibbonStyle::compiledInImages_data()
+{
+    QTest::addColumn<bool>("isNull");
+    QTest::addColumn<bool>("expectNull");
+
+    // Every image entry of the default palette; the palette-button images are not
+    // compiled in and stay null.
+    const RibbonStyle &s = RibbonApplication::theApp().ribbonStyle();
+    QTest::newRow("mainBorder") << s.mainBorder().isNull() << false;
+    QTest::newRow("mainBorderCaption") << s.mainBorderCaption().isNull() << false;
+    QTest::newRow("statusBar") << s.statusBar().isNull() << false;
+    QTest::newRow("sysBtnBack") << s.sysBtnBack().isNull() << false;
+    QTest::newRow("toolBoxTabBack") << s.toolBoxTabBack().isNull() << false;
+    QTest::newRow("sysBtnClose") << s.sysBtnClose().isNull() << false;
+    QTest::newRow("sysBtnCloseSmall") << s.sysBtnCloseSmall().isNull() << false;
+    QTest::newRow("sysBtnMaximize") << s.sysBtnMaximize().isNull() << false;
+    QTest::newRow("sysBtnMaximizeSmall") << s.sysBtnMaximizeSmall().isNull() << false;
+    QTest::newRow("sysBtnMinimize") << s.sysBtnMinimize().isNull() << false;
+    QTest::newRow("sysBtnMinimizeSmall") << s.sysBtnMinimizeSmall().isNull() << false;
+    QTest::newRow("sysBtnRestore") << s.sysBtnRestore().isNull() << false;
+    QTest::newRow("sysBtnRestoreSmall") << s.sysBtnRestoreSmall().isNull() << false;
+    QTest::newRow("normalButtonSmall") << s.normalButtonSmall().isNull() << false;
+    QTest::newRow("menuBarButton") << s.menuBarButton().isNull() << false;
+    QTest::newRow("fileBarButton") << s.fileBarButton().isNull() << false;
+    QTest::newRow("categories") << s.categories().isNull() << false;
+    QTest::newRow("categoryTop") << s.categoryTop().isNull() << false;
+    QTest::newRow("categoryBottom") << s.categoryBottom().isNull() << false;
+    QTest::newRow("categoryWrapperBack") << s.categoryWrapperBack().isNull() << false;
+    QTest::newRow("categoryWrapperIcon") << s.categoryWrapperIcon().isNull() << false;
+    QTest::newRow("mainPanelBack") << s.mainPanelBack().isNull() << false;
+    QTest::newRow("horizontalMenuButtonCaption") << s.horizontalMenuButtonCaption().isNull() << false;
+    QTest::newRow("horizontalMenuButtonMenu") << s.horizontalMenuButtonMenu().isNull() << false;
+    QTest::newRow("verticalMenuButtonCaption") << s.verticalMenuButtonCaption().isNull() << false;
+    QTest::newRow("verticalMenuButtonMenu") << s.verticalMenuButtonMenu().isNull() << false;
+    QTest::newRow("mainPanelBorder") << s.mainPanelBorder().isNull() << false;
+    QTest::newRow("mainPanelSeparator") << s.mainPanelSeparator().isNull() << false;
+    QTest::newRow("mainPanelButton") << s.mainPanelButton().isNull() << false;
+    QTest::newRow("paletteBtnTop") << s.paletteBtnTop().isNull() << true;
+    QTest::newRow("paletteBtnMiddle") << s.paletteBtnMiddle().isNull() << true;
+    QTest::newRow("paletteBtnBottom") << s.paletteBtnBottom().isNull() << true;
+    QTest::newRow("paletteItemLarge") << s.paletteItemLarge().isNull() << false;
+    QTest::newRow("paletteItemSmall") << s.paletteItemSmall().isNull() << false;
+    QTest::newRow("popupBorder") << s.popupBorder().isNull() << false;
+    QTest::newRow("popupResizeBarBack") << s.popupResizeBarBack().isNull() << false;
+    QTest::newRow("popupResizeBarIconB") << s.popupResizeBarIconB().isNull() << false;
+    QTest::newRow("popupResizeBarIconBR") << s.popupResizeBarIconBR().isNull() << false;
+    QTest::newRow("popupResizeBarIconTR") << s.popupResizeBarIconTR().isNull() << false;
+    QTest::newRow("checkableMenuItemBack") << s.checkableMenuItemBack().isNull() << false;
+    QTest::newRow("tabBarTabs") << s.tabBarTabs().isNull() << false;
+    QTest::newRow("sliderPlus") << s.sliderPlus().isNull() << false;
+    QTest::newRow("sliderMinus") << s.sliderMinus().isNull() << false;
+    QTest::newRow("sliderThumb") << s.sliderThumb().isNull() << false;
+    QTest::newRow("btnGroupFirst") << s.btnGroupFirst().isNull() << false;
+    QTest::newRow("btnGroupMidle") << s.btnGroupMidle().isNull() << false;
+    QTest::newRow("btnGroupLast") << s.btnGroupLast().isNull() << false;
+    QTest::newRow("comboBox") << s.comboBox().isNull() << false;
+    QTest::newRow("tabBarTabShape") << s.tabBarTabShape().isNull() << false;
+    QTest::newRow("tooltipBack") << s.tooltipBack().isNull() << false;
+}
+
+void TestRibbonStyle::compiledInImages()
+{
+    QFETCH(bool, isNull);
+    QFETCH(bool, expectNull);
+    QCOMPARE(isNull, expectNull);
+}
+
 void TestRibbonStyle::imagesLoadFromGivenDirectory()
 {
     QTemporaryDir dir;
@@ -493,6 +563,23 @@ void TestRibbonStyle::symbolBarArrowDown()
     QCOMPARE(image.pixel(11, 0), kWhite);
     QCOMPARE(image.pixel(5, 7), kBlack);
     QCOMPARE(image.pixel(0, 10), kWhite);
+}
+
+void TestRibbonStyle::symbolDropDownDrawsWrapperIcon()
+{
+    const QPixmap &icon = RibbonApplication::theApp().ribbonStyle().categoryWrapperIcon();
+    QVERIFY(!icon.isNull());
+    // The 5 x 3 arrow at the icon's top left, scaled into the target and nowhere else.
+    const QRect target(4, 4, 10, 6);
+    const QImage image = paintSymbol(QSize(16, 16), target, SymbolDropDown);
+    QImage expected(16, 16, QImage::Format_RGB32);
+    expected.fill(kWhite);
+    {
+        QPainter painter(&expected);
+        painter.drawPixmap(target, icon, QRect(0, 0, 5, 3));
+    }
+    QVERIFY(!isBlank(image));
+    QCOMPARE(image, expected);
 }
 
 void TestRibbonStyle::drawSymbolKeepsPenAndBrush()
