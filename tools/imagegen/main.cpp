@@ -361,8 +361,19 @@ private:
             ellipse(op);
         else if (kind == QLatin1String("use")) {
             // Draws a shared list of operations ("shapes" in the description).
+            // "rotate" turns it, in degrees clockwise, about the frame's centre.
             const QJsonValue shared = scope.resolve(op.value(QStringLiteral("shape")));
-            return draw(shared.toArray());
+            const double angle = number(op, QStringLiteral("rotate"), 0);
+            p.save();
+            if (angle != 0) {
+                const QPointF c(frame.width() / 2.0, frame.height() / 2.0);
+                p.translate(c);
+                p.rotate(angle);
+                p.translate(-c);
+            }
+            const bool ok = draw(shared.toArray());
+            p.restore();
+            return ok;
         } else {
             err() << "unknown operation '" << kind << "'\n";
             return false;
