@@ -1,0 +1,559 @@
+#include "ZelTest.h"
+
+#include "RibbonApplication.h"
+#include "RibbonButtonNormal.h"
+#include "RibbonCatActionGroup.h"
+#include "RibbonCatActionGroupWidget.h"
+#include "RibbonCatSimpleAction.h"
+#include "RibbonCatSimpleButton.h"
+#include "RibbonMainMenuItem.h"
+#include "RibbonStyle.h"
+#include "RibbonSymbolButton.h"
+#include "RibbonToolBar.h"
+
+#include <QHoverEvent>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QPointer>
+#include <QToolButton>
+
+#include <memory>
+
+using namespace zel;
+
+namespace {
+
+int scaledBy(double v)
+{
+    return int(v * RibbonApplication::theApp().dpiFactor().second + 0.5);
+}
+
+QIcon solidIcon(const QColor &color)
+{
+    QIcon icon;
+    for (int extent : {16, 32}) {
+        QPixmap pixmap(extent, extent);
+        pixmap.fill(color);
+        icon.addPixmap(pixmap);
+    }
+    return icon;
+}
+
+// The narrowest width at which text still fits in two lines, searched by halving steps.
+int twoLineWidth(const QFontMetrics &fm, const QString &text)
+{
+    const int flags = Qt::AlignTop | Qt::AlignHCenter | Qt::TextWordWrap;
+    const int tw = fm.horizontalAdvance(text);
+    int trial = tw;
+    int best = tw;
+    int step = tw;
+    while (step != 0) {
+        step /= 2;
+        const QRect r = fm.boundingRect(QRect(0, 0, trial, 0), flags, text);
+        if (r.height() <= 2 * fm.height()) {
+            best = r.width();
+            trial -= step;
+        } else {
+            trial += step;
+        }
+    }
+    return best;
+}
+
+QImage grabImage(QWidget &widget)
+{
+    return widget.grab().toImage().convertToFormat(QImage::Format_ARGB32);
+}
+
+// The centre pixel of a state row in a sheet: the stretched centre of the nine-slice.
+QRgb sheetCentre(const QPixmap &sheet, int rowHeight, int row)
+{
+    return sheet.toImage().convertToFormat(QImage::Format_ARGB32).pixel(sheet.width() / 2, row * rowHeight + rowHeight / 2);
+}
+
+class KeyRecorder : public QWidget
+{
+public:
+    int keys = 0;
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override
+    {
+        ++keys;
+        QWidget::keyPressEvent(event);
+    }
+};
+
+} // namespace
+
+class tst_RibbonButtons : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void simpleButtonSize_data();
+    void simpleButtonSize();
+    void largeCaptionWrapsToTwoLines();
+    void followsAction();
+    void clickTriggers();
+    void checkedAndDisabledLooks();
+    void hoveredCheckedLook();
+    void actionDeletedBeforeButton();
+
+    void stripSize();
+    void stripClicks();
+    void stripCheckedCell();
+    void stripToolTip();
+
+    void normalButtonFollowsFirstAction();
+    void symbolButton();
+    void menuItemConsumesKeys();
+    void toolBarShowsParent();
+
+private:
+    RibbonCatSimpleAction *action(const QString &text, RibbonCatSimpleAction::eSize size, bool withIcon = true);
+    std::unique_ptr<QObject> m_owner;
+};
+
+void tst_RibbonButtons::init()
+{
+    m_owner.reset(new QObject);
+}
+
+void tst_RibbonButtons::cleanup()
+{
+    m_owner.reset();
+}
+
+RibbonCatSimpleAction *tst_RibbonButtons::action(const QString &text, RibbonCatSimpleAction::eSize size,
+                                                 bool withIcon)
+{
+    return withIcon ? new RibbonCatSimpleAction(solidIcon(Qt::blue), text, size, m_owner.get())
+                    : new RibbonCatSimpleAction(text, size, m_owner.get());
+}
+
+void tst_RibbonButtons::simpleButtonSize_data()
+{
+    QTest::addColumn<int>("size");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("withIcon");
+    QTest::addColumn<int>("minimalWidth");
+
+    QTest::newRow("large short") << 0 << QStringLiteral("Go") << true << -1;
+    QTest::newRow("large long") << 0 << QStringLiteral("Check Spelling and Grammar") << true << -1;
+    QTest::newRow("large one long word") << 0 << QStringLiteral("Supercalifragilistic") << true << -1;
+    QTest::newRow("large minimal wider") << 0 << QStringLiteral("Go") << true << 80;
+    QTest::newRow("large minimal narrower") << 0 << QStringLiteral("Go") << true << 10;
+    QTest::newRow("medium icon and text") << 1 << QStringLiteral("Copy") << true << -1;
+    QTest::newRow("medium text only") << 1 << QStringLiteral("Copy") << false << -1;
+    QTest::newRow("medium icon only") << 1 << QString() << true << -1;
+    QTest::newRow("medium empty") << 1 << QString() << false << -1;
+    QTest::newRow("small icon") << 2 << QStringLiteral("Cut") << true << -1;
+    QTest::newRow("small no icon") << 2 << QStringLiteral("Cut") << false << -1;
+    QTest::newRow("small minimal wider") << 2 << QString() << true << 40;
+}
+
+void tst_RibbonButtons::simpleButtonSize()
+{
+    QFETCH(int, size);
+    QFETCH(QString, text);
+    QFETCH(bool, withIcon);
+    QFETCH(int, minimalWidth);
+
+    RibbonCatSimpleAction *a = action(text, RibbonCatSimpleAction::eSize(size), withIcon);
+    a->setMinimalWidth(minimalWidth);
+    RibbonCatSimpleButton button(*a, nullptr);
+    const QFontMetrics fm = button.fontMetrics();
+    const int tw = fm.horizontalAdvance(text);
+
+    int width = 0;
+    int height = scaledBy(22);
+    if (size == 0) {
+        width = qMax((tw + 4 < 35 ? tw : twoLineWidth(fm, text)) + 10, 42);
+        height = scaledBy(66);
+    } else if (size == 1) {
+        width = (withIcon ? 18 : 0) + (text.isEmpty() ? 0 : tw + 10);
+    } else {
+        width = withIcon ? 22 : 4;
+    }
+    width = qMax(width, minimalWidth);
+    QCOMPARE(button.sizeHint(), QSize(width, height));
+    QCOMPARE(button.sizePolicy(), QSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed));
+    QCOMPARE(button.focusPolicy(), Qt::NoFocus);
+}
+
+void tst_RibbonButtons::largeCaptionWrapsToTwoLines()
+{
+    const QString text = QStringLiteral("Check Spelling and Grammar");
+    RibbonCatSimpleButton button(*action(text, RibbonCatSimpleAction::SizeLarge), nullptr);
+    const QFontMetrics fm = button.fontMetrics();
+    const int width = button.sizeHint().width();
+    QVERIFY(width < fm.horizontalAdvance(text));
+
+    // The caption fits in two lines at the button's text width, and needs more than one.
+    const int flags = Qt::AlignTop | Qt::AlignHCenter | Qt::TextWordWrap;
+    const QRect wrapped = fm.boundingRect(QRect(0, 0, width - 10, 0), flags, text);
+    QVERIFY(wrapped.height() > fm.height());
+    QVERIFY(wrapped.height() <= 2 * fm.height());
+
+    // Both lines are painted: text pixels appear below the first line.
+    button.resize(button.sizeHint());
+    const QImage image = grabImage(button);
+    const QRgb textColor = RibbonApplication::theApp().ribbonStyle().highlightedCategoryTextColor().rgb();
+    const int secondLineTop = scaledBy(34) + scaledBy(2) + fm.lineSpacing();
+    int inFirst = 0;
+    int inSecond = 0;
+    for (int y = scaledBy(34); y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (image.pixel(x, y) == textColor)
+                ++(y < secondLineTop ? inFirst : inSecond);
+        }
+    }
+    QVERIFY(inFirst > 0);
+    QVERIFY(inSecond > 0);
+}
+
+void tst_RibbonButtons::followsAction()
+{
+    RibbonCatSimpleAction *a = action(QStringLiteral("Copy"), RibbonCatSimpleAction::SizeMedium);
+    a->setToolTip(QStringLiteral("Copy the selection"));
+    RibbonCatSimpleButton button(*a, nullptr);
+    QCOMPARE(button.text(), QStringLiteral("Copy"));
+    QCOMPARE(button.toolTip(), QStringLiteral("Copy the selection"));
+    QVERIFY(!button.icon().isNull());
+    QCOMPARE(button.action(), a);
+
+    const int before = button.sizeHint().width();
+    a->setText(QStringLiteral("Copy everything"));
+    QCOMPARE(button.text(), QStringLiteral("Copy everything"));
+    QVERIFY(button.sizeHint().width() > before);
+
+    a->setEnabled(false);
+    QVERIFY(!button.isEnabled());
+    a->setCheckable(true);
+    a->setChecked(true);
+    QVERIFY(button.isCheckable());
+    QVERIFY(button.isChecked());
+
+    // A font change measures the caption again.
+    const int normal = button.sizeHint().width();
+    QFont big = button.font();
+    big.setPointSize(big.pointSize() * 2);
+    button.setFont(big);
+    QVERIFY(button.sizeHint().width() > normal);
+}
+
+void tst_RibbonButtons::clickTriggers()
+{
+    RibbonCatSimpleAction *a = action(QStringLiteral("Go"), RibbonCatSimpleAction::SizeLarge);
+    RibbonCatSimpleButton button(*a, nullptr);
+    button.resize(button.sizeHint());
+    button.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&button));
+    QSignalSpy triggered(a, &QAction::triggered);
+
+    QTest::mouseClick(&button, Qt::LeftButton);
+    QCOMPARE(triggered.count(), 1);
+    QTest::mouseClick(&button, Qt::RightButton);
+    QCOMPARE(triggered.count(), 1);
+
+    // A checkable action toggles once per click, and the button shows its state.
+    a->setCheckable(true);
+    QTest::mouseClick(&button, Qt::LeftButton);
+    QVERIFY(a->isChecked());
+    QVERIFY(button.isChecked());
+    QTest::mouseClick(&button, Qt::LeftButton);
+    QVERIFY(!a->isChecked());
+    QVERIFY(!button.isChecked());
+    QCOMPARE(triggered.count(), 3);
+
+    a->setEnabled(false);
+    QTest::mouseClick(&button, Qt::LeftButton);
+    QCOMPARE(triggered.count(), 3);
+}
+
+void tst_RibbonButtons::checkedAndDisabledLooks()
+{
+    const RibbonStyle &style = RibbonApplication::theApp().ribbonStyle();
+    for (auto size : {RibbonCatSimpleAction::SizeLarge, RibbonCatSimpleAction::SizeSmall}) {
+        // No icon and no text: only the background differs between the states.
+        RibbonCatSimpleAction *a = action(QString(), size, false);
+        RibbonCatSimpleButton button(*a, nullptr);
+        button.resize(size == RibbonCatSimpleAction::SizeLarge ? QSize(42, 66) : QSize(22, 22));
+        const QPixmap &sheet = size == RibbonCatSimpleAction::SizeLarge ? style.paletteItemLarge()
+                                                                        : style.paletteItemSmall();
+        const int rowHeight = size == RibbonCatSimpleAction::SizeLarge ? 66 : 22;
+        const QPoint centre(button.width() / 2, button.height() / 2);
+
+        const QImage plain = grabImage(button);
+        a->setEnabled(false);
+        const QImage disabled = grabImage(button);
+        QCOMPARE(disabled, plain); // neither draws a background
+
+        a->setCheckable(true);
+        a->setChecked(true);
+        const QImage disabledChecked = grabImage(button);
+        QVERIFY(disabledChecked != plain);
+        QCOMPARE(disabledChecked.pixel(centre), sheetCentre(sheet, rowHeight, 4));
+
+        a->setEnabled(true);
+        const QImage checked = grabImage(button);
+        QVERIFY(checked != disabledChecked);
+        QCOMPARE(checked.pixel(centre), sheetCentre(sheet, rowHeight, 2));
+
+        button.setDown(true);
+        const QImage pressed = grabImage(button);
+        QCOMPARE(pressed.pixel(centre), sheetCentre(sheet, rowHeight, 1));
+    }
+}
+
+void tst_RibbonButtons::hoveredCheckedLook()
+{
+    const RibbonStyle &style = RibbonApplication::theApp().ribbonStyle();
+    RibbonCatSimpleAction *a = action(QString(), RibbonCatSimpleAction::SizeSmall, false);
+    a->setCheckable(true);
+    a->setChecked(true);
+    QWidget window;
+    window.resize(100, 100);
+    RibbonCatSimpleButton button(*a, &window);
+    button.setGeometry(10, 10, 22, 22);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QTest::mouseMove(&window, QPoint(80, 80));
+    QTRY_VERIFY(!button.underMouse());
+    QCOMPARE(grabImage(button).pixel(11, 11), sheetCentre(style.paletteItemSmall(), 22, 2));
+    QTest::mouseMove(&button, QPoint(11, 11));
+    QTRY_VERIFY(button.underMouse());
+    QCOMPARE(grabImage(button).pixel(11, 11), sheetCentre(style.paletteItemSmall(), 22, 3));
+    a->setChecked(false);
+    QCOMPARE(grabImage(button).pixel(11, 11), sheetCentre(style.paletteItemSmall(), 22, 0));
+}
+
+void tst_RibbonButtons::actionDeletedBeforeButton()
+{
+    auto *a = new RibbonCatSimpleAction(QStringLiteral("Go"), RibbonCatSimpleAction::SizeLarge, nullptr);
+    RibbonCatSimpleButton button(*a, nullptr);
+    button.resize(button.sizeHint());
+    delete a;
+    QVERIFY(!button.action());
+    button.repaint();
+    QVERIFY(button.sizeHint().isValid());
+}
+
+void tst_RibbonButtons::stripSize()
+{
+    RibbonCatActionGroup group(m_owner.get());
+    RibbonCatActionGroupWidget strip(group, nullptr);
+    QCOMPARE(strip.sizeHint(), QSize(0, 22));
+    for (int i = 0; i < 3; ++i)
+        group.addAction(action(QString::number(i), RibbonCatSimpleAction::SizeSmall), false);
+    QCOMPARE(strip.sizeHint(), QSize(66, 22));
+    group.addAction(action(QStringLiteral("w"), RibbonCatSimpleAction::SizeSmall), true);
+    QVERIFY(group.isWide());
+    QCOMPARE(strip.sizeHint(), QSize(4 * 30, 22));
+    QCOMPARE(strip.cellAt(QPoint(59, 5)), 1);
+    QCOMPARE(strip.cellAt(QPoint(120, 5)), -1);
+    QCOMPARE(strip.cellAt(QPoint(-1, 5)), -1);
+}
+
+void tst_RibbonButtons::stripClicks()
+{
+    RibbonCatActionGroup group(m_owner.get());
+    QList<RibbonCatSimpleAction *> actions;
+    for (int i = 0; i < 3; ++i) {
+        actions.append(action(QString::number(i), RibbonCatSimpleAction::SizeSmall));
+        group.addAction(actions.last(), false);
+    }
+    RibbonCatActionGroupWidget strip(group, nullptr);
+    strip.resize(strip.sizeHint());
+    strip.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&strip));
+    QSignalSpy first(actions.at(0), &QAction::triggered);
+    QSignalSpy second(actions.at(1), &QAction::triggered);
+    QSignalSpy third(actions.at(2), &QAction::triggered);
+
+    QTest::mouseClick(&strip, Qt::LeftButton, {}, QPoint(33, 11));
+    QCOMPARE(second.count(), 1);
+
+    // Pressed on one cell and released over another: nothing.
+    QTest::mousePress(&strip, Qt::LeftButton, {}, QPoint(33, 11));
+    QTest::mouseRelease(&strip, Qt::LeftButton, {}, QPoint(55, 11));
+    QCOMPARE(second.count(), 1);
+    QCOMPARE(third.count(), 0);
+
+    // Outside every cell, or with another button: nothing.
+    QTest::mouseClick(&strip, Qt::LeftButton, {}, QPoint(70, 11));
+    QTest::mouseClick(&strip, Qt::RightButton, {}, QPoint(5, 11));
+    QCOMPARE(first.count(), 0);
+
+    // A disabled member is neither pressed nor triggered.
+    actions.at(0)->setEnabled(false);
+    QTest::mouseClick(&strip, Qt::LeftButton, {}, QPoint(5, 11));
+    QCOMPARE(first.count(), 0);
+    actions.at(0)->setEnabled(true);
+    QTest::mouseClick(&strip, Qt::LeftButton, {}, QPoint(5, 11));
+    QCOMPARE(first.count(), 1);
+}
+
+void tst_RibbonButtons::stripCheckedCell()
+{
+    const RibbonStyle &style = RibbonApplication::theApp().ribbonStyle();
+    RibbonCatActionGroup group(m_owner.get());
+    QList<RibbonCatSimpleAction *> actions;
+    for (int i = 0; i < 3; ++i) {
+        actions.append(action(QString(), RibbonCatSimpleAction::SizeSmall, false));
+        actions.last()->setCheckable(true);
+        group.addAction(actions.last(), false);
+    }
+    QWidget window;
+    window.resize(120, 60);
+    RibbonCatActionGroupWidget strip(group, &window);
+    strip.setGeometry(10, 10, 66, 22);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QTest::mouseMove(&window, QPoint(110, 50));
+    QTRY_VERIFY(!strip.underMouse());
+
+    const QImage plain = grabImage(strip);
+    QCOMPARE(plain.pixel(33, 11), style.btnGroupMidle().toImage().pixel(11, 11));
+    actions.at(1)->setChecked(true);
+    const QImage checked = grabImage(strip);
+    QCOMPARE(checked.pixel(33, 11), style.btnGroupMidle().toImage().pixel(11, 3 * 22 + 11));
+    // The other cells keep their look.
+    QCOMPARE(checked.copy(0, 0, 22, 22), plain.copy(0, 0, 22, 22));
+    QCOMPARE(checked.copy(44, 0, 22, 22), plain.copy(44, 0, 22, 22));
+
+    QTest::mouseMove(&strip, QPoint(33, 11));
+    QTRY_VERIFY(strip.underMouse());
+    QCOMPARE(grabImage(strip).pixel(33, 11), style.btnGroupMidle().toImage().pixel(11, 4 * 22 + 11));
+
+    // A disabled group shows every cell in the normal row.
+    group.setEnabled(false);
+    QCOMPARE(grabImage(strip).pixel(33, 11), style.btnGroupMidle().toImage().pixel(11, 11));
+}
+
+void tst_RibbonButtons::stripToolTip()
+{
+    RibbonCatActionGroup group(m_owner.get());
+    for (int i = 0; i < 2; ++i) {
+        RibbonCatSimpleAction *a = action(QString::number(i), RibbonCatSimpleAction::SizeSmall);
+        a->setToolTip(QStringLiteral("tip %1").arg(i));
+        group.addAction(a, false);
+    }
+    RibbonCatActionGroupWidget strip(group, nullptr);
+    strip.resize(strip.sizeHint());
+    strip.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&strip));
+    QTest::mouseMove(&strip, QPoint(30, 10));
+    QTRY_COMPARE(strip.toolTip(), QStringLiteral("tip 1"));
+    QTest::mouseMove(&strip, QPoint(3, 10));
+    QTRY_COMPARE(strip.toolTip(), QStringLiteral("tip 0"));
+}
+
+void tst_RibbonButtons::normalButtonFollowsFirstAction()
+{
+    auto *first = new RibbonAction(solidIcon(Qt::red), QStringLiteral("First"), m_owner.get());
+    first->setToolTip(QStringLiteral("first tip"));
+    first->setCheckable(true);
+    auto *second = new RibbonAction(QStringLiteral("Second"), m_owner.get());
+    RibbonButtonNormal button;
+    button.addAction(first);
+    button.addAction(second);
+    QCOMPARE(button.toolTip(), QStringLiteral("first tip"));
+    QVERIFY(button.isCheckable());
+    QVERIFY(!button.icon().isNull());
+
+    second->setToolTip(QStringLiteral("ignored"));
+    QCOMPARE(button.toolTip(), QStringLiteral("first tip"));
+
+    QSignalSpy triggered(first, &QAction::triggered);
+    button.resize(22, 22);
+    button.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&button));
+    QTest::mouseClick(&button, Qt::LeftButton);
+    QCOMPARE(triggered.count(), 1);
+    QVERIFY(first->isChecked());
+    QVERIFY(button.isChecked());
+    first->setChecked(false);
+    QVERIFY(!button.isChecked());
+
+    // Checked and unchecked look different; disabled and unchecked shows no background.
+    const QImage unchecked = grabImage(button);
+    first->setChecked(true);
+    QVERIFY(grabImage(button) != unchecked);
+    first->setChecked(false);
+    first->setEnabled(false);
+    QVERIFY(!button.isEnabled());
+}
+
+void tst_RibbonButtons::symbolButton()
+{
+    RibbonSymbolButton down(SymbolArrowUp);
+    QCOMPARE(down.symbol(), SymbolArrowUp);
+    QVERIFY(!down.sizeHint().isValid());
+    down.resize(22, 22);
+    const QImage enabled = grabImage(down);
+    const QRgb textColor = RibbonApplication::theApp().ribbonStyle().highlightedCategoryTextColor().rgb();
+    // The triangle's base runs along the bottom of the inner rectangle.
+    QCOMPARE(enabled.pixel(11, 18), textColor);
+    down.setEnabled(false);
+    QCOMPARE(grabImage(down).pixel(11, 18),
+             RibbonApplication::theApp().ribbonStyle().disabledCategoryTextColor().rgb());
+}
+
+void tst_RibbonButtons::menuItemConsumesKeys()
+{
+    KeyRecorder parent;
+    auto *first = new RibbonMainMenuItem(&parent);
+    auto *second = new RibbonMainMenuItem(&parent);
+    first->setGeometry(0, 0, 50, 20);
+    second->setGeometry(0, 20, 50, 20);
+    first->setFocusPolicy(Qt::StrongFocus);
+    second->setFocusPolicy(Qt::StrongFocus);
+    QSignalSpy navigation(first, &RibbonMainMenuItem::navigationKeyPressed);
+    parent.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&parent));
+    QApplication::setActiveWindow(&parent);
+    first->setFocus();
+    QTRY_VERIFY(first->hasFocus());
+    for (Qt::Key key : {Qt::Key_Down, Qt::Key_Right, Qt::Key_Up, Qt::Key_Left, Qt::Key_Space})
+        QTest::keyClick(first, key);
+    QVERIFY(first->hasFocus());
+    QCOMPARE(parent.keys, 0);
+    QCOMPARE(navigation.count(), 0); // emitted by subclasses only
+}
+
+void tst_RibbonButtons::toolBarShowsParent()
+{
+    const QColor back(10, 200, 30);
+    QWidget parent;
+    QPalette palette = parent.palette();
+    palette.setColor(QPalette::Window, back);
+    parent.setPalette(palette);
+    parent.setAutoFillBackground(true);
+    parent.resize(200, 40);
+    auto *bar = new RibbonToolBar(&parent);
+    bar->setMovable(false);
+    bar->addAction(solidIcon(Qt::red), QStringLiteral("one"));
+    bar->setGeometry(0, 0, 200, 40);
+    parent.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&parent));
+
+    const QImage image = grabImage(parent);
+    QToolButton *button = bar->findChild<QToolButton *>();
+    QVERIFY(button);
+    // Right of the last button the bar shows the parent's colour.
+    const int x = button->geometry().right() + 20;
+    QVERIFY(x < 190);
+    QCOMPARE(image.pixelColor(x, 20), back);
+    QCOMPARE(image.pixelColor(195, 2), back);
+
+    QHoverEvent hover(QEvent::HoverMove, QPointF(5, 5), QPointF(4, 4));
+    QVERIFY(!QCoreApplication::sendEvent(bar, &hover));
+}
+
+ZEL_TEST_MAIN(tst_RibbonButtons)
+#include "tst_ribbonbuttons.moc"
