@@ -11,12 +11,18 @@ namespace zel {
 
 using namespace stylepainter;
 
-RibbonMainTabBarStyle::RibbonMainTabBarStyle(QStyle *baseStyle)
+RibbonMainTabBarStyle::RibbonMainTabBarStyle(QStyle *baseStyle, const RibbonStyle *ribbonStyle)
     : QProxyStyle(baseStyle)
+    , m_ribbonStyle(const_cast<RibbonStyle *>(ribbonStyle))
 {
 }
 
 RibbonMainTabBarStyle::~RibbonMainTabBarStyle() = default;
+
+const RibbonStyle *RibbonMainTabBarStyle::ribbonStyle() const
+{
+    return m_ribbonStyle ? m_ribbonStyle.data() : stylepainter::palette();
+}
 
 void RibbonMainTabBarStyle::polish(QWidget *widget)
 {
@@ -29,7 +35,7 @@ void RibbonMainTabBarStyle::drawPrimitive(PrimitiveElement element, const QStyle
                                           QPainter *painter, const QWidget *widget) const
 {
     // The tabs stand on the ribbon's own background: no base line under them.
-    if (element == PE_FrameTabBarBase && palette())
+    if (element == PE_FrameTabBarBase && ribbonStyle())
         return;
     QProxyStyle::drawPrimitive(element, option, painter, widget);
 }
@@ -37,11 +43,11 @@ void RibbonMainTabBarStyle::drawPrimitive(PrimitiveElement element, const QStyle
 void RibbonMainTabBarStyle::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
                                         const QWidget *widget) const
 {
-    const RibbonStyle *style = palette();
+    const RibbonStyle *style = ribbonStyle();
     if (style && option) {
         switch (element) {
         case CE_TabBarTabShape:
-            if (drawTabShape(painter, option))
+            if (drawTabShape(painter, option, *style))
                 return;
             break;
         case CE_TabBarTabLabel:

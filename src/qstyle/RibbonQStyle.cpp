@@ -1,5 +1,6 @@
 #include "RibbonQStyle.h"
 
+#include "RibbonApplication.h"
 #include "RibbonScale_p.h"
 #include "RibbonStyle.h"
 #include "RibbonStylePainter_p.h"
@@ -75,6 +76,20 @@ void drawFilledArrow(QPainter *painter, const QRect &rect, Qt::ArrowType type, c
     painter->restore();
 }
 
+// Fills rect unless the palette leaves the colour unset.
+void fillRect(QPainter *painter, const QRect &rect, const QColor &color)
+{
+    if (color.isValid())
+        painter->fillRect(rect, color);
+}
+
+// Heights scale with the screen of the running RibbonApplication.
+int scaledHeight(int value)
+{
+    auto *app = qobject_cast<RibbonApplication *>(QCoreApplication::instance());
+    return app && app->dpiFactor().second > 0.0 ? scaled(value) : value;
+}
+
 QRect centeredSquare(const QRect &rect, int side)
 {
     QRect square(0, 0, side, side);
@@ -84,12 +99,18 @@ QRect centeredSquare(const QRect &rect, int side)
 
 } // namespace
 
-RibbonQStyle::RibbonQStyle(QStyle *baseStyle)
+RibbonQStyle::RibbonQStyle(QStyle *baseStyle, const RibbonStyle *ribbonStyle)
     : QProxyStyle(baseStyle)
+    , m_ribbonStyle(const_cast<RibbonStyle *>(ribbonStyle))
 {
 }
 
 RibbonQStyle::~RibbonQStyle() = default;
+
+const RibbonStyle *RibbonQStyle::ribbonStyle() const
+{
+    return m_ribbonStyle ? m_ribbonStyle.data() : stylepainter::palette();
+}
 
 void RibbonQStyle::polish(QWidget *widget)
 {
@@ -103,7 +124,7 @@ void RibbonQStyle::polish(QWidget *widget)
 void RibbonQStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
                                  const QWidget *widget) const
 {
-    const RibbonStyle *style = palette();
+    const RibbonStyle *style = ribbonStyle();
     if (!style || !option) {
         QProxyStyle::drawPrimitive(element, option, painter, widget);
         return;
@@ -117,7 +138,7 @@ void RibbonQStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *o
         drawFlatPanel(painter, option->rect, QColor(), style->backstageGrayBorderColor());
         return;
     case PE_PanelMenuBar:
-        painter->fillRect(option->rect, style->mainClientColor());
+        fillRect(painter, option->rect, style->mainClientColor());
         return;
     case PE_PanelTipLabel:
         if (!drawStateRow(painter, option->rect, style->tooltipBack(), 0, 0, kTooltipBorder))
@@ -174,7 +195,7 @@ void RibbonQStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *o
 void RibbonQStyle::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
                                const QWidget *widget) const
 {
-    const RibbonStyle *style = palette();
+    const RibbonStyle *style = ribbonStyle();
     if (!style || !option) {
         QProxyStyle::drawControl(element, option, painter, widget);
         return;
@@ -185,14 +206,14 @@ void RibbonQStyle::drawControl(ControlElement element, const QStyleOption *optio
         drawMenuItem(option, painter, widget);
         return;
     case CE_MenuEmptyArea:
-        painter->fillRect(option->rect, style->mainMenuBgColor());
+        fillRect(painter, option->rect, style->mainMenuBgColor());
         return;
     case CE_MenuBarEmptyArea:
-        painter->fillRect(option->rect, style->mainClientColor());
+        fillRect(painter, option->rect, style->mainClientColor());
         return;
     case CE_MenuBarItem:
         if (const auto *item = qstyleoption_cast<const QStyleOptionMenuItem *>(option)) {
-            painter->fillRect(item->rect, style->mainClientColor());
+            fillRect(painter, item->rect, style->mainClientColor());
             const bool enabled = item->state & State_Enabled;
             const bool open = item->state & State_Sunken;
             const bool hover = item->state & State_Selected;
@@ -212,7 +233,7 @@ void RibbonQStyle::drawControl(ControlElement element, const QStyleOption *optio
     case CE_ToolBar:
         // The default palette leaves the tool-bar fill unset: the base style paints it then.
         if (style->toolBarFillColor().isValid()) {
-            painter->fillRect(option->rect, style->toolBarFillColor());
+            fillRect(painter, option->rect, style->toolBarFillColor());
             return;
         }
         break;
@@ -227,7 +248,7 @@ void RibbonQStyle::drawControl(ControlElement element, const QStyleOption *optio
         if (!drawStateRow(painter, option->rect, style->toolBoxTabBack(), kToolBoxTabRowHeight, row)) {
             if (row == 2) {
                 drawFlatPanel(painter, option->rect, style->mainMenuBgColor(), style->backstageGrayBorderColor());
-                painter->fillRect(QRect(option->rect.left(), option->rect.top(), 3, option->rect.height()),
+                fillRect(painter, QRect(option->rect.left(), option->rect.top(), 3, option->rect.height()),
                                   style->frameBorderColor());
             } else if (row == 1) {
                 drawFlatPanel(painter, option->rect, style->backstageBlueHoverColor(),
@@ -239,7 +260,7 @@ void RibbonQStyle::drawControl(ControlElement element, const QStyleOption *optio
         return;
     }
     case CE_TabBarTabShape:
-        if (drawTabShape(painter, option))
+        if (drawTabShape(painter, option, *style))
             return;
         break;
     default:
@@ -251,7 +272,7 @@ void RibbonQStyle::drawControl(ControlElement element, const QStyleOption *optio
 void RibbonQStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
                                       QPainter *painter, const QWidget *widget) const
 {
-    if (palette() && option) {
+    if (ribbonStyle() && option) {
         switch (control) {
         case CC_ScrollBar:
             if (qstyleoption_cast<const QStyleOptionSlider *>(option)) {
@@ -275,16 +296,16 @@ void RibbonQStyle::drawComplexControl(ComplexControl control, const QStyleOption
 QSize RibbonQStyle::sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &contentsSize,
                                      const QWidget *widget) const
 {
-    if (type == CT_MenuItem && palette()) {
+    if (type == CT_MenuItem && ribbonStyle()) {
         if (const auto *item = qstyleoption_cast<const QStyleOptionMenuItem *>(option)) {
             if (item->menuItemType == QStyleOptionMenuItem::Separator)
-                return QSize(menuCheckColumnWidth(item) + 2 * kMenuTextGap, scaled(kMenuSeparatorHeight));
+                return QSize(menuCheckColumnWidth(item) + 2 * kMenuTextGap, scaledHeight(kMenuSeparatorHeight));
             int width = 2 * kMenuItemMargin + menuCheckColumnWidth(item) + kMenuTextGap + contentsSize.width()
                 + kMenuArrowArea;
             // The menu adds the width of the widest shortcut on its own.
             if (item->text.contains(QLatin1Char('\t')))
                 width += kMenuShortcutGap;
-            const int height = std::max(contentsSize.height() + scaled(6), scaled(kMenuItemHeight));
+            const int height = std::max(contentsSize.height() + scaledHeight(6), scaledHeight(kMenuItemHeight));
             return QSize(width, height);
         }
     }
@@ -330,7 +351,7 @@ int RibbonQStyle::styleHint(StyleHint hint, const QStyleOption *option, const QW
 void RibbonQStyle::drawMenuItem(const QStyleOption *option, QPainter *painter, const QWidget *widget) const
 {
     const auto *item = qstyleoption_cast<const QStyleOptionMenuItem *>(option);
-    const RibbonStyle *style = palette();
+    const RibbonStyle *style = ribbonStyle();
     if (!item) {
         QProxyStyle::drawControl(CE_MenuItem, option, painter, widget);
         return;
@@ -338,7 +359,7 @@ void RibbonQStyle::drawMenuItem(const QStyleOption *option, QPainter *painter, c
 
     const QRect rect = item->rect;
     painter->save();
-    painter->fillRect(rect, style->mainMenuBgColor());
+    fillRect(painter, rect, style->mainMenuBgColor());
 
     const int checkColumn = menuCheckColumnWidth(item);
     const int textLeft = rect.left() + kMenuItemMargin + checkColumn + kMenuTextGap;
@@ -435,13 +456,13 @@ void RibbonQStyle::drawMenuItem(const QStyleOption *option, QPainter *painter, c
 void RibbonQStyle::drawScrollBar(const QStyleOptionComplex *option, QPainter *painter, const QWidget *widget) const
 {
     const auto *bar = qstyleoption_cast<const QStyleOptionSlider *>(option);
-    const RibbonStyle *style = palette();
+    const RibbonStyle *style = ribbonStyle();
     const bool horizontal = bar->orientation == Qt::Horizontal;
     const bool enabled = bar->state & State_Enabled;
 
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing, false);
-    painter->fillRect(bar->rect, style->mainClientColor());
+    fillRect(painter, bar->rect, style->mainClientColor());
 
     const auto partState = [bar](SubControl part) {
         if (!(bar->activeSubControls & part))
@@ -458,7 +479,7 @@ void RibbonQStyle::drawScrollBar(const QStyleOptionComplex *option, QPainter *pa
                              : style->frameRaiseColor();
             // A thin flat thumb inset from the groove's long edges.
             const QRect thumb = horizontal ? handle.adjusted(1, 3, -1, -3) : handle.adjusted(3, 1, -3, -1);
-            painter->fillRect(thumb, fill);
+            fillRect(painter, thumb, fill);
         }
     }
 
@@ -470,9 +491,9 @@ void RibbonQStyle::drawScrollBar(const QStyleOptionComplex *option, QPainter *pa
             return;
         const int state = enabled ? partState(part) : 0;
         if (state == 2)
-            painter->fillRect(rect, style->frameRaiseColor());
+            fillRect(painter, rect, style->frameRaiseColor());
         else if (state == 1)
-            painter->fillRect(rect, style->separatorColor());
+            fillRect(painter, rect, style->separatorColor());
         const QColor &color = !enabled ? style->disabledCategoryTextColor()
             : state > 0 ? style->highlightedCategoryTextColor()
                         : style->backstageGrayBorderPressedColor();
@@ -487,7 +508,7 @@ void RibbonQStyle::drawScrollBar(const QStyleOptionComplex *option, QPainter *pa
 void RibbonQStyle::drawComboBox(const QStyleOptionComplex *option, QPainter *painter, const QWidget *widget) const
 {
     const auto *combo = qstyleoption_cast<const QStyleOptionComboBox *>(option);
-    const RibbonStyle *style = palette();
+    const RibbonStyle *style = ribbonStyle();
     const State state = combo->state;
     const bool enabled = state & State_Enabled;
     const bool open = state & (State_On | State_Sunken);
@@ -510,12 +531,12 @@ void RibbonQStyle::drawComboBox(const QStyleOptionComplex *option, QPainter *pai
             if (enabled && (open || hover)) {
                 const QRect button = QRect(arrowRect.left(), combo->rect.top(), combo->rect.right() - arrowRect.left() + 1,
                                            combo->rect.height());
-                painter->fillRect(button, open ? style->backstageBluePressedColor() : style->backstageBlueHoverColor());
+                fillRect(painter, button, open ? style->backstageBluePressedColor() : style->backstageBlueHoverColor());
             }
             drawFlatPanel(painter, combo->rect, QColor(), outline);
         }
     } else if (enabled && (open || hover)) {
-        painter->fillRect(combo->rect, open ? style->backstageBluePressedColor() : style->backstageBlueHoverColor());
+        fillRect(painter, combo->rect, open ? style->backstageBluePressedColor() : style->backstageBlueHoverColor());
     }
 
     if (combo->subControls & SC_ComboBoxArrow)
@@ -525,7 +546,7 @@ void RibbonQStyle::drawComboBox(const QStyleOptionComplex *option, QPainter *pai
 
 void RibbonQStyle::drawCheckIndicator(const QStyleOption *option, QPainter *painter, bool radio) const
 {
-    const RibbonStyle *style = palette();
+    const RibbonStyle *style = ribbonStyle();
     const State state = option->state;
     const bool enabled = state & State_Enabled;
     const bool hover = enabled && (state & State_MouseOver);
@@ -557,7 +578,7 @@ void RibbonQStyle::drawCheckIndicator(const QStyleOption *option, QPainter *pain
     } else {
         drawFlatPanel(painter, box, fill, outline);
         if (state & State_NoChange)
-            painter->fillRect(box.adjusted(3, 3, -3, -3), mark);
+            fillRect(painter, box.adjusted(3, 3, -3, -3), mark);
         else if (state & State_On)
             drawCheckMark(painter, box, mark);
     }

@@ -2,9 +2,12 @@
 
 #include "zelribbon_export.h"
 
+#include <QPointer>
 #include <QProxyStyle>
 
 namespace zel {
+
+class RibbonStyle;
 
 // Paints the standard Qt controls (menus, scroll bars, check boxes, radio buttons,
 // combo boxes, tool tips, tool-box tabs, tabs, tool buttons) in the palette's colours
@@ -15,8 +18,9 @@ class ZELRIBBON_EXPORT RibbonQStyle : public QProxyStyle
 {
     Q_OBJECT
 public:
-    // Takes ownership of baseStyle; nullptr means the application's default base style.
-    explicit RibbonQStyle(QStyle *baseStyle = nullptr);
+    // Takes ownership of baseStyle (nullptr: the application's default base style).
+    // ribbonStyle is the palette to paint with; nullptr means the application's palette.
+    explicit RibbonQStyle(QStyle *baseStyle = nullptr, const RibbonStyle *ribbonStyle = nullptr);
     ~RibbonQStyle() override;
 
     void polish(QWidget *widget) override;
@@ -40,6 +44,12 @@ private:
     void drawScrollBar(const QStyleOptionComplex *option, QPainter *painter, const QWidget *widget) const;
     void drawComboBox(const QStyleOptionComplex *option, QPainter *painter, const QWidget *widget) const;
     void drawCheckIndicator(const QStyleOption *option, QPainter *painter, bool radio) const;
+
+    // The palette in use: the one given at construction while it lives, else the
+    // application's; nullptr when there is none, and the base style paints alone.
+    const RibbonStyle *ribbonStyle() const;
+
+    QPointer<RibbonStyle> m_ribbonStyle;
 
     Q_DISABLE_COPY(RibbonQStyle)
 };

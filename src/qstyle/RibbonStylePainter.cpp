@@ -87,11 +87,11 @@ void drawArrow(QPainter *painter, const QRect &rect, Qt::ArrowType type, int wid
     }
 }
 
-bool drawTabShape(QPainter *painter, const QStyleOption *option)
+bool drawTabShape(QPainter *painter, const QStyleOption *option, const RibbonStyle &palette)
 {
     const auto *tab = qstyleoption_cast<const QStyleOptionTab *>(option);
-    const RibbonStyle *style = palette();
-    if (!tab || !style || (tab->shape != QTabBar::RoundedNorth && tab->shape != QTabBar::TriangularNorth))
+    const RibbonStyle *style = &palette;
+    if (!tab || (tab->shape != QTabBar::RoundedNorth && tab->shape != QTabBar::TriangularNorth))
         return false;
 
     const bool enabled = tab->state & QStyle::State_Enabled;
@@ -107,18 +107,18 @@ bool drawTabShape(QPainter *painter, const QStyleOption *option)
     if (!selected && !hover)
         return true;
     if (!selected) {
-        painter->fillRect(rect.adjusted(1, 0, -1, 0), style->backstageBlueHoverColor());
+        drawFlatPanel(painter, rect.adjusted(1, 0, -1, 0), style->backstageBlueHoverColor(), QColor());
         return true;
     }
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing, false);
-    painter->fillRect(rect, style->mainMenuBgColor());
+    drawFlatPanel(painter, rect, style->mainMenuBgColor(), QColor());
     painter->setPen(style->backstageGrayBorderColor());
     painter->drawLine(rect.topLeft(), rect.bottomLeft());
     painter->drawLine(rect.topLeft(), rect.topRight());
     painter->drawLine(rect.topRight(), rect.bottomRight());
     // An accent line marks the current tab.
-    painter->fillRect(QRect(rect.left() + 1, rect.top() + 1, rect.width() - 2, 2), style->frameBorderColor());
+    drawFlatPanel(painter, QRect(rect.left() + 1, rect.top() + 1, rect.width() - 2, 2), style->frameBorderColor(), QColor());
     painter->restore();
     return true;
 }

@@ -35,9 +35,9 @@ void drawFlatPanel(QPainter *painter, const QRect &rect, const QColor &fill, con
 // pixels for up/down (height x width for left/right), in the painter's current brush.
 void drawArrow(QPainter *painter, const QRect &rect, Qt::ArrowType type, int width = 7, int height = 4);
 
-// The tab background used by both tab-bar styles. Returns false when the tab is not
-// a horizontal tab the helper knows how to draw.
-bool drawTabShape(QPainter *painter, const QStyleOption *option);
+// The tab background used by both tab-bar styles, from style's tabBarTabShape. Returns
+// false when the tab is not a top tab the helper knows how to draw.
+bool drawTabShape(QPainter *painter, const QStyleOption *option, const RibbonStyle &style);
 
 } // namespace stylepainter
 
