@@ -72,6 +72,10 @@ struct BackstageListModel::Priv
     // Reused from one rebuild to the next, so a view keeps seeing the same row object.
     Entry separator;
     int maxNumberOfItems = -1;
+    // A receiver of the row signals may change the list again; that change waits until
+    // the rows in progress are complete.
+    bool updating = false;
+    bool updatePending = false;
 
     Entry entryAt(const BackstageListModel *model, const QModelIndex &index) const
     {
@@ -220,8 +224,9 @@ void BackstageListModel::pinItem(const QModelIndex &index)
     updateRows();
     // The entry may keep its row (the first pin only adds the separator below it);
     // its pin mark changes all the same.
-    const QModelIndex moved = this->index(d->rows.indexOf(entry), 0);
-    emit dataChanged(moved, moved);
+    const int row = d->rows.indexOf(entry);
+    if (row >= 0 && !d->updating)
+        emit dataChanged(this->index(row, 0), this->index(row, 0));
 }
 
 void BackstageListModel::setUntranslatedText(const QModelIndex &index, const QString &text)
@@ -295,9 +300,23 @@ void BackstageListModel::restoreState(const QList<QVariant> &state)
     updateRows();
 }
 
+void BackstageListModel::updateRows()
+{
+    if (d->updating) {
+        d->updatePending = true;
+        return;
+    }
+    d->updating = true;
+    do {
+        d->updatePending = false;
+        applyRows();
+    } while (d->updatePending);
+    d->updating = false;
+}
+
 // Brings the rows in line with the history, announcing every removal, move and
 // insertion in order so that views, proxies and persistent indexes follow each step.
-void BackstageListModel::updateRows()
+void BackstageListModel::applyRows()
 {
     const QList<Entry> target = d->targetRows();
     QList<Entry> &rows = d->rows;

@@ -108,8 +108,9 @@ public:
 
     // One element per history entry: a QVariantList of the path and the pin state.
     QList<QVariant> saveState() const;
-    // Appends the entries of a saved record. Elements that are not such a pair are
-    // skipped; nothing already in the list is removed except by the maximum length.
+    // Appends the entries of a saved record, cut at the maximum length. Elements that are
+    // not a list starting with a path string are skipped; a missing pin state reads as
+    // unpinned. Entries already in the list stay.
     void restoreState(const QList<QVariant> &state);
 
 public slots:
@@ -120,6 +121,7 @@ signals:
 
 private:
     void updateRows();
+    void applyRows();
 
     struct Priv;
     std::unique_ptr<Priv> d;
