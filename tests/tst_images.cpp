@@ -189,22 +189,32 @@ private slots:
     }
 
     // Images the library reads only through the standard-control style, or not at all:
-    // their geometry is ours to choose, but they must load.
+    // their geometry is ours to choose, but they must load, and the state sheets of the
+    // standard-control style must hold whole rows of the height it slices by.
     void presentImages_data()
     {
         QTest::addColumn<QString>("getter");
-        for (const char *name : {"toolBoxTabBack", "checkableMenuItemBack", "comboBox", "tabBarTabShape", "tooltipBack",
-                                 "mainPanelBack", "mainPanelBorder", "mainPanelSeparator", "popupResizeBarIconB"})
-            QTest::newRow(name) << QString::fromLatin1(name);
+        QTest::addColumn<int>("rowHeight");
+        QTest::addColumn<int>("rows");
+        QTest::newRow("comboBox") << QStringLiteral("comboBox") << 22 << 4;
+        QTest::newRow("checkableMenuItemBack") << QStringLiteral("checkableMenuItemBack") << 22 << 3;
+        QTest::newRow("toolBoxTabBack") << QStringLiteral("toolBoxTabBack") << 24 << 3;
+        QTest::newRow("tabBarTabShape") << QStringLiteral("tabBarTabShape") << 24 << 3;
+        for (const char *name : {"tooltipBack", "mainPanelBack", "mainPanelBorder", "mainPanelSeparator", "popupResizeBarIconB"})
+            QTest::newRow(name) << QString::fromLatin1(name) << 0 << 1;
     }
 
     void presentImages()
     {
         QFETCH(QString, getter);
+        QFETCH(int, rowHeight);
+        QFETCH(int, rows);
         const QPixmap *pm = image(getter);
         QVERIFY(pm);
         QVERIFY(!pm->isNull());
         QVERIFY(pm->width() >= 3 && pm->height() >= 3);
+        if (rowHeight > 0)
+            QCOMPARE(pm->height(), rowHeight * rows);
     }
 
     void dropDownArrowSource()
