@@ -66,13 +66,17 @@ void drawCheckMark(QPainter *painter, const QRect &rect, const QColor &color)
     painter->restore();
 }
 
+int scaledHeight(int value);
+
+// A small arrow that grows with the screen resolution: 7 x 4 pixels at 96 DPI.
 void drawFilledArrow(QPainter *painter, const QRect &rect, Qt::ArrowType type, const QColor &color)
 {
+    const int width = scaledHeight(7) | 1;
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing, false);
     painter->setPen(Qt::NoPen);
     painter->setBrush(color);
-    drawArrow(painter, rect, type);
+    drawArrow(painter, rect, type, width, width / 2 + 1);
     painter->restore();
 }
 
