@@ -605,6 +605,21 @@ private slots:
         QCOMPARE(changed.at(0).at(0).toInt(), 11);
     }
 
+    void fontSizePickerOutsideToolBars()
+    {
+        RibbonCatFontSizeAction action(16, nullptr);
+        QWidget group;
+        QComboBox *combo = action.createComboBox(&group);
+        QVERIFY(combo);
+        QCOMPARE(combo->parentWidget(), &group);
+        QCOMPARE(combo->height(), 22);
+        QCOMPARE(combo->currentText(), QStringLiteral("16"));
+        QSignalSpy changed(&action, SIGNAL(fontSizeChanged(int)));
+        combo->setCurrentIndex(combo->findText(QStringLiteral("20")));
+        QCOMPARE(changed.count(), 1);
+        QCOMPARE(int(action.fontSize()), 20);
+    }
+
     void fontSizeWithoutPicker()
     {
         auto *bar = new QToolBar;

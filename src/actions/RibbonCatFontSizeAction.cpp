@@ -51,7 +51,11 @@ QWidget *RibbonCatFontSizeAction::createWidget(QWidget *parent)
 {
     if (!qobject_cast<QToolBar *>(parent))
         return nullptr;
+    return createComboBox(parent);
+}
 
+QComboBox *RibbonCatFontSizeAction::createComboBox(QWidget *parent)
+{
     auto *combo = new QComboBox(parent);
     for (const char *entry : fontSizeEntries)
         combo->addItem(QLatin1String(entry));
@@ -62,6 +66,8 @@ QWidget *RibbonCatFontSizeAction::createWidget(QWidget *parent)
     combo->setEditable(true);
     combo->setInsertPolicy(QComboBox::NoInsert);
     combo->setValidator(new QIntValidator(1, 1638, combo));
+    // One row of a ribbon group, like the family picker beside it.
+    combo->setFixedHeight(22);
     combo->show();
     connect(combo, SIGNAL(currentIndexChanged(int)), this, SLOT(setFontSize(const int)));
     connect(combo->lineEdit(), SIGNAL(editingFinished()), this, SLOT(onSizeTyped()));

@@ -24,6 +24,9 @@ public:
 
     // A size picker for a QToolBar parent, else null.
     QWidget *createWidget(QWidget *parent) override;
+    // A size picker for any parent, for containers that place the picker themselves
+    // (a ribbon group). It becomes the picker that fontSize() reads.
+    QComboBox *createComboBox(QWidget *parent);
 
 public slots:
     // Takes the size shown by the picker that sent the change (the index is not
