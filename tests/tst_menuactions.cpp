@@ -7,14 +7,12 @@
 #include "RibbonCatMenuAction.h"
 #include "RibbonCatSimpleAction.h"
 #include "RibbonMenuAction.h"
-#include "RibbonSeparatorAction.h"
 #include "RibbonSimpleAction.h"
 #include "RibbonStringAction.h"
 #include "RibbonTextAction.h"
 #include "RibbonViewPopup.h"
 
 #include <QMenu>
-#include <QMetaEnum>
 #include <QPixmap>
 #include <QPointer>
 #include <QWidget>
@@ -49,8 +47,6 @@ class tst_MenuActions : public QObject
 private slots:
     void simpleActionsRelayActivation_data();
     void simpleActionsRelayActivation();
-    void separatorAndTextActions();
-    void enumerations();
     void catSimpleActionMakesNoWidgetOutsideToolBars();
     void menuItemsIgnoreNullAndDuplicates();
     void defaultAction();
@@ -65,6 +61,7 @@ private slots:
     void itemTriggerAndActivation();
     void insertAction();
     void catMenuSettersAndLists();
+    void textActionCopiesAliasAtOnce();
     void catMenuEnablesPopupCommands();
     void fillMenuSkipsStringsAndRecurses();
     void fillMenuSurvivesCycles();
@@ -103,47 +100,7 @@ void tst_MenuActions::simpleActionsRelayActivation()
     QCOMPARE(activated.count(), expected);
 }
 
-void tst_MenuActions::separatorAndTextActions()
-{
-    RibbonSeparatorAction separator(nullptr);
-    QVERIFY(separator.isSeparator());
 
-    QPixmap pixmap(16, 16);
-    pixmap.fill(Qt::red);
-    RibbonAction source(nullptr);
-    source.setText(QStringLiteral("Zoom"));
-    source.setIcon(QIcon(pixmap));
-    RibbonTextAction text(QPointer<RibbonAction>(&source), nullptr);
-    QCOMPARE(text.text(), QStringLiteral("Zoom")); // copied at once, unlike a simple action
-    QVERIFY(!text.icon().isNull());
-    RibbonSimpleAction simple(QPointer<RibbonAction>(&source), nullptr);
-    QVERIFY(simple.text().isEmpty());
-}
-
-void tst_MenuActions::enumerations()
-{
-    const QMetaEnum size = QMetaEnum::fromType<RibbonCatSimpleAction::eSize>();
-    QCOMPARE(size.keyToValue("SizeLarge"), 0);
-    QCOMPARE(size.keyToValue("SizeMedium"), 1);
-    QCOMPARE(size.keyToValue("SizeSmall"), 2);
-    const QMetaEnum menuSize = QMetaEnum::fromType<RibbonCatMenuAction::eMenuSize>();
-    QCOMPARE(menuSize.keyToValue("MenuSizeLarge"), 0);
-    QCOMPARE(menuSize.keyToValue("MenuSizeMedium"), 1);
-    QCOMPARE(menuSize.keyToValue("MenuSizeSmall"), 2);
-    const QMetaEnum popup = QMetaEnum::fromType<RibbonCatMenuAction::ePopupType>();
-    QCOMPARE(popup.keyToValue("PopupMenu"), 0);
-    QCOMPARE(popup.keyToValue("PopupPalette"), 1);
-    QCOMPARE(popup.keyToValue("PopupView"), 2);
-    QCOMPARE(popup.keyToValue("PopupListPreview"), 3);
-    QCOMPARE(QMetaEnum::fromType<RibbonCatMenuAction::eMenuType>().keyToValue("MenuTypeButton"), 0);
-
-    RibbonCatSimpleAction defaultSize;
-    QCOMPARE(defaultSize.size(), RibbonCatSimpleAction::SizeLarge);
-    RibbonCatMenuAction defaults;
-    QCOMPARE(defaults.menuType(), RibbonCatMenuAction::MenuTypeButton);
-    QCOMPARE(defaults.menuSize(), RibbonCatMenuAction::MenuSizeLarge);
-    QCOMPARE(defaults.popupType(), RibbonCatMenuAction::PopupMenu);
-}
 
 void tst_MenuActions::catSimpleActionMakesNoWidgetOutsideToolBars()
 {
@@ -417,41 +374,37 @@ void tst_MenuActions::insertAction()
 
 void tst_MenuActions::catMenuSettersAndLists()
 {
-    RibbonCatMenuAction menu(QStringLiteral("Views"), RibbonCatMenuAction::MenuTypeButton,
-                             RibbonCatMenuAction::MenuSizeMedium, RibbonCatMenuAction::PopupView,
-                             nullptr);
-    RibbonActionsContainer::instance().removeAction(QStringLiteral("Views"));
-    QCOMPARE(menu.menuSize(), RibbonCatMenuAction::MenuSizeMedium);
-    QCOMPARE(menu.popupType(), RibbonCatMenuAction::PopupView);
-    QCOMPARE(menu.menuMarkerOffset(), 0);
-    QCOMPARE(menu.listPreviewVisibleIconsCount(), 4);
-    QVERIFY(menu.drawCheckedMarker());
-    QVERIFY(menu.iconActionGroup());
-    QCOMPARE(menu.iconActionGroup()->parent(), &menu);
-
-    QSignalSpy changed(&menu, &QAction::changed);
-    menu.setMenuMarkerOffset(12);
-    menu.setListPreviewVisibleIconsCount(6);
-    menu.setDrawCheckedMarker(false);
-    QCOMPARE(changed.count(), 0);
-    QCOMPARE(menu.menuMarkerOffset(), 12);
-    QCOMPARE(menu.listPreviewVisibleIconsCount(), 6);
-    QVERIFY(!menu.drawCheckedMarker());
-
+    RibbonCatMenuAction menu;
     QActionGroup *own = menu.iconActionGroup();
+    QVERIFY(own);
+    QCOMPARE(own->parent(), &menu);
+
+    // A replaced group: the own one stays a child; a destroyed host group reads null.
     QPointer<QActionGroup> other = new QActionGroup(nullptr);
     menu.addIconActionGroup(other);
     QCOMPARE(menu.iconActionGroup(), other.data());
     QCOMPARE(own->parent(), &menu);
     delete other.data();
     QVERIFY(!menu.iconActionGroup());
+    menu.setEnabled(false); // no dangling group is touched
 
     RibbonSimpleAction top(nullptr), bottom(nullptr);
+    menu.addTopAction(&top);
     menu.addTopAction(&top);
     menu.addTopAction(nullptr);
     menu.addBottomAction(&bottom);
     QCOMPARE(menu.topActions(), QList<RibbonSimpleAction *>{&top});
     QCOMPARE(menu.bottomActions(), QList<RibbonSimpleAction *>{&bottom});
+}
+
+void tst_MenuActions::textActionCopiesAliasAtOnce()
+{
+    RibbonAction source(nullptr);
+    source.setText(QStringLiteral("Zoom"));
+    RibbonTextAction text(QPointer<RibbonAction>(&source), nullptr);
+    QCOMPARE(text.text(), QStringLiteral("Zoom"));
+    RibbonSimpleAction simple(QPointer<RibbonAction>(&source), nullptr);
+    QVERIFY(simple.text().isEmpty()); // a simple action waits for the next change
 }
 
 void tst_MenuActions::catMenuEnablesPopupCommands()

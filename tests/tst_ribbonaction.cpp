@@ -81,14 +81,12 @@ private slots:
     void checkedStateSyncsBothWays();
     void destroyedAliasStopsFollowing();
     void listenerReportsOnce();
-    void listenerReportsForeignSender();
     void forbiddenByTextOrData_data();
     void forbiddenByTextOrData();
     void forbiddenCutsLaterConnections();
     void forbiddenCutsAliasRelay();
     void forbiddenListSetAfterwardsDoesNotReexamine();
     void sendActionChangedEvtOrder();
-    void minimalWidth();
     void deleteInsideOwnTriggeredHandler();
 
 private:
@@ -329,18 +327,6 @@ void tst_RibbonAction::listenerReportsOnce()
     QCOMPARE(forbidden.count(), 0);
 }
 
-void tst_RibbonAction::listenerReportsForeignSender()
-{
-    QAction plain(QStringLiteral("Plain"), nullptr);
-    const QString before = RibbonActionListener::instance().lastActionTriggered();
-    QVERIFY(connect(&plain, SIGNAL(triggered()), &RibbonActionListener::instance(),
-                    SLOT(onActionTriggered())));
-    QSignalSpy reported(&RibbonActionListener::instance(), &RibbonActionListener::actionTriggered);
-    plain.trigger();
-    QCOMPARE(reported.count(), 1);
-    QCOMPARE(reported.at(0).at(0).value<RibbonAction *>(), static_cast<RibbonAction *>(nullptr));
-    QCOMPARE(RibbonActionListener::instance().lastActionTriggered(), before);
-}
 
 void tst_RibbonAction::forbiddenByTextOrData_data()
 {
@@ -459,15 +445,6 @@ void tst_RibbonAction::sendActionChangedEvtOrder()
                                QStringLiteral("action")}));
 }
 
-void tst_RibbonAction::minimalWidth()
-{
-    RibbonAction action(nullptr);
-    QCOMPARE(action.minimalWidth(), -1);
-    QSignalSpy changed(&action, &QAction::changed);
-    action.setMinimalWidth(120);
-    QCOMPARE(action.minimalWidth(), 120);
-    QCOMPARE(changed.count(), 0);
-}
 
 void tst_RibbonAction::deleteInsideOwnTriggeredHandler()
 {

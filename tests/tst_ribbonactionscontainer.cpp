@@ -26,7 +26,6 @@ private slots:
     void lookupByShortcut_data();
     void lookupByShortcut();
     void emptySequenceFindsFirstWithoutShortcut();
-    void tabRegistersInCapitals();
 
 private:
     // Every name used by a test, removed again afterwards: the registry lives as long
@@ -183,15 +182,6 @@ void tst_RibbonActionsContainer::emptySequenceFindsFirstWithoutShortcut()
     QCOMPARE(RibbonActionsContainer::instance().action(QKeySequence()).data(), &upper);
 }
 
-void tst_RibbonActionsContainer::tabRegistersInCapitals()
-{
-    const QString upper = QStringLiteral("REG HOME");
-    m_names << upper;
-    RibbonCategoriesPanelAction tab(QStringLiteral("reg Home"), nullptr);
-    QCOMPARE(tab.text(), upper);
-    QCOMPARE(RibbonActionsContainer::instance().action(upper).data(), &tab);
-    QVERIFY(RibbonActionsContainer::instance().action(QStringLiteral("reg Home")).isNull());
-}
 
 ZEL_TEST_MAIN(tst_RibbonActionsContainer)
 #include "tst_ribbonactionscontainer.moc"

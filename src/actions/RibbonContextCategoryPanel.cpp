@@ -1,32 +1,14 @@
 #include "RibbonContextCategoryPanel.h"
 
 #include "RibbonContextCategoryPanelAction.h"
+#include "RibbonMenuBar.h"
 
 #include <QMetaMethod>
 
-#if __has_include("RibbonMenuBar.h")
-#include "RibbonMenuBar.h"
-#define ZEL_HAVE_RIBBON_MENU_BAR 1
-#endif
-
 namespace zel {
 
-namespace {
-
-QObject *menuBarObject(RibbonMenuBar &menuBar)
-{
-#ifdef ZEL_HAVE_RIBBON_MENU_BAR
-    return static_cast<QObject *>(&menuBar);
-#else
-    // RibbonMenuBar derives from QWidget alone, so its address is its QObject's.
-    return reinterpret_cast<QObject *>(&menuBar);
-#endif
-}
-
-} // namespace
-
 RibbonContextCategoryPanel::RibbonContextCategoryPanel(RibbonMenuBar &menuBar)
-    : RibbonContextCategoryPanel(menuBarObject(menuBar))
+    : RibbonContextCategoryPanel(static_cast<QObject *>(&menuBar))
 {
 }
 
@@ -52,8 +34,8 @@ void RibbonContextCategoryPanel::removeContextPanelAction(RibbonContextCategoryP
         return;
 
     QPointer<RibbonContextCategoryPanelAction> guard(action);
-    // Hide the set first, while it is still registered. The bar's slot is found by name
-    // and its own parameter type, so either spelling of the type in its declaration works.
+    // Hide the set first, while it is still registered. The owner's slot is called through
+    // the meta-object, so an owner other than the ribbon bar can take its place.
     if (QObject *bar = m_menuBar.data()) {
         const QMetaObject *meta = bar->metaObject();
         for (int i = meta->methodCount() - 1; i >= 0; --i) {
