@@ -1,0 +1,292 @@
+#include "RibbonPercWidget.h"
+
+#include "RibbonApplication.h"
+#include "RibbonPercAction.h"
+#include "RibbonStyle.h"
+
+#include <QActionEvent>
+#include <QEnterEvent>
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace zel {
+
+namespace {
+
+const int FirstRepeatDelay = 200;
+const int RepeatInterval = 50;
+const int Step = 10;
+
+// Track geometry: the minimum sits at x 85, 100 % at 125 and the maximum at 165.
+const int TrackStart = 80;
+const int LowEnd = 85;
+const int Centre = 125;
+const int HalfLength = 40;
+const int SnapDistance = 5;
+
+const int ButtonExtent = 18;
+const int ThumbWidth = 11;
+const int ThumbHeight = 15;
+
+QString percentText(int percentage)
+{
+    return QString::number(percentage) + QStringLiteral(" %");
+}
+
+} // namespace
+
+RibbonPercWidget::RibbonPercWidget(RibbonPercAction &action, QWidget *parent)
+    : QWidget(parent)
+    , m_action(&action)
+    , m_value(action.percentage())
+    , m_text(percentText(action.percentage()))
+{
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    setMouseTracking(true);
+    setCursor(Qt::ArrowCursor);
+    addAction(&action);
+    connect(&action, SIGNAL(percentageChanged(int)), this, SLOT(displayPercentage(int)));
+    connect(&repeatTimer, SIGNAL(timeout()), this, SLOT(timerEvent()));
+}
+
+RibbonPercWidget::~RibbonPercWidget() = default;
+
+RibbonPercAction *RibbonPercWidget::action() const
+{
+    return m_action.data();
+}
+
+int RibbonPercWidget::value() const
+{
+    return m_value;
+}
+
+QString RibbonPercWidget::text() const
+{
+    return m_text;
+}
+
+QSize RibbonPercWidget::sizeHint() const
+{
+    return QSize(190, 20);
+}
+
+int RibbonPercWidget::thumbPosition(int v) const
+{
+    if (!m_action)
+        return Centre;
+    const int minimum = m_action->minimum();
+    const int maximum = m_action->maximum();
+    if (v < 100) {
+        const int span = 100 - minimum;
+        return span > 0 ? LowEnd + HalfLength * qMax(0, v - minimum) / span : LowEnd;
+    }
+    const int span = maximum - 100;
+    return span > 0 ? Centre + HalfLength * qMin(v - 100, span) / span : Centre;
+}
+
+QRect RibbonPercWidget::minusRect() const
+{
+    return QRect(60, 0, 20, 20);
+}
+
+QRect RibbonPercWidget::plusRect() const
+{
+    return QRect(width() - 20, 0, 20, 20);
+}
+
+QRect RibbonPercWidget::thumbHitRect() const
+{
+    return QRect(thumbPosition(m_value) - 5, 0, ThumbWidth, 20);
+}
+
+bool RibbonPercWidget::isHovered(const QRect &area) const
+{
+    return isEnabled() && m_mouseInside && area.contains(m_mousePos);
+}
+
+int RibbonPercWidget::valueAt(int x) const
+{
+    const int minimum = m_action->minimum();
+    const int maximum = m_action->maximum();
+    int v;
+    if (qAbs(x - Centre) < SnapDistance)
+        v = 100;
+    else if (x < Centre)
+        v = minimum + static_cast<int>((100 - minimum) * (x - LowEnd) / double(HalfLength) + 0.5);
+    else
+        v = 100 + static_cast<int>((maximum - 100) * (x - Centre) / double(HalfLength) + 0.5);
+    return qMax(minimum, qMin(v, maximum));
+}
+
+int RibbonPercWidget::stepped(int delta) const
+{
+    if (!m_action)
+        return m_value;
+    const int v = m_value + delta;
+    return delta < 0 ? qMax(v, m_action->minimum()) : qMin(v, m_action->maximum());
+}
+
+void RibbonPercWidget::dragTo(int x)
+{
+    if (!m_action)
+        return;
+    const int v = valueAt(x);
+    if (v == m_value)
+        return;
+    m_value = v;
+    m_action->setPercentage(v);
+}
+
+void RibbonPercWidget::displayPercentage(int percentage)
+{
+    m_text = percentText(percentage);
+    update();
+}
+
+void RibbonPercWidget::timerEvent()
+{
+    if (repeatTimer.interval() == FirstRepeatDelay)
+        repeatTimer.setInterval(RepeatInterval);
+    int v = m_value;
+    if (m_minusPressed)
+        v = stepped(-Step);
+    else if (m_plusPressed)
+        v = stepped(Step);
+    if (v == m_value || !m_action)
+        return;
+    m_value = v;
+    QPointer<RibbonPercWidget> self(this);
+    m_action->setPercentage(v);
+    if (self)
+        update();
+}
+
+void RibbonPercWidget::actionEvent(QActionEvent *event)
+{
+    QWidget::actionEvent(event);
+    if (event->action() == m_action.data() && event->type() == QEvent::ActionChanged) {
+        m_value = m_action->percentage();
+        m_text = percentText(m_value);
+        setEnabled(m_action->isEnabled());
+    }
+    update();
+}
+
+void RibbonPercWidget::paintEvent(QPaintEvent *)
+{
+    if (!m_action)
+        return;
+    const RibbonStyle &style = RibbonApplication::theApp().ribbonStyle();
+    QPainter painter(this);
+    if (!isEnabled())
+        painter.setOpacity(0.5);
+
+    painter.setPen(style.statusBarTextColor());
+    painter.drawText(QRect(20, 3, 40, 40), Qt::AlignRight, m_text);
+
+    const int trackEnd = width() - 20;
+    painter.setPen(style.frameSunkenColor());
+    painter.drawLine(TrackStart, 9, trackEnd, 9);
+    painter.drawLine(Centre, 6, Centre, 13);
+    painter.setPen(style.frameRaiseColor());
+    painter.drawLine(TrackStart, 10, trackEnd, 10);
+    painter.drawLine(Centre + 1, 7, Centre + 1, 14);
+
+    const auto frameOf = [this](bool pressed, const QRect &area) {
+        return pressed ? 2 : (isHovered(area) ? 1 : 0);
+    };
+
+    QRect button(0, 0, ButtonExtent, ButtonExtent);
+    button.moveCenter(minusRect().center());
+    painter.drawPixmap(button, style.sliderMinus(),
+                       QRect(0, ButtonExtent * frameOf(m_minusPressed, minusRect()), ButtonExtent, ButtonExtent));
+    button.moveCenter(plusRect().center());
+    painter.drawPixmap(button, style.sliderPlus(),
+                       QRect(0, ButtonExtent * frameOf(m_plusPressed, plusRect()), ButtonExtent, ButtonExtent));
+
+    const int x = thumbPosition(m_value);
+    const QRect thumb(x - ThumbWidth / 2, 10 - ThumbHeight / 2, ThumbWidth, ThumbHeight);
+    painter.drawPixmap(thumb, style.sliderThumb(),
+                       QRect(0, ThumbHeight * frameOf(m_thumbPressed, thumbHitRect()), ThumbWidth, ThumbHeight));
+}
+
+void RibbonPercWidget::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton || !m_action) {
+        QWidget::mousePressEvent(event);
+        return;
+    }
+    const QPoint pos = event->pos();
+    if (minusRect().contains(pos)) {
+        m_minusPressed = true;
+    } else if (plusRect().contains(pos)) {
+        m_plusPressed = true;
+    } else if (thumbHitRect().contains(pos)) {
+        m_thumbPressed = true;
+    } else if (pos.x() >= TrackStart && pos.x() < plusRect().left()) {
+        // A press on the bare track moves the thumb there and keeps it for dragging.
+        m_thumbPressed = true;
+        QPointer<RibbonPercWidget> self(this);
+        dragTo(pos.x());
+        if (!self)
+            return;
+    }
+    if (m_minusPressed || m_plusPressed) {
+        repeatTimer.setInterval(FirstRepeatDelay);
+        repeatTimer.start();
+    }
+    update();
+}
+
+void RibbonPercWidget::mouseMoveEvent(QMouseEvent *event)
+{
+    QWidget::mouseMoveEvent(event);
+    m_mousePos = event->pos();
+    m_mouseInside = rect().contains(m_mousePos);
+    if (m_thumbPressed) {
+        QPointer<RibbonPercWidget> self(this);
+        dragTo(event->pos().x());
+        if (!self)
+            return;
+    }
+    update();
+}
+
+void RibbonPercWidget::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton) {
+        QWidget::mouseReleaseEvent(event);
+        return;
+    }
+    const QPoint pos = event->pos();
+    const int old = m_value;
+    if (m_minusPressed && minusRect().contains(pos))
+        m_value = stepped(-Step);
+    else if (m_plusPressed && plusRect().contains(pos))
+        m_value = stepped(Step);
+    m_minusPressed = m_plusPressed = m_thumbPressed = false;
+    repeatTimer.stop();
+    update();
+    if (m_value != old && m_action)
+        m_action->setPercentage(m_value);
+}
+
+void RibbonPercWidget::enterEvent(QEvent *event)
+{
+    QWidget::enterEvent(event);
+    // Synthetic enter events may be plain QEvents without a position.
+    if (const QEnterEvent *enter = dynamic_cast<QEnterEvent *>(event))
+        m_mousePos = enter->pos();
+    m_mouseInside = true;
+    update();
+}
+
+void RibbonPercWidget::leaveEvent(QEvent *event)
+{
+    QWidget::leaveEvent(event);
+    m_mouseInside = false;
+    update();
+}
+
+} // namespace zel

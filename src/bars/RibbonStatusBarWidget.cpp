@@ -1,0 +1,133 @@
+#include "RibbonStatusBarWidget.h"
+
+#include "RibbonApplication.h"
+#include "RibbonPaint_p.h"
+#include "RibbonSimpleAction.h"
+#include "RibbonStyle.h"
+
+#include <QActionEvent>
+#include <QEnterEvent>
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace zel {
+
+namespace {
+const int ButtonExtent = 22;
+const QRect HoverRect(0, 0, 20, 20);
+} // namespace
+
+RibbonStatusBarWidget::RibbonStatusBarWidget(RibbonSimpleAction &action, QWidget *parent)
+    : QWidget(parent)
+    , m_action(&action)
+{
+    setMouseTracking(true);
+    setMaximumSize(ButtonExtent, ButtonExtent);
+    addAction(&action);
+}
+
+RibbonStatusBarWidget::~RibbonStatusBarWidget() = default;
+
+RibbonSimpleAction *RibbonStatusBarWidget::action() const
+{
+    return m_action.data();
+}
+
+QSize RibbonStatusBarWidget::sizeHint() const
+{
+    return QSize(ButtonExtent, ButtonExtent);
+}
+
+void RibbonStatusBarWidget::syncFromAction()
+{
+    if (!m_action)
+        return;
+    m_pressed = m_action->isCheckable() && m_action->isChecked();
+    setToolTip(m_action->toolTip());
+    setEnabled(m_action->isEnabled());
+}
+
+void RibbonStatusBarWidget::actionEvent(QActionEvent *event)
+{
+    QWidget::actionEvent(event);
+    if (event->action() == m_action.data()
+        && (event->type() == QEvent::ActionAdded || event->type() == QEvent::ActionChanged))
+        syncFromAction();
+    update();
+}
+
+bool RibbonStatusBarWidget::isHovered() const
+{
+    return isEnabled() && m_mouseInside && HoverRect.contains(m_mousePos);
+}
+
+void RibbonStatusBarWidget::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    const int frame = m_pressed ? 2 : (isHovered() ? 1 : 0);
+    const QPixmap &sheet = RibbonApplication::theApp().ribbonStyle().normalButtonSmall();
+    painter.drawPixmap(QRect(0, 0, 20, 22), sheet,
+                       QRect(0, RibbonPaint::SmallRowHeight * frame, 22, 23));
+
+    if (!m_action)
+        return;
+    // The whole pixmap goes into the 16-pixel square, whatever size the icon offers.
+    const QPixmap icon = RibbonPaint::iconPixmap(m_action->icon(), 16, isEnabled());
+    if (icon.isNull())
+        return;
+    QRect target(0, 0, 16, 16);
+    target.moveCenter(HoverRect.center());
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawPixmap(target, icon);
+}
+
+void RibbonStatusBarWidget::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton) {
+        QWidget::mousePressEvent(event);
+        return;
+    }
+    m_pressed = !m_pressed;
+    update();
+}
+
+void RibbonStatusBarWidget::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton) {
+        QWidget::mouseReleaseEvent(event);
+        return;
+    }
+    const bool checkable = m_action && m_action->isCheckable();
+    m_pressed = m_pressed && checkable;
+    update();
+    // Triggered wherever the button is released; the handlers may delete this widget.
+    if (QAction *action = m_action.data())
+        action->trigger();
+}
+
+void RibbonStatusBarWidget::mouseMoveEvent(QMouseEvent *event)
+{
+    QWidget::mouseMoveEvent(event);
+    m_mousePos = event->pos();
+    m_mouseInside = rect().contains(m_mousePos);
+    update();
+}
+
+void RibbonStatusBarWidget::enterEvent(QEvent *event)
+{
+    QWidget::enterEvent(event);
+    // Synthetic enter events may be plain QEvents without a position.
+    if (const QEnterEvent *enter = dynamic_cast<QEnterEvent *>(event))
+        m_mousePos = enter->pos();
+    m_mouseInside = true;
+    update();
+}
+
+void RibbonStatusBarWidget::leaveEvent(QEvent *event)
+{
+    QWidget::leaveEvent(event);
+    m_mouseInside = false;
+    update();
+}
+
+} // namespace zel
