@@ -464,6 +464,36 @@ private:
             return out;
         };
         card.rows.push_back({QStringLiteral("sheet tabs (second current)"), sheetTabs(), {}, {}});
+
+        // The status bar with two buttons (normal, hover, checked) and the zoom slider.
+        const auto statusBar = [&](bool active) {
+            const int w = 330, h = style.statusBar().height();
+            QPixmap out(w, h);
+            out.fill(Qt::white);
+            QPainter p(&out);
+            const QPixmap &bar = style.statusBar();
+            const int k = active ? 0 : 34;
+            p.drawPixmap(QRect(0, 0, 10, h), bar, QRect(k, 0, 10, h));
+            p.drawPixmap(QRect(10, 0, w - 20, h), bar, QRect(k + 10, 0, 10, h));
+            p.drawPixmap(QRect(w - 10, 0, 10, h), bar, QRect(k + 24, 0, 10, h));
+            for (int frame = 0; frame < 3; ++frame)
+                p.drawPixmap(QRect(4 + 24 * frame, 0, 20, 22), style.normalButtonSmall(), QRect(0, 22 * frame, 22, 23));
+            const int x0 = 140, sw = 190;
+            p.setPen(style.statusBarTextColor());
+            p.drawText(QRect(x0 + 20, 3, 40, 17), Qt::AlignRight | Qt::AlignVCenter, QStringLiteral("100 %"));
+            p.drawPixmap(x0 + 61, 1, style.sliderMinus(), 0, active ? 0 : 18, 18, 18);
+            p.drawPixmap(x0 + sw - 19, 1, style.sliderPlus(), 0, 36, 18, 18);
+            p.setPen(style.frameSunkenColor());
+            p.drawLine(x0 + 80, 9, x0 + sw - 20, 9);
+            p.drawLine(x0 + 125, 6, x0 + 125, 13);
+            p.setPen(style.frameRaiseColor());
+            p.drawLine(x0 + 80, 10, x0 + sw - 20, 10);
+            p.drawLine(x0 + 126, 7, x0 + 126, 14);
+            p.drawPixmap(x0 + 125 - 5, 10 - 7, style.sliderThumb(), 0, active ? 0 : 15, 11, 15);
+            return out;
+        };
+        card.rows.push_back({QStringLiteral("status bar: buttons normal / hover / checked, zoom slider"), statusBar(true),
+                             statusBar(false), {}});
         m_cards.push_back(card);
     }
 
