@@ -47,7 +47,7 @@ public:
             if (it != layer.constEnd())
                 return it.value();
         }
-        return QJsonValue();
+        return QJsonValue(QJsonValue::Undefined);
     }
 
     // "$name" refers to a variable, which may itself refer to another one.
@@ -58,6 +58,7 @@ public:
             const QJsonValue next = lookup(name);
             if (next.isUndefined()) {
                 err() << "unknown variable $" << name << '\n';
+                m_failed = true;
                 return QJsonValue();
             }
             value = next;
@@ -65,8 +66,12 @@ public:
         return value;
     }
 
+    // A misspelt variable would silently draw nothing; the run fails instead.
+    bool failed() const { return m_failed; }
+
 private:
     QList<QJsonObject> m_layers;
+    mutable bool m_failed = false;
 };
 
 QColor parseColor(const QString &text)
@@ -507,7 +512,7 @@ struct Generator
             painter.translate(origin);
             painter.setClipRect(QRect(QPoint(0, 0), frameSize));
             FramePainter fp(painter, scope, frameSize);
-            const bool ok = fp.draw(ops) && fp.draw(state.value(QStringLiteral("extra")).toArray());
+            const bool ok = fp.draw(ops) && fp.draw(state.value(QStringLiteral("extra")).toArray()) && !scope.failed();
             painter.restore();
             if (!ok)
                 return false;
