@@ -178,8 +178,8 @@ void TestRibbonStyle::dpiFactorAndRowHeights()
 {
     const QByteArray dpi = qgetenv("QT_FONT_DPI");
     const bool highDpi = dpi == "144";
-    if (!highDpi && !dpi.isEmpty() && dpi != "96")
-        QSKIP("Row heights are checked at 96 and 144 DPI only");
+    if (!highDpi && dpi != "96")
+        QSKIP("Run with QT_FONT_DPI=96 or 144 to check the resolution factor");
 
     const QPair<double, double> factor = RibbonApplication::theApp().dpiFactor();
     QCOMPARE(factor.first, highDpi ? 1.5 : 1.0);

@@ -14,7 +14,8 @@ class QRect;
 namespace zel {
 
 // Small vector symbols painted by RibbonStyle::drawSymbol() in the caller's pen and brush.
-enum eSymbolType {
+// Any int converts to it safely; values without a symbol paint nothing.
+enum eSymbolType : int {
     SymbolNone = 0,
     SymbolArrowUp = 1,
     SymbolDropDown = 2,
