@@ -474,6 +474,10 @@ struct Generator
         QJsonArray states = frames.value(QStringLiteral("states")).toArray();
         if (states.isEmpty())
             states.append(QJsonObject{{QStringLiteral("name"), QStringLiteral("image")}});
+        if (step <= 0) {
+            err() << "frame step must be positive\n";
+            return false;
+        }
         const QSize frameSize = alongX ? QSize(step, size.height()) : QSize(size.width(), step);
         if (states.size() * step > (alongX ? size.width() : size.height())) {
             err() << "frames do not fit the image\n";
@@ -537,6 +541,10 @@ struct Generator
                 err() << "image '" << file << "' needs a file name and one of the directories\n";
                 return false;
             }
+            if (filesByDir.value(dir).contains(file)) {
+                err() << "image '" << file << "' is described twice\n";
+                return false;
+            }
             QImage img;
             if (!drawImage(image, templateVars, img)) {
                 err() << "  while drawing " << file << '\n';
@@ -555,12 +563,8 @@ struct Generator
             QByteArray bytes = buffer.data();
             if (format == "ico")
                 clearIcoMaskPadding(bytes);
-            QFile out(path);
-            if (!out.open(QIODevice::WriteOnly | QIODevice::Truncate) || out.write(bytes) != bytes.size()) {
-                err() << "cannot write " << path << '\n';
+            if (!writeIfChanged(path, bytes))
                 return false;
-            }
-            out.close();
             // Read it back: what the library loads must be what was drawn.
             const QImage back(path);
             if (back.isNull() || back.size() != img.size()) {
@@ -573,6 +577,20 @@ struct Generator
         if (!writeQrc(dirs))
             return false;
         QTextStream(stdout) << written << " images written to " << QDir::toNativeSeparators(outDir) << '\n';
+        return true;
+    }
+
+    // Unchanged files keep their time stamps, so the library's resources are not rebuilt.
+    static bool writeIfChanged(const QString &path, const QByteArray &bytes)
+    {
+        QFile file(path);
+        if (file.open(QIODevice::ReadOnly) && file.readAll() == bytes)
+            return true;
+        file.close();
+        if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate) || file.write(bytes) != bytes.size()) {
+            err() << "cannot write " << path << '\n';
+            return false;
+        }
         return true;
     }
 
@@ -594,16 +612,7 @@ struct Generator
         }
         out << "</RCC>\n";
         out.flush();
-        QFile qrc(outDir + QStringLiteral("/zelRibbon.qrc"));
-        if (qrc.open(QIODevice::ReadOnly) && qrc.readAll() == text.toUtf8())
-            return true; // unchanged: keep its time stamp so the library is not rebuilt
-        qrc.close();
-        if (!qrc.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
-            err() << "cannot write " << qrc.fileName() << '\n';
-            return false;
-        }
-        qrc.write(text.toUtf8());
-        return true;
+        return writeIfChanged(outDir + QStringLiteral("/zelRibbon.qrc"), text.toUtf8());
     }
 };
 
