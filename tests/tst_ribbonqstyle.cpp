@@ -11,6 +11,7 @@
 #include <QComboBox>
 #include <QMenu>
 #include <QPainter>
+#include <QPushButton>
 #include <QScrollBar>
 #include <QStyleFactory>
 #include <QStyleOption>
@@ -139,6 +140,8 @@ private slots:
     void menuItemHeight();
     void checkBoxIndicator_data();
     void checkBoxIndicator();
+    void pushButtonPanel_data();
+    void pushButtonPanel();
     void comboBoxRows_data();
     void comboBoxRows();
     void comboBoxFallback_data();
@@ -253,6 +256,35 @@ void TestRibbonQStyle::checkBoxIndicator()
     QCOMPARE(image.pixel(square.left(), square.center().y()), border.rgb());
     const QColor &mark = enabled ? s.frameBorderColor() : s.disabledCategoryTextColor();
     QCOMPARE(containsColor(image, square.adjusted(1, 1, -1, -1), mark), checked);
+}
+
+void TestRibbonQStyle::pushButtonPanel_data()
+{
+    QTest::addColumn<bool>("isDefault");
+    QTest::addColumn<bool>("enabled");
+    QTest::addColumn<QColor>("outline");
+    QTest::addColumn<QColor>("fill");
+    const RibbonStyle &s = appPalette();
+    QTest::newRow("normal") << false << true << s.backstageGrayBorderColor() << s.backstageSimpleButtonColor();
+    QTest::newRow("default") << true << true << s.frameBorderColor() << s.backstageSimpleButtonColor();
+    QTest::newRow("disabled") << false << false << s.separatorColor() << s.mainClientColor();
+}
+
+void TestRibbonQStyle::pushButtonPanel()
+{
+    QFETCH(bool, isDefault);
+    QFETCH(bool, enabled);
+    QFETCH(QColor, outline);
+    QFETCH(QColor, fill);
+    QPushButton button;
+    button.setStyle(m_style.data());
+    button.setDefault(isDefault);
+    button.setEnabled(enabled);
+    button.resize(80, 26);
+    const QImage image = grabImage(button);
+    QCOMPARE(image.pixel(0, 13), outline.rgb());
+    QCOMPARE(image.pixel(79, 13), outline.rgb());
+    QCOMPARE(image.pixel(5, 13), fill.rgb());
 }
 
 void TestRibbonQStyle::comboBoxRows_data()

@@ -10,6 +10,10 @@
 #include <QComboBox>
 #include <QGridLayout>
 #include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QHBoxLayout>
 #include <QMenu>
 #include <QPainter>
 #include <QRadioButton>
@@ -106,6 +110,24 @@ QWidget *makeStandardControls()
     menuColumn->addWidget(menuPicture(screen));
     menuColumn->addWidget(caption(QStringLiteral("Tool tip")));
     menuColumn->addWidget(new TipSample(QStringLiteral("Paste (Ctrl+V)")), 0, Qt::AlignLeft);
+    menuColumn->addWidget(caption(QStringLiteral("Buttons and fields")));
+    auto *buttonRow = new QHBoxLayout;
+    auto *ok = new QPushButton(QStringLiteral("OK"));
+    ok->setDefault(true);
+    auto *cancel = new QPushButton(QStringLiteral("Cancel"));
+    auto *apply = new QPushButton(QStringLiteral("Apply"));
+    apply->setEnabled(false);
+    buttonRow->addWidget(ok);
+    buttonRow->addWidget(cancel);
+    buttonRow->addWidget(apply);
+    menuColumn->addLayout(buttonRow);
+    auto *fieldRow = new QHBoxLayout;
+    auto *edit = new QLineEdit(QStringLiteral("Quarterly report"));
+    auto *spin = new QSpinBox;
+    spin->setValue(12);
+    fieldRow->addWidget(edit);
+    fieldRow->addWidget(spin);
+    menuColumn->addLayout(fieldRow);
     menuColumn->addStretch();
     grid->addLayout(menuColumn, 0, 0, 2, 1);
 
@@ -183,7 +205,7 @@ QWidget *makeStandardControls()
 
     grid->setColumnMinimumWidth(1, 300);
     grid->setColumnMinimumWidth(2, 240);
-    screen->resize(960, 440);
+    screen->resize(960, 520);
     return screen;
 }
 

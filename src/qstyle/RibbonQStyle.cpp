@@ -6,10 +6,12 @@
 #include "RibbonStylePainter_p.h"
 
 #include <QAbstractButton>
+#include <QAbstractSpinBox>
 #include <QComboBox>
 #include <QMenuBar>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPushButton>
 #include <QScrollBar>
 #include <QStyleOption>
 #include <QTabBar>
@@ -173,6 +175,51 @@ void RibbonQStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *o
                 const QColor &fill = row == 0 ? style->backstageBlueHoverColor() : style->backstageBluePressedColor();
                 drawFlatPanel(painter, option->rect, fill, style->backstageBlueBorderHoverColor());
             }
+            return;
+        }
+        break;
+    case PE_PanelButtonCommand: {
+        const State state = option->state;
+        const bool enabled = state & State_Enabled;
+        const bool pressed = enabled && (state & (State_Sunken | State_On));
+        const bool hover = enabled && (state & State_MouseOver);
+        const auto *button = qstyleoption_cast<const QStyleOptionButton *>(option);
+        const bool isDefault = button && (button->features & QStyleOptionButton::DefaultButton);
+        const QColor fill = !enabled ? style->mainClientColor()
+            : pressed ? style->backstageBluePressedColor()
+            : hover ? style->backstageBlueHoverColor()
+                    : style->backstageSimpleButtonColor();
+        const QColor &outline = !enabled ? style->separatorColor()
+            : (pressed || hover) ? style->backstageBlueBorderHoverColor()
+            : (isDefault || (state & State_HasFocus)) ? style->frameBorderColor()
+                                                      : style->backstageGrayBorderColor();
+        drawFlatPanel(painter, option->rect, fill, outline);
+        return;
+    }
+    case PE_FrameDefaultButton:
+        return;
+    case PE_FrameFocusRect:
+        // Push buttons show the focus with their outline.
+        if (qobject_cast<const QPushButton *>(widget))
+            return;
+        break;
+    case PE_PanelLineEdit:
+        // Inside a spin box or an editable combo box the host control draws the frame.
+        if (widget && (qobject_cast<const QAbstractSpinBox *>(widget->parentWidget())
+                       || qobject_cast<const QComboBox *>(widget->parentWidget())))
+            break;
+        if (const auto *frame = qstyleoption_cast<const QStyleOptionFrame *>(option)) {
+            const bool enabled = frame->state & State_Enabled;
+            const QColor fill = enabled ? frame->palette.color(QPalette::Base) : style->mainClientColor();
+            if (frame->lineWidth <= 0) {
+                drawFlatPanel(painter, frame->rect, fill, QColor());
+                return;
+            }
+            const QColor &outline = !enabled ? style->separatorColor()
+                : (frame->state & State_HasFocus) ? style->frameBorderColor()
+                : (frame->state & State_MouseOver) ? style->backstageBlueBorderHoverColor()
+                                                    : style->backstageGrayBorderColor();
+            drawFlatPanel(painter, frame->rect, fill, outline);
             return;
         }
         break;
