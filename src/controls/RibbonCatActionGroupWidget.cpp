@@ -48,7 +48,10 @@ struct RibbonCatActionGroupWidget::Priv
         IRibbonGroupWidget *groupWidget = nullptr;
     };
 
-    QPointer<RibbonCatActionGroup> group;
+    // The guard is typed QAction: a typed QPointer would downcast the group while it is
+    // being destroyed, when the removal event arrives.
+    RibbonCatActionGroup *groupAction = nullptr;
+    QPointer<QAction> alive;
     int pressedIndex = -1;
     QMap<RibbonAction *, PopupWidget> popupWidgets;
 };
@@ -57,7 +60,8 @@ RibbonCatActionGroupWidget::RibbonCatActionGroupWidget(RibbonCatActionGroup &gro
     : QWidget(parent)
     , d(new Priv)
 {
-    d->group = &group;
+    d->groupAction = &group;
+    d->alive = &group;
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setMouseTracking(true);
     addAction(&group);
@@ -67,31 +71,31 @@ RibbonCatActionGroupWidget::~RibbonCatActionGroupWidget() = default;
 
 RibbonCatActionGroup *RibbonCatActionGroupWidget::group() const
 {
-    return d->group;
+    return d->alive ? d->groupAction : nullptr;
 }
 
 int RibbonCatActionGroupWidget::cellWidth() const
 {
-    return d->group && d->group->isWide() ? kWideCell : kPlainCell;
+    return group() && group()->isWide() ? kWideCell : kPlainCell;
 }
 
 int RibbonCatActionGroupWidget::cellAt(const QPoint &pos) const
 {
-    if (!d->group || pos.x() < 0)
+    if (!group() || pos.x() < 0)
         return -1;
     const int index = pos.x() / cellWidth();
-    return index < d->group->actions().size() ? index : -1;
+    return index < group()->actions().size() ? index : -1;
 }
 
 QSize RibbonCatActionGroupWidget::sizeHint() const
 {
-    const int count = d->group ? d->group->actions().size() : 0;
+    const int count = group() ? group()->actions().size() : 0;
     return QSize(count * cellWidth(), kStripHeight);
 }
 
 void RibbonCatActionGroupWidget::syncPopupWidgets()
 {
-    RibbonCatActionGroup *group = d->group;
+    RibbonCatActionGroup *group = this->group();
     const bool wide = group && group->isWide();
 
     // Drop the buttons of members that left the group (or of a strip no longer wide).
@@ -122,7 +126,7 @@ void RibbonCatActionGroupWidget::syncPopupWidgets()
 void RibbonCatActionGroupWidget::actionEvent(QActionEvent *event)
 {
     QWidget::actionEvent(event);
-    QAction *group = d->group;
+    QAction *group = d->alive;
     if (group && event->action() == group) {
         switch (event->type()) {
         case QEvent::ActionAdded:
@@ -134,7 +138,8 @@ void RibbonCatActionGroupWidget::actionEvent(QActionEvent *event)
         case QEvent::ActionRemoved:
             // Also reached while the group is being destroyed: forget it without
             // touching it.
-            d->group = nullptr;
+            d->groupAction = nullptr;
+            d->alive = nullptr;
             d->pressedIndex = -1;
             break;
         default:
@@ -147,13 +152,13 @@ void RibbonCatActionGroupWidget::actionEvent(QActionEvent *event)
 void RibbonCatActionGroupWidget::mousePressEvent(QMouseEvent *event)
 {
     QWidget::mousePressEvent(event);
-    if (event->button() != Qt::LeftButton || !d->group)
+    if (event->button() != Qt::LeftButton || !group())
         return;
     const int index = cellAt(event->pos());
-    if (index >= 0 && d->group->actions().at(index)->isEnabled()) {
+    if (index >= 0 && group()->actions().at(index)->isEnabled()) {
         d->pressedIndex = index;
-        if (d->group->isWide()) {
-            const auto it = d->popupWidgets.constFind(d->group->actions().at(index));
+        if (group()->isWide()) {
+            const auto it = d->popupWidgets.constFind(group()->actions().at(index));
             if (it != d->popupWidgets.constEnd() && it->widget)
                 it->groupWidget->processEvents(event);
         }
@@ -166,7 +171,7 @@ void RibbonCatActionGroupWidget::mouseMoveEvent(QMouseEvent *event)
     QWidget::mouseMoveEvent(event);
     const int index = cellAt(event->pos());
     if (index >= 0)
-        setToolTip(d->group->actions().at(index)->toolTip());
+        setToolTip(group()->actions().at(index)->toolTip());
     update();
 }
 
@@ -175,8 +180,8 @@ void RibbonCatActionGroupWidget::mouseReleaseEvent(QMouseEvent *event)
     QWidget::mouseReleaseEvent(event);
     const int pressed = d->pressedIndex;
     d->pressedIndex = -1;
-    if (event->button() == Qt::LeftButton && pressed >= 0 && d->group && pressed == cellAt(event->pos())) {
-        RibbonAction *action = d->group->actions().at(pressed);
+    if (event->button() == Qt::LeftButton && pressed >= 0 && group() && pressed == cellAt(event->pos())) {
+        RibbonAction *action = group()->actions().at(pressed);
         if (action->isEnabled()) {
             // The command may delete this strip.
             QPointer<RibbonCatActionGroupWidget> self(this);
@@ -190,7 +195,7 @@ void RibbonCatActionGroupWidget::mouseReleaseEvent(QMouseEvent *event)
 
 void RibbonCatActionGroupWidget::paintEvent(QPaintEvent *)
 {
-    RibbonCatActionGroup *group = d->group;
+    RibbonCatActionGroup *group = this->group();
     if (!group)
         return;
     const RibbonStyle &style = RibbonApplication::theApp().ribbonStyle();

@@ -51,7 +51,12 @@ int largeCaptionWidth(const QFontMetrics &fm, const QString &text)
 
 struct RibbonCatSimpleButton::Priv
 {
-    QPointer<RibbonCatSimpleAction> action;
+    // The guard is typed QAction: a typed QPointer would downcast the action while it is
+    // being destroyed, when the removal event arrives.
+    RibbonCatSimpleAction *action = nullptr;
+    QPointer<QAction> alive;
+
+    RibbonCatSimpleAction *liveAction() const { return alive ? action : nullptr; }
     RibbonCatSimpleAction::eSize size = RibbonCatSimpleAction::SizeLarge;
     mutable QSize sizeHint; // invalid until computed
     RibbonSlices background;
@@ -62,6 +67,7 @@ RibbonCatSimpleButton::RibbonCatSimpleButton(RibbonCatSimpleAction &action, QWid
     , d(new Priv)
 {
     d->action = &action;
+    d->alive = &action;
     d->size = action.size();
     addAction(&action);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
@@ -75,7 +81,7 @@ RibbonCatSimpleButton::~RibbonCatSimpleButton() = default;
 
 RibbonCatSimpleAction *RibbonCatSimpleButton::action() const
 {
-    return d->action;
+    return d->liveAction();
 }
 
 QSize RibbonCatSimpleButton::sizeHint() const
@@ -99,8 +105,10 @@ QSize RibbonCatSimpleButton::sizeHint() const
         width = icon().isNull() ? 4 : 22;
         break;
     }
-    if (d->action && d->action->minimalWidth() != -1)
-        width = qMax(width, d->action->minimalWidth());
+    if (RibbonCatSimpleAction *action = d->liveAction()) {
+        if (action->minimalWidth() != -1)
+            width = qMax(width, action->minimalWidth());
+    }
     d->sizeHint = QSize(width, height);
     return d->sizeHint;
 }
@@ -108,7 +116,7 @@ QSize RibbonCatSimpleButton::sizeHint() const
 void RibbonCatSimpleButton::actionEvent(QActionEvent *event)
 {
     QAbstractButton::actionEvent(event);
-    QAction *own = d->action;
+    QAction *own = d->alive;
     switch (event->type()) {
     case QEvent::ActionAdded:
     case QEvent::ActionChanged:
@@ -125,8 +133,10 @@ void RibbonCatSimpleButton::actionEvent(QActionEvent *event)
         break;
     case QEvent::ActionRemoved:
         // Also reached while the action is being destroyed: compare addresses only.
-        if (own && event->action() == own)
+        if (own && event->action() == own) {
             d->action = nullptr;
+            d->alive = nullptr;
+        }
         break;
     default:
         break;

@@ -83,7 +83,12 @@ const int kBottomHoverOffset = 17;
 
 struct RibbonCategory::Priv
 {
-    QPointer<RibbonCategoryAction> action;
+    // The guard is untyped so that reading it never downcasts an action that is being
+    // destroyed.
+    RibbonCategoryAction *categoryAction = nullptr;
+    QPointer<QObject> alive;
+
+    RibbonCategoryAction *action() const { return alive ? categoryAction : nullptr; }
     RibbonCategoryLayout *layout = nullptr;
     QMap<RibbonAction *, QPointer<QWidget>> widgets;
     QString caption;            // the caption measured for the size hint
@@ -112,7 +117,8 @@ RibbonCategory::RibbonCategory(QWidget *parent, RibbonCategoryAction &action)
     : QWidget(parent)
     , d(new Priv)
 {
-    d->action = &action;
+    d->categoryAction = &action;
+    d->alive = &action;
     d->caption = action.text();
     setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
     setMouseTracking(true);
@@ -132,7 +138,7 @@ RibbonCategory::~RibbonCategory() = default;
 
 RibbonCategoryAction *RibbonCategory::action() const
 {
-    return d->action;
+    return d->action();
 }
 
 RibbonAction *RibbonCategory::action(QWidget *widget) const
@@ -153,7 +159,7 @@ QWidget *RibbonCategory::widget(RibbonAction *action) const
 
 int RibbonCategory::actionRow(RibbonAction *action) const
 {
-    return d->action ? d->action->actionRow(action) : -1;
+    return d->action() ? d->action()->actionRow(action) : -1;
 }
 
 RibbonCategoryLayout *RibbonCategory::categoryLayout() const
@@ -230,8 +236,8 @@ void RibbonCategory::actionEvent(QActionEvent *event)
 void RibbonCategory::onCategoryChanged()
 {
     // The category also reports every change of a member; only a new caption matters here.
-    if (d->action && d->action->text() != d->caption) {
-        d->caption = d->action->text();
+    if (d->action() && d->action()->text() != d->caption) {
+        d->caption = d->action()->text();
         invalidateSizeHint();
         update();
     }
