@@ -4,6 +4,9 @@
 #include "RibbonButtonNormal.h"
 #include "RibbonCatActionGroup.h"
 #include "RibbonCatActionGroupWidget.h"
+#include "RibbonCatMenuAction.h"
+#include "RibbonCatMenuButton.h"
+#include "IRibbonGroupWidget.h"
 #include "RibbonCatSimpleAction.h"
 #include "RibbonCatSimpleButton.h"
 #include "RibbonMainMenuItem.h"
@@ -107,6 +110,7 @@ private slots:
     void stripClicks();
     void stripCheckedCell();
     void stripToolTip();
+    void wideStripHandsPressToHiddenButton();
 
     void normalButtonFollowsFirstAction();
     void symbolButton();
@@ -451,6 +455,50 @@ void tst_RibbonButtons::stripToolTip()
     QTRY_COMPARE(strip.toolTip(), QStringLiteral("tip 1"));
     QTest::mouseMove(&strip, QPoint(3, 10));
     QTRY_COMPARE(strip.toolTip(), QStringLiteral("tip 0"));
+}
+
+void tst_RibbonButtons::wideStripHandsPressToHiddenButton()
+{
+    RibbonCatActionGroup group(m_owner.get());
+    auto *menu = new RibbonCatMenuAction(solidIcon(Qt::green), QStringLiteral("Menu"),
+                                         RibbonCatMenuAction::MenuTypeButton, RibbonCatMenuAction::MenuSizeSmall,
+                                         RibbonCatMenuAction::PopupMenu, m_owner.get());
+    menu->addAction(action(QStringLiteral("item"), RibbonCatSimpleAction::SizeMedium), false);
+    RibbonCatSimpleAction *plain = action(QStringLiteral("plain"), RibbonCatSimpleAction::SizeSmall);
+    group.addAction(plain, true);
+    group.addAction(menu, true);
+
+    QWidget window;
+    window.resize(120, 60);
+    RibbonCatActionGroupWidget strip(group, &window);
+    strip.setGeometry(10, 10, 60, 22);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+
+    // Only the menu member has a hidden button, found through the interface.
+    const QList<RibbonCatMenuButton *> buttons = strip.findChildren<RibbonCatMenuButton *>();
+    QCOMPARE(buttons.size(), 1);
+    QVERIFY(buttons.first()->isHidden());
+    QVERIFY(IRibbonGroupWidget::groupWidget(buttons.first()));
+    QVERIFY(!IRibbonGroupWidget::groupWidget(&strip));
+
+    QSignalSpy plainTriggered(plain, &QAction::triggered);
+    QTest::mouseClick(&strip, Qt::LeftButton, {}, QPoint(10, 11));
+    QCOMPARE(plainTriggered.count(), 1);
+    QVERIFY(!QApplication::activePopupWidget());
+
+    // A press on the menu's cell opens its drop-down below the cell.
+    QTest::mousePress(&strip, Qt::LeftButton, {}, QPoint(45, 11));
+    QTRY_VERIFY(QApplication::activePopupWidget());
+    QWidget *popup = QApplication::activePopupWidget();
+    QCOMPARE(popup->pos().x(), strip.mapToGlobal(QPoint(30, 0)).x());
+    popup->close();
+
+    // The hidden button goes with its member.
+    QPointer<RibbonCatMenuButton> hidden = buttons.first();
+    group.removeAction(menu);
+    QVERIFY(hidden.isNull());
+    QCOMPARE(strip.sizeHint(), QSize(30, 22));
 }
 
 void tst_RibbonButtons::normalButtonFollowsFirstAction()

@@ -6,6 +6,7 @@
 
 #include "RibbonApplication.h"
 #include "RibbonCatActionGroup.h"
+#include "RibbonCatMenuAction.h"
 #include "RibbonCatSimpleAction.h"
 #include "RibbonCategory.h"
 #include "RibbonCategoryAction.h"
@@ -22,6 +23,7 @@
 namespace {
 
 using zel::RibbonCatActionGroup;
+using zel::RibbonCatMenuAction;
 using zel::RibbonCatSimpleAction;
 using zel::RibbonCategory;
 using zel::RibbonCategoryAction;
@@ -186,10 +188,24 @@ QWidget *makeCategoriesScreen()
     auto *disabledColour = simple(makeIcon(Glyph::Disc, blue), QStringLiteral("Blue"), RibbonCatSimpleAction::SizeSmall);
     disabledColour->setEnabled(false);
     colours->addAction(disabledColour, false);
+    // A wide strip: each cell has a drop-down part that opens its member's menu.
+    auto *highlights = new RibbonCatActionGroup(owner);
+    const QColor marks[] = {orange, teal};
+    const QStringList markNames = {QStringLiteral("Highlight"), QStringLiteral("Shading")};
+    for (int i = 0; i < 2; ++i) {
+        auto *menu = new RibbonCatMenuAction(makeIcon(Glyph::Square, marks[i]), markNames.at(i),
+                                             RibbonCatMenuAction::MenuTypeButton,
+                                             RibbonCatMenuAction::MenuSizeSmall,
+                                             RibbonCatMenuAction::PopupMenu, owner);
+        menu->addAction(simple(makeIcon(Glyph::Disc, marks[i]), QStringLiteral("Light"), RibbonCatSimpleAction::SizeMedium), false);
+        menu->addAction(simple(makeIcon(Glyph::Disc, marks[i].darker(150)), QStringLiteral("Dark"), RibbonCatSimpleAction::SizeMedium), false);
+        highlights->addAction(menu, true);
+    }
     font->addAction(style, 0);
     font->addAction(script, 0);
     font->addAction(colours, 1);
     font->addAction(simple(makeIcon(Glyph::Ring, teal), QStringLiteral("Grow Font"), RibbonCatSimpleAction::SizeMedium), 1);
+    font->addAction(highlights, 2);
     font->addAction(simple(makeIcon(Glyph::Bars, violet), QStringLiteral("Clear Formatting"), RibbonCatSimpleAction::SizeMedium), 2);
     addCategory(font);
 

@@ -159,8 +159,15 @@ void RibbonCatActionGroupWidget::mousePressEvent(QMouseEvent *event)
         d->pressedIndex = index;
         if (group()->isWide()) {
             const auto it = d->popupWidgets.constFind(group()->actions().at(index));
-            if (it != d->popupWidgets.constEnd() && it->widget)
-                it->groupWidget->processEvents(event);
+            if (it != d->popupWidgets.constEnd() && it->widget) {
+                // The hidden button stands on its cell, so that its popup opens below
+                // the cell, and receives the press in its own coordinates.
+                const QRect cell(index * kWideCell, 0, kWideCell, kStripHeight);
+                it->widget->setGeometry(cell);
+                QMouseEvent press(event->type(), event->localPos() - cell.topLeft(), event->windowPos(),
+                                  event->screenPos(), event->button(), event->buttons(), event->modifiers());
+                it->groupWidget->processEvents(&press);
+            }
         }
     }
     update();
