@@ -8,6 +8,7 @@
 #include "RibbonStyle.h"
 
 #include <QCheckBox>
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QMenu>
 #include <QPainter>
@@ -138,6 +139,7 @@ private slots:
     void menuPanelAndItems();
     void menuFallbackWithoutImages();
     void menuItemHeight();
+    void comboPopupItemHeight();
     void checkBoxIndicator_data();
     void checkBoxIndicator();
     void pushButtonPanel_data();
@@ -222,6 +224,25 @@ void TestRibbonQStyle::menuItemHeight()
     QAction *separator = m.menu.insertSeparator(m.checked);
     m.menu.adjustSize();
     QCOMPARE(m.menu.actionGeometry(separator).height(), scaled(7));
+}
+
+void TestRibbonQStyle::comboPopupItemHeight()
+{
+    // A combo box's popup asks for menu item sizes with its whole item rectangle as the
+    // contents; rows must still be one line high.
+    QWidget window;
+    auto *combo = new QComboBox(&window);
+    combo->setStyle(m_style.data());
+    combo->addItems({QStringLiteral("One"), QStringLiteral("Two"), QStringLiteral("Three")});
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    combo->showPopup();
+    QAbstractItemView *view = combo->view();
+    QTRY_VERIFY(view->isVisible());
+    const int expected = qMax(scaled(22), combo->fontMetrics().height() + scaled(6));
+    for (int row = 0; row < 3; ++row)
+        QCOMPARE(view->visualRect(combo->model()->index(row, 0)).height(), expected);
+    combo->hidePopup();
 }
 
 void TestRibbonQStyle::checkBoxIndicator_data()

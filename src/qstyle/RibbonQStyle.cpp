@@ -356,7 +356,13 @@ QSize RibbonQStyle::sizeFromContents(ContentsType type, const QStyleOption *opti
             // The menu adds the width of the widest shortcut on its own.
             if (item->text.contains(QLatin1Char('\t')))
                 width += kMenuShortcutGap;
-            const int height = std::max(contentsSize.height() + scaledHeight(6), scaledHeight(kMenuItemHeight));
+            // The height follows the item's font, not contentsSize: a combo box's popup
+            // passes its whole item rectangle as the contents.
+            int height = std::max(item->fontMetrics.height() + scaledHeight(6), scaledHeight(kMenuItemHeight));
+            if (!item->icon.isNull()) {
+                const int extent = proxy()->pixelMetric(PM_SmallIconSize, option, widget);
+                height = std::max(height, item->icon.actualSize(QSize(extent, extent)).height() + scaledHeight(6));
+            }
             return QSize(width, height);
         }
     }
