@@ -414,6 +414,28 @@ private slots:
         QCOMPARE(combo.createWidget(nullptr), nullptr);
     }
 
+    void widgetsOutliveTheirActions()
+    {
+        auto *combo = new RibbonCatComboAction(QStringLiteral("Zoom:"), nullptr);
+        combo->addItem(QStringLiteral("100%"));
+        auto *family = new RibbonCatFontFamilyAction(QFont(), nullptr);
+        QWidget window;
+        auto *box = new RibbonCatComboComboBox(*combo, &window);
+        auto *labelled = new RibbonCatComboWidget(*combo, &window);
+        auto *picker = new RibbonCatFontFamilyComboBox(*family, &window);
+        delete combo;
+        delete family;
+        QVERIFY(box->actions().isEmpty());
+        QVERIFY(picker->actions().isEmpty());
+        QTest::keyClick(box, Qt::Key_A);
+        QTest::keyClick(labelled->comboBox(), Qt::Key_Return);
+        box->updateActionSelection(QStringLiteral("100%"));
+        QCOMPARE(box->currentIndex(), 0);
+        box->onEditableChanged();
+        QCoreApplication::processEvents();
+        QVERIFY(!picker->signalsBlocked());
+    }
+
     // Font family -----------------------------------------------------------------------
 
     void fontFamilySetByTheHostReachesEveryPickerOnce()

@@ -79,7 +79,7 @@ void RibbonCatComboComboBox::actionEvent(QActionEvent *event)
 {
     QComboBox::actionEvent(event);
     // The action may be in its destructor when it is removed: read nothing from it then.
-    if (!m_action || event->action() != m_action || event->type() == QEvent::ActionRemoved)
+    if (event->type() == QEvent::ActionRemoved || !m_action || event->action() != m_action)
         return;
     if (event->type() == QEvent::ActionAdded || event->type() == QEvent::ActionChanged)
         updateActionSelection(m_action->selectionText());

@@ -25,9 +25,10 @@ RibbonCatFontFamilyComboBox::~RibbonCatFontFamilyComboBox() = default;
 void RibbonCatFontFamilyComboBox::actionEvent(QActionEvent *event)
 {
     QFontComboBox::actionEvent(event);
-    if (!m_action || event->action() != m_action)
-        return;
+    // Test the type first: a removed action may be in its destructor.
     if (event->type() != QEvent::ActionAdded && event->type() != QEvent::ActionChanged)
+        return;
+    if (!m_action || event->action() != m_action)
         return;
     // Showing the action's font must not send it back: the signals stay blocked until
     // control returns to the event loop.

@@ -107,9 +107,11 @@ void RibbonCatMenuButton::drawBorder(bool draw)
 void RibbonCatMenuButton::actionEvent(QActionEvent *event)
 {
     QWidget::actionEvent(event);
-    if (!m_action || event->action() != m_action)
-        return;
+    // Test the type first: an action is removed from its widgets while it is destroyed,
+    // when it may no longer be read as a menu action.
     if (event->type() != QEvent::ActionAdded && event->type() != QEvent::ActionChanged)
+        return;
+    if (!m_action || event->action() != m_action)
         return;
     refreshFromAction(event);
 }
