@@ -473,10 +473,10 @@ void RibbonQStyle::drawMenuItem(const QStyleOption *option, QPainter *painter, c
             painter->setRenderHint(QPainter::Antialiasing, true);
             painter->setPen(Qt::NoPen);
             painter->setBrush(mark);
-            painter->drawEllipse(QRectF(centeredSquare(checkRect, 6)));
+            painter->drawEllipse(QRectF(centeredSquare(checkRect, scaledHeight(6))));
             painter->setRenderHint(QPainter::Antialiasing, false);
         } else {
-            drawCheckMark(painter, centeredSquare(checkRect, 14), mark);
+            drawCheckMark(painter, centeredSquare(checkRect, std::min(side - 4, scaledHeight(14))), mark);
         }
     }
 
