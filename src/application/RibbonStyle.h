@@ -162,6 +162,7 @@ public:
     static void drawSymbol(QPainter &painter, const QRect &rect, eSymbolType symbol);
 
 protected:
+    // The entries, in getter order; a subclass fills them in its constructor.
     QColor m_mainClientColor;
     QColor m_mainMenuBgColor;
     QColor m_activeTextColor;
@@ -182,6 +183,7 @@ protected:
     QColor m_frameRaiseColor;
     QColor m_fileMenuBarTextColor;
     QColor m_separatorColor;
+    // Spare colours without getters; the default palette leaves them unset.
     QColor m_reservedColor1;
     QColor m_reservedColor2;
     QColor m_reservedColor3;
@@ -240,6 +242,7 @@ protected:
     QPixmap m_comboBox;
     QPixmap m_tabBarTabShape;
     QPixmap m_tooltipBack;
+    // Image without a getter: the terminate button ("TerminateButton.png").
     QPixmap m_terminateButton;
     QColor m_backstageSimpleButtonColor;
     QColor m_backstageBlackTextColor;
@@ -251,6 +254,7 @@ protected:
     QColor m_backstageBlueHoverColor;
     QColor m_backstageBluePressedColor;
     QColor m_backstageSeparatorColor;
+    // Colours the backstage style sheets are written with, without getters.
     QColor m_backstageScrollHandleHoverColor;
     QColor m_backstageScrollGrooveColor;
     QColor m_backstageTextColor;
