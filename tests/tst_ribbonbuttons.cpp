@@ -535,6 +535,15 @@ void tst_RibbonButtons::normalButtonFollowsFirstAction()
     first->setChecked(false);
     first->setEnabled(false);
     QVERIFY(!button.isEnabled());
+    first->setEnabled(true);
+
+    // A removed action is no longer run.
+    button.removeAction(first);
+    QTest::mouseClick(&button, Qt::LeftButton);
+    QCOMPARE(triggered.count(), 1);
+    const bool shown = button.isChecked();
+    first->setChecked(!shown);
+    QCOMPARE(button.isChecked(), shown);
 }
 
 void tst_RibbonButtons::symbolButton()

@@ -46,6 +46,12 @@ void RibbonButtonNormal::actionEvent(QActionEvent *event)
             }
         }
     }
+    if (event->type() == QEvent::ActionRemoved) {
+        // A removed action is no longer run by the button. Also reached while the action
+        // is being destroyed; the disconnection only needs its QObject part.
+        disconnect(this, nullptr, event->action(), nullptr);
+        disconnect(event->action(), nullptr, this, nullptr);
+    }
     update();
 }
 

@@ -91,8 +91,8 @@ struct RibbonCategory::Priv
     RibbonCategoryAction *action() const { return alive ? categoryAction : nullptr; }
     RibbonCategoryLayout *layout = nullptr;
     QMap<RibbonAction *, QPointer<QWidget>> widgets;
-    QString caption;            // the caption measured for the size hint
-    mutable QSize sizeHint;     // invalid until computed
+    QString caption;
+    mutable int captionWidth = -1; // measured on demand; -1 until then
 
     // Background bands, recomputed on resize.
     RibbonSlices topEdge;
@@ -169,28 +169,28 @@ RibbonCategoryLayout *RibbonCategory::categoryLayout() const
 
 QSize RibbonCategory::sizeHint() const
 {
-    if (!d->sizeHint.isValid()) {
-        const QSize layoutSize = d->layout->sizeHint();
-        const int captionWidth = fontMetrics().horizontalAdvance(d->caption) + 6;
-        d->sizeHint = QSize(qMax(qMax(layoutSize.width(), captionWidth), 50), layoutSize.height());
-    }
-    return d->sizeHint;
+    if (d->captionWidth < 0)
+        d->captionWidth = fontMetrics().horizontalAdvance(d->caption) + 6;
+    const QSize layoutSize = d->layout->sizeHint();
+    return QSize(qMax(qMax(layoutSize.width(), d->captionWidth), 50), layoutSize.height());
 }
 
 void RibbonCategory::invalidateSizeHint()
 {
-    d->sizeHint = QSize();
+    d->captionWidth = -1;
     updateGeometry();
 }
 
 void RibbonCategory::addRibbonAction(RibbonAction *action)
 {
-    QWidget::addAction(action);
+    if (action)
+        QWidget::addAction(action);
 }
 
 void RibbonCategory::removeRibbonAction(RibbonAction *action)
 {
-    QWidget::removeAction(action);
+    if (action)
+        QWidget::removeAction(action);
 }
 
 void RibbonCategory::actionEvent(QActionEvent *event)
@@ -210,7 +210,7 @@ void RibbonCategory::actionEvent(QActionEvent *event)
         if (isVisible())
             control->show();
         d->layout->addWidget(control);
-        invalidateSizeHint();
+        updateGeometry();
         update();
         break;
     }
@@ -224,7 +224,7 @@ void RibbonCategory::actionEvent(QActionEvent *event)
             d->layout->removeWidget(control);
             delete control;
         }
-        invalidateSizeHint();
+        updateGeometry();
         update();
         break;
     }
