@@ -564,6 +564,40 @@ private slots:
         QTRY_VERIFY(!openMenu());
     }
 
+    void emptyMenuDoesNotLockTheButton_data()
+    {
+        QTest::addColumn<int>("popupType");
+        QTest::newRow("menu") << int(RibbonCatMenuAction::PopupMenu);
+        QTest::newRow("view popup") << int(RibbonCatMenuAction::PopupView);
+    }
+
+    void emptyMenuDoesNotLockTheButton()
+    {
+        QFETCH(int, popupType);
+        RibbonCatMenuAction action(QStringLiteral("Empty"), RibbonCatMenuAction::MenuTypeButton,
+                                   RibbonCatMenuAction::MenuSizeMedium,
+                                   RibbonCatMenuAction::ePopupType(popupType), nullptr);
+        Host host(action);
+        QVERIFY(host.exposed());
+        press(host.button, QPoint(3, 3));
+        release(host.button, QPoint(3, 3));
+        // A menu without entries does not open at all.
+        if (popupType == RibbonCatMenuAction::PopupMenu)
+            QVERIFY(!QApplication::activePopupWidget());
+        if (QWidget *popup = QApplication::activePopupWidget())
+            QTest::keyClick(popup, Qt::Key_Escape);
+        QTRY_VERIFY(!QApplication::activePopupWidget());
+        QTRY_COMPARE(topLevelCount(), m_topLevels + 1);
+
+        // Items arrive later: the button opens them.
+        action.addAction(m_plain.get(), false);
+        action.addTopAction(m_plain.get());
+        press(host.button, QPoint(3, 3));
+        QTRY_VERIFY(openMenu());
+        QTest::keyClick(openMenu(), Qt::Key_Escape);
+        QTRY_VERIFY(!openMenu());
+    }
+
     void handedOverPressOpensTheDropDown()
     {
         RibbonCatMenuAction action(QStringLiteral("Colours"), RibbonCatMenuAction::MenuTypeButton,
@@ -611,6 +645,24 @@ private slots:
         QPointer<QMenu> popup = openMenu();
         host.reset();
         QTRY_VERIFY(!popup);
+    }
+
+    void popupDeletedWhileOpen()
+    {
+        RibbonCatMenuAction action(QStringLiteral("Layout"), RibbonCatMenuAction::MenuTypeButton,
+                                   RibbonCatMenuAction::MenuSizeSmall, RibbonCatMenuAction::PopupMenu, nullptr);
+        addItems(action);
+        Host host(action);
+        QVERIFY(host.exposed());
+        press(host.button, QPoint(3, 3));
+        QTRY_VERIFY(openMenu());
+        delete openMenu();
+        release(host.button, QPoint(3, 3));
+        QVERIFY(!openMenu());
+        press(host.button, QPoint(3, 3));
+        QTRY_VERIFY(openMenu());
+        QTest::keyClick(openMenu(), Qt::Key_Escape);
+        QTRY_VERIFY(!openMenu());
     }
 
     void buttonOutlivesItsAction()

@@ -399,6 +399,8 @@ void RibbonCatMenuButtonBPriv::watchPopup(QWidget *popup)
     popup->installEventFilter(this);
     connect(popup, SIGNAL(aboutToHide()), popup, SLOT(close()));
     connect(popup, SIGNAL(aboutToHide()), this, SLOT(popupClosed()));
+    // A popup deleted while open announces no hiding; the button must not stay locked.
+    connect(popup, SIGNAL(destroyed()), this, SLOT(popupClosed()));
 }
 
 QWidget *RibbonCatMenuButtonBPriv::openMenu()
@@ -406,6 +408,11 @@ QWidget *RibbonCatMenuButtonBPriv::openMenu()
     RibbonCatMenuAction *action = owner.action();
     auto *menu = new QMenu;
     action->fillMenu(*menu);
+    // A menu without entries would show as an empty frame.
+    if (menu->actions().isEmpty()) {
+        delete menu;
+        return nullptr;
+    }
     watchPopup(menu);
 
     const bool large = isLarge();
@@ -474,6 +481,8 @@ bool RibbonCatMenuButtonBPriv::eventFilter(QObject *watched, QEvent *event)
 
 void RibbonCatMenuButtonBPriv::popupClosed()
 {
+    if (!popupShown)
+        return;
     menuPressed = false;
     popupShown = false;
     m_popup = nullptr;
