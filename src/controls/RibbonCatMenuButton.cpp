@@ -514,7 +514,9 @@ void RibbonCatMenuButtonBPriv::paintRow(QPainter &painter)
     const RibbonAction *defaultAction = action->defaultAction();
     const QPixmap &captionImage = style.horizontalMenuButtonCaption();
     const QPixmap &arrowImage = style.horizontalMenuButtonMenu();
-    const int rowHeight = scaled(RowHeight);
+    // S(22) for a medium button; a small one is 22 pixels high at every resolution and
+    // its background must not be cut off.
+    const int rowHeight = qMin(scaled(RowHeight), h);
 
     int captionState = NoState;
     int arrowState = NoState;
