@@ -612,6 +612,7 @@ private slots:
 
         QSignalSpy changed(&action, SIGNAL(fontSizeChanged(int)));
         action.updateFontSize(0);
+        action.updateFontSize(-4);
         QCOMPARE(combo->itemText(0), QStringLiteral("11"));
 
         action.updateFontSize(14);

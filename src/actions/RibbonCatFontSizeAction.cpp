@@ -110,7 +110,8 @@ void RibbonCatFontSizeAction::applySizeFrom(const QComboBox *combo)
 
 void RibbonCatFontSizeAction::updateFontSize(int size)
 {
-    if (size == 0)
+    // 0 means "no single size" (a selection of mixed sizes); negative sizes are nonsense.
+    if (size <= 0)
         return;
     const QString text = QString::number(size);
     for (QComboBox *picker : liveCombos()) {

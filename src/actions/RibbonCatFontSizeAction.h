@@ -32,7 +32,7 @@ public slots:
     // Takes the size shown by the picker that sent the change (the index is not
     // used); a new size is announced and written into the first entry of every picker.
     void setFontSize(int index);
-    // Shows the given size in the pickers; 0 does nothing.
+    // Shows the given size in the pickers; 0 (or a negative size) does nothing.
     void updateFontSize(int size);
 
 signals:
