@@ -89,6 +89,7 @@ struct RibbonCategory::Priv
     QPointer<QObject> alive;
 
     RibbonCategoryAction *action() const { return alive ? categoryAction : nullptr; }
+
     RibbonCategoryLayout *layout = nullptr;
     QMap<RibbonAction *, QPointer<QWidget>> widgets;
     QString caption;
