@@ -14,6 +14,7 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QSpinBox>
 #include <QStyleFactory>
 #include <QStyleOption>
 #include <QTabWidget>
@@ -148,6 +149,7 @@ private slots:
     void comboBoxRows();
     void comboBoxFallback_data();
     void comboBoxFallback();
+    void spinBoxButtons();
     void scrollBarThumb_data();
     void scrollBarThumb();
     void toolTipPanel();
@@ -359,6 +361,31 @@ void TestRibbonQStyle::comboBoxFallback()
     const QImage image = drawComplex(m_flatStyle.data(), QStyle::CC_ComboBox, option, &combo);
     QCOMPARE(image.pixel(0, 11), outline.rgb());
     QCOMPARE(image.pixel(119, 11), outline.rgb());
+}
+
+void TestRibbonQStyle::spinBoxButtons()
+{
+    const RibbonStyle &s = appPalette();
+    QSpinBox spin;
+    QStyleOptionSpinBox option;
+    option.initFrom(&spin);
+    option.rect = QRect(0, 0, 80, 24);
+    option.frame = true;
+    option.subControls = QStyle::SC_All;
+    option.stepEnabled = QAbstractSpinBox::StepUpEnabled;
+    option.activeSubControls = QStyle::SC_SpinBoxUp;
+    option.state |= QStyle::State_MouseOver;
+    const QImage image = drawComplex(m_style.data(), QStyle::CC_SpinBox, option, &spin);
+
+    QCOMPARE(image.pixel(0, 12), s.backstageBlueBorderHoverColor().rgb());
+    const QRect up = m_style->subControlRect(QStyle::CC_SpinBox, &option, QStyle::SC_SpinBoxUp, &spin);
+    const QRect down = m_style->subControlRect(QStyle::CC_SpinBox, &option, QStyle::SC_SpinBoxDown, &spin);
+    // The hovered button is lit and its arrow drawn in the text colour; the other
+    // button cannot step and shows a disabled arrow on the plain field.
+    QVERIFY(containsColor(image, up, s.backstageBlueHoverColor()));
+    QVERIFY(containsColor(image, up, s.highlightedCategoryTextColor()));
+    QVERIFY(!containsColor(image, down, s.backstageBlueHoverColor()));
+    QVERIFY(containsColor(image, down, s.disabledCategoryTextColor()));
 }
 
 void TestRibbonQStyle::scrollBarThumb_data()

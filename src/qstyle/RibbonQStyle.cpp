@@ -337,6 +337,12 @@ void RibbonQStyle::drawComplexControl(ComplexControl control, const QStyleOption
                 return;
             }
             break;
+        case CC_SpinBox:
+            if (qstyleoption_cast<const QStyleOptionSpinBox *>(option)) {
+                drawSpinBox(option, painter, widget);
+                return;
+            }
+            break;
         default:
             break;
         }
@@ -598,6 +604,57 @@ void RibbonQStyle::drawComboBox(const QStyleOptionComplex *option, QPainter *pai
 
     if (combo->subControls & SC_ComboBoxArrow)
         drawFilledArrow(painter, arrowRect, Qt::DownArrow, textColor(*style, combo));
+    painter->restore();
+}
+
+void RibbonQStyle::drawSpinBox(const QStyleOptionComplex *option, QPainter *painter, const QWidget *widget) const
+{
+    const auto *spin = qstyleoption_cast<const QStyleOptionSpinBox *>(option);
+    const RibbonStyle *style = ribbonStyle();
+    const State state = spin->state;
+    const bool enabled = state & State_Enabled;
+
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing, false);
+    if (spin->frame) {
+        const QColor fill = enabled ? spin->palette.color(QPalette::Base) : style->mainClientColor();
+        const QColor &outline = !enabled ? style->separatorColor()
+            : (state & State_HasFocus) ? style->frameBorderColor()
+            : (state & State_MouseOver) ? style->backstageBlueBorderHoverColor()
+                                        : style->backstageGrayBorderColor();
+        drawFlatPanel(painter, spin->rect, fill, outline);
+    }
+    if (spin->buttonSymbols != QAbstractSpinBox::NoButtons) {
+        const bool plusMinus = spin->buttonSymbols == QAbstractSpinBox::PlusMinus;
+        const auto drawButton = [&](SubControl part, QAbstractSpinBox::StepEnabledFlag step, Qt::ArrowType arrow) {
+            if (!(spin->subControls & part))
+                return;
+            QRect rect = proxy()->subControlRect(CC_SpinBox, spin, part, widget);
+            if (spin->frame)
+                rect = rect.intersected(spin->rect.adjusted(1, 1, -1, -1));
+            const bool active = enabled && (spin->stepEnabled & step);
+            if (active && (spin->activeSubControls & part)) {
+                const bool pressed = state & State_Sunken;
+                fillRect(painter, rect, pressed ? style->backstageBluePressedColor() : style->backstageBlueHoverColor());
+            }
+            const QColor &color = active ? style->highlightedCategoryTextColor() : style->disabledCategoryTextColor();
+            if (plusMinus) {
+                const int extent = scaledHeight(7) | 1;
+                QRect bar(0, 0, extent, 1);
+                bar.moveCenter(rect.center());
+                fillRect(painter, bar, color);
+                if (arrow == Qt::UpArrow) {
+                    QRect upright(0, 0, 1, extent);
+                    upright.moveCenter(rect.center());
+                    fillRect(painter, upright, color);
+                }
+            } else {
+                drawFilledArrow(painter, rect, arrow, color);
+            }
+        };
+        drawButton(SC_SpinBoxUp, QAbstractSpinBox::StepUpEnabled, Qt::UpArrow);
+        drawButton(SC_SpinBoxDown, QAbstractSpinBox::StepDownEnabled, Qt::DownArrow);
+    }
     painter->restore();
 }
 

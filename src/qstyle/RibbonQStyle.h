@@ -10,10 +10,10 @@ namespace zel {
 class RibbonStyle;
 
 // Paints the standard Qt controls (menus, scroll bars, check boxes, radio buttons,
-// combo boxes, tool tips, tool-box tabs, tabs, tool buttons) in the palette's colours
-// and images over a base style, so that they sit well next to the ribbon. Whatever it
-// does not paint itself, and everything when the application is not a
-// RibbonApplication, is left to the base style.
+// combo and spin boxes, push buttons, line edits, tool tips, tool-box tabs, tabs, tool
+// buttons) in the palette's colours and images over a base style, so that they sit well
+// next to the ribbon. Whatever it does not paint itself, and everything while no
+// palette is available, is left to the base style.
 class ZELRIBBON_EXPORT RibbonQStyle : public QProxyStyle
 {
     Q_OBJECT
@@ -43,6 +43,7 @@ private:
     void drawMenuItem(const QStyleOption *option, QPainter *painter, const QWidget *widget) const;
     void drawScrollBar(const QStyleOptionComplex *option, QPainter *painter, const QWidget *widget) const;
     void drawComboBox(const QStyleOptionComplex *option, QPainter *painter, const QWidget *widget) const;
+    void drawSpinBox(const QStyleOptionComplex *option, QPainter *painter, const QWidget *widget) const;
     void drawCheckIndicator(const QStyleOption *option, QPainter *painter, bool radio) const;
 
     // The palette in use: the one given at construction while it lives, else the
