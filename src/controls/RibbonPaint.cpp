@@ -47,6 +47,14 @@ void RibbonSlices::draw(QPainter &painter, const QPixmap &pixmap, int sourceOffs
 
 namespace RibbonPaint {
 
+void drawThreeSlice(QPainter &painter, const QRect &target, const QPixmap &pixmap,
+                    const QRect &source, int leftCap, int rightCap)
+{
+    RibbonSlices slices;
+    slices.set(target, source, QMargins(leftCap, 0, rightCap, 0));
+    slices.draw(painter, pixmap);
+}
+
 QColor textColor(bool enabled)
 {
     const RibbonStyle &style = RibbonApplication::theApp().ribbonStyle();

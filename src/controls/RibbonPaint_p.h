@@ -42,6 +42,11 @@ private:
 
 namespace RibbonPaint {
 
+// Draws a three-slice (caps of leftCap and rightCap pixels) of source onto target.
+// For one-off drawing; widgets that paint the same slices repeatedly keep a RibbonSlices.
+void drawThreeSlice(QPainter &painter, const QRect &target, const QPixmap &pixmap,
+                    const QRect &source, int leftCap, int rightCap);
+
 // The pen colour of a control's text and symbols by its enabled state.
 QColor textColor(bool enabled);
 
