@@ -166,7 +166,11 @@ void RibbonCatActionGroupWidget::mousePressEvent(QMouseEvent *event)
                 it->widget->setGeometry(cell);
                 QMouseEvent press(event->type(), event->localPos() - cell.topLeft(), event->windowPos(),
                                   event->screenPos(), event->button(), event->buttons(), event->modifiers());
+                // A popup run modally may end with this strip deleted.
+                QPointer<RibbonCatActionGroupWidget> self(this);
                 it->groupWidget->processEvents(&press);
+                if (!self)
+                    return;
             }
         }
     }
