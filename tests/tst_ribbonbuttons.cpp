@@ -433,6 +433,9 @@ void tst_RibbonButtons::stripCheckedCell()
     QTest::mouseMove(&strip, QPoint(33, 11));
     QTRY_VERIFY(strip.underMouse());
     QCOMPARE(grabImage(strip).pixel(33, 11), style.btnGroupMidle().toImage().pixel(11, 4 * 22 + 11));
+    QTest::mouseMove(&window, QPoint(110, 50));
+    QTRY_VERIFY(!strip.underMouse());
+    QCOMPARE(grabImage(strip).pixel(33, 11), style.btnGroupMidle().toImage().pixel(11, 3 * 22 + 11));
 
     // A disabled group shows every cell in the normal row.
     group.setEnabled(false);

@@ -149,6 +149,12 @@ void RibbonCatActionGroupWidget::actionEvent(QActionEvent *event)
     update();
 }
 
+void RibbonCatActionGroupWidget::leaveEvent(QEvent *event)
+{
+    QWidget::leaveEvent(event);
+    update();
+}
+
 void RibbonCatActionGroupWidget::mousePressEvent(QMouseEvent *event)
 {
     QWidget::mousePressEvent(event);

@@ -30,6 +30,8 @@ public:
 
 protected:
     void actionEvent(QActionEvent *event) override;
+    // The hovered cell changes its look; leaving must repaint it.
+    void leaveEvent(QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
