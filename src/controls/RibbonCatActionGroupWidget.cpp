@@ -48,8 +48,8 @@ struct RibbonCatActionGroupWidget::Priv
         IRibbonGroupWidget *groupWidget = nullptr;
     };
 
-    // The guard is typed QAction: a typed QPointer would downcast the group while it is
-    // being destroyed, when the removal event arrives.
+    // Guarded as a QAction: a QPointer of the derived type would downcast the group when
+    // its removal event arrives during its destruction.
     RibbonCatActionGroup *groupAction = nullptr;
     QPointer<QAction> alive;
     int pressedIndex = -1;

@@ -51,12 +51,13 @@ int largeCaptionWidth(const QFontMetrics &fm, const QString &text)
 
 struct RibbonCatSimpleButton::Priv
 {
-    // The guard is typed QAction: a typed QPointer would downcast the action while it is
-    // being destroyed, when the removal event arrives.
+    // Guarded as a QAction: a QPointer of the derived type would downcast the action when
+    // its removal event arrives during its destruction.
     RibbonCatSimpleAction *action = nullptr;
     QPointer<QAction> alive;
 
     RibbonCatSimpleAction *liveAction() const { return alive ? action : nullptr; }
+
     RibbonCatSimpleAction::eSize size = RibbonCatSimpleAction::SizeLarge;
     mutable QSize sizeHint; // invalid until computed
     RibbonSlices background;
