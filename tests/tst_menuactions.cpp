@@ -6,6 +6,7 @@
 #include "RibbonActionsContainer.h"
 #include "RibbonCatMenuAction.h"
 #include "RibbonCatSimpleAction.h"
+#include "RibbonCatSimpleButton.h"
 #include "RibbonMenuAction.h"
 #include "RibbonSimpleAction.h"
 #include "RibbonStringAction.h"
@@ -15,6 +16,7 @@
 #include <QMenu>
 #include <QPixmap>
 #include <QPointer>
+#include <QToolBar>
 #include <QWidget>
 
 using namespace zel;
@@ -48,6 +50,7 @@ private slots:
     void simpleActionsRelayActivation_data();
     void simpleActionsRelayActivation();
     void catSimpleActionMakesNoWidgetOutsideToolBars();
+    void catSimpleActionMakesButtonInToolBar();
     void menuItemsIgnoreNullAndDuplicates();
     void defaultAction();
     void aliasDefaultActionFollows();
@@ -108,6 +111,23 @@ void tst_MenuActions::catSimpleActionMakesNoWidgetOutsideToolBars()
     QWidget plain;
     plain.addAction(&action);
     QVERIFY(!action.requestWidget(&plain));
+}
+
+void tst_MenuActions::catSimpleActionMakesButtonInToolBar()
+{
+    RibbonCatSimpleAction action(QStringLiteral("toolbar command"), RibbonCatSimpleAction::SizeSmall, nullptr);
+    QToolBar bar;
+    bar.addAction(&action);
+    QWidget *widget = bar.widgetForAction(&action);
+    QVERIFY(qobject_cast<RibbonCatSimpleButton *>(widget));
+
+    QSignalSpy triggered(&action, SIGNAL(triggered()));
+    QTest::mouseClick(widget, Qt::LeftButton);
+    QCOMPARE(triggered.count(), 1);
+
+    QPointer<QWidget> guard(widget);
+    bar.removeAction(&action);
+    QVERIFY(guard.isNull() || !guard->isVisible());
 }
 
 void tst_MenuActions::menuItemsIgnoreNullAndDuplicates()

@@ -1,5 +1,9 @@
 #include "RibbonCatSimpleAction.h"
 
+#include "RibbonCatSimpleButton.h"
+
+#include <QToolBar>
+
 namespace zel {
 
 RibbonCatSimpleAction::RibbonCatSimpleAction(eSize size, QObject *parent)
@@ -72,8 +76,10 @@ RibbonCatSimpleAction::eSize RibbonCatSimpleAction::size() const
 
 QWidget *RibbonCatSimpleAction::createWidget(QWidget *parent)
 {
-    Q_UNUSED(parent)
-    // TODO: a QToolBar parent gets a RibbonCatSimpleButton once that button exists.
+    // Inside the ribbon the category makes the buttons itself; only a tool bar asks the
+    // action for its widget.
+    if (qobject_cast<QToolBar *>(parent))
+        return new RibbonCatSimpleButton(*this, parent);
     return nullptr;
 }
 
