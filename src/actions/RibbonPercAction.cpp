@@ -1,5 +1,6 @@
 #include "RibbonPercAction.h"
 
+#include <QPointer>
 #include <QtGlobal>
 
 namespace zel {
@@ -38,8 +39,11 @@ void RibbonPercAction::setPercentage(int p)
     if (stored != old)
         sendActionChangedEvt();
     if (p != old) {
+        // A receiver may delete the action.
+        QPointer<RibbonPercAction> self(this);
         emit percentageChanged(stored);
-        emit changed();
+        if (self)
+            emit changed();
     }
 }
 

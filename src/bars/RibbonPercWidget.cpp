@@ -38,6 +38,7 @@ QString percentText(int percentage)
 RibbonPercWidget::RibbonPercWidget(RibbonPercAction &action, QWidget *parent)
     : QWidget(parent)
     , m_action(&action)
+    , repeatTimer(this)
     , m_value(action.percentage())
     , m_text(percentText(action.percentage()))
 {
@@ -46,6 +47,8 @@ RibbonPercWidget::RibbonPercWidget(RibbonPercAction &action, QWidget *parent)
     setCursor(Qt::ArrowCursor);
     addAction(&action);
     connect(&action, SIGNAL(percentageChanged(int)), this, SLOT(displayPercentage(int)));
+    // Held buttons step at a steady pace, not a coarse one.
+    repeatTimer.setTimerType(Qt::PreciseTimer);
     connect(&repeatTimer, SIGNAL(timeout()), this, SLOT(timerEvent()));
 }
 
@@ -241,7 +244,8 @@ void RibbonPercWidget::mousePressEvent(QMouseEvent *event)
 
 void RibbonPercWidget::mouseMoveEvent(QMouseEvent *event)
 {
-    QWidget::mouseMoveEvent(event);
+    // Accepted, not passed on: a handler of the change may delete this widget, and an
+    // ignored event would travel on through it.
     m_mousePos = event->pos();
     m_mouseInside = rect().contains(m_mousePos);
     if (m_thumbPressed) {

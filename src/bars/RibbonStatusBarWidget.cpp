@@ -107,7 +107,6 @@ void RibbonStatusBarWidget::mouseReleaseEvent(QMouseEvent *event)
 
 void RibbonStatusBarWidget::mouseMoveEvent(QMouseEvent *event)
 {
-    QWidget::mouseMoveEvent(event);
     m_mousePos = event->pos();
     m_mouseInside = rect().contains(m_mousePos);
     update();

@@ -1,0 +1,621 @@
+#include "ZelTest.h"
+
+#include "RibbonCatMenuAction.h"
+#include "RibbonCatMenuButton.h"
+#include "RibbonMainWindow.h"
+#include "RibbonPercAction.h"
+#include "RibbonPercWidget.h"
+#include "RibbonProgressAction.h"
+#include "RibbonProgressWidget.h"
+#include "RibbonSimpleAction.h"
+#include "RibbonStatusBar.h"
+#include "RibbonStatusBarWidget.h"
+
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QProgressBar>
+#include <QTimer>
+
+using namespace zel;
+
+namespace {
+
+// A mouse move sent straight to the widget, with the left button held or not; it
+// reaches the widget whether or not the platform tracks a grab.
+void moveMouse(QWidget *widget, const QPoint &pos, Qt::MouseButtons buttons = Qt::LeftButton)
+{
+    QMouseEvent event(QEvent::MouseMove, pos, widget->mapToGlobal(pos), Qt::NoButton, buttons, Qt::NoModifier);
+    QApplication::sendEvent(widget, &event);
+}
+
+} // namespace
+
+class tst_StatusBar : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void setPercentage_data();
+    void setPercentage();
+    void dragThumb_data();
+    void dragThumb();
+    void thumbPositions_data();
+    void thumbPositions();
+    void pressOnTrackMovesThumb();
+    void clickSteps_data();
+    void clickSteps();
+    void heldPlusRepeats();
+    void heldMinusStopsAtMinimum();
+    void widgetsOfOneActionInStep();
+    void deleteActionInItsHandler();
+
+    void progressSetters();
+    void setProgressOrder();
+    void progressWidgetFollows();
+
+    void toggleButton();
+    void plainButtonTriggersOnRelease();
+
+    void widgetsByActionClass();
+    void removeActions();
+    void loginIcons();
+    void lifetimes_data();
+    void lifetimes();
+    void paintsStatusBarImage();
+
+private:
+    static QPoint thumbCentre(const RibbonPercWidget &w) { return QPoint(w.thumbPosition(w.value()), 10); }
+};
+
+void tst_StatusBar::setPercentage_data()
+{
+    QTest::addColumn<int>("start");
+    QTest::addColumn<int>("request");
+    QTest::addColumn<int>("stored");
+    QTest::addColumn<int>("emissions");
+
+    QTest::newRow("inside") << 100 << 150 << 150 << 1;
+    QTest::newRow("above maximum") << 100 << 500 << 400 << 1;
+    QTest::newRow("above maximum, already there") << 400 << 500 << 400 << 1;
+    QTest::newRow("below minimum") << 100 << -5 << 10 << 1;
+    QTest::newRow("same value") << 120 << 120 << 120 << 0;
+}
+
+void tst_StatusBar::setPercentage()
+{
+    QFETCH(int, start);
+    QFETCH(int, request);
+    QFETCH(int, stored);
+    QFETCH(int, emissions);
+
+    RibbonPercAction action(10, 400, start, nullptr);
+    QSignalSpy percentage(&action, SIGNAL(percentageChanged(int)));
+    QSignalSpy changed(&action, SIGNAL(changed()));
+    action.setPercentage(request);
+    QCOMPARE(action.percentage(), stored);
+    QCOMPARE(percentage.count(), emissions);
+    QCOMPARE(changed.count(), emissions);
+    if (emissions)
+        QCOMPARE(percentage.first().first().toInt(), stored);
+}
+
+void tst_StatusBar::dragThumb_data()
+{
+    QTest::addColumn<int>("x");
+    QTest::addColumn<int>("expected");
+
+    // Range 10..400: 40 pixels for 90 below 100 %, 40 pixels for 300 above.
+    QTest::newRow("minimum end") << 85 << 10;
+    QTest::newRow("maximum end") << 165 << 400;
+    QTest::newRow("beyond the left") << 20 << 10;
+    QTest::newRow("beyond the right") << 189 << 400;
+    QTest::newRow("tick") << 125 << 100;
+    QTest::newRow("snap from the left") << 121 << 100;
+    QTest::newRow("snap from the right") << 129 << 100;
+    QTest::newRow("left of the snap") << 120 << 89;
+    QTest::newRow("right of the snap") << 130 << 138;
+    QTest::newRow("low scale") << 100 << 44;
+    QTest::newRow("high scale") << 150 << 288;
+}
+
+void tst_StatusBar::dragThumb()
+{
+    QFETCH(int, x);
+    QFETCH(int, expected);
+
+    RibbonPercAction action(10, 400, 100, nullptr);
+    RibbonPercWidget widget(action, nullptr);
+    widget.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&widget));
+    QSignalSpy spy(&action, SIGNAL(percentageChanged(int)));
+
+    QTest::mousePress(&widget, Qt::LeftButton, Qt::NoModifier, thumbCentre(widget));
+    QCOMPARE(spy.count(), 0);
+    moveMouse(&widget, QPoint(x, 12));
+    QCOMPARE(widget.value(), expected);
+    QCOMPARE(action.percentage(), expected);
+    QCOMPARE(spy.count(), expected == 100 ? 0 : 1);
+    QCOMPARE(widget.text(), QString::number(expected) + QStringLiteral(" %"));
+    QTest::mouseRelease(&widget, Qt::LeftButton, Qt::NoModifier, QPoint(x, 12));
+    QCOMPARE(action.percentage(), expected);
+
+    // Without a held thumb a move only repaints.
+    moveMouse(&widget, QPoint(x == 85 ? 165 : 85, 12));
+    QCOMPARE(action.percentage(), expected);
+}
+
+void tst_StatusBar::thumbPositions_data()
+{
+    QTest::addColumn<int>("minimum");
+    QTest::addColumn<int>("maximum");
+    QTest::addColumn<int>("value");
+    QTest::addColumn<int>("x");
+
+    QTest::newRow("minimum") << 10 << 400 << 10 << 85;
+    QTest::newRow("100") << 10 << 400 << 100 << 125;
+    QTest::newRow("maximum") << 10 << 400 << 400 << 165;
+    QTest::newRow("low side truncates") << 10 << 400 << 99 << 124;
+    QTest::newRow("high side truncates") << 10 << 400 << 107 << 125;
+    QTest::newRow("high side") << 10 << 400 << 250 << 145;
+    QTest::newRow("range ends at 100") << 50 << 100 << 100 << 125;
+    QTest::newRow("range starts at 100") << 100 << 200 << 100 << 125;
+}
+
+void tst_StatusBar::thumbPositions()
+{
+    QFETCH(int, minimum);
+    QFETCH(int, maximum);
+    QFETCH(int, value);
+    QFETCH(int, x);
+
+    RibbonPercAction action(minimum, maximum, value, nullptr);
+    RibbonPercWidget widget(action, nullptr);
+    QCOMPARE(widget.thumbPosition(value), x);
+}
+
+void tst_StatusBar::pressOnTrackMovesThumb()
+{
+    RibbonPercAction action(10, 400, 100, nullptr);
+    RibbonPercWidget widget(action, nullptr);
+    widget.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&widget));
+
+    QTest::mousePress(&widget, Qt::LeftButton, Qt::NoModifier, QPoint(150, 10));
+    QCOMPARE(action.percentage(), 288);
+    // The thumb stays held for dragging.
+    moveMouse(&widget, QPoint(165, 10));
+    QCOMPARE(action.percentage(), 400);
+    QTest::mouseRelease(&widget, Qt::LeftButton, Qt::NoModifier, QPoint(165, 10));
+
+    // The text area is not part of the track.
+    QTest::mouseClick(&widget, Qt::LeftButton, Qt::NoModifier, QPoint(30, 10));
+    QCOMPARE(action.percentage(), 400);
+}
+
+void tst_StatusBar::clickSteps_data()
+{
+    QTest::addColumn<int>("start");
+    QTest::addColumn<bool>("plus");
+    QTest::addColumn<bool>("releaseOver");
+    QTest::addColumn<int>("expected");
+
+    QTest::newRow("plus") << 100 << true << true << 110;
+    QTest::newRow("minus") << 100 << false << true << 90;
+    QTest::newRow("plus near the maximum") << 395 << true << true << 400;
+    QTest::newRow("plus at the maximum") << 400 << true << true << 400;
+    QTest::newRow("minus near the minimum") << 15 << false << true << 10;
+    QTest::newRow("minus at the minimum") << 10 << false << true << 10;
+    QTest::newRow("released elsewhere") << 100 << true << false << 100;
+}
+
+void tst_StatusBar::clickSteps()
+{
+    QFETCH(int, start);
+    QFETCH(bool, plus);
+    QFETCH(bool, releaseOver);
+    QFETCH(int, expected);
+
+    RibbonPercAction action(10, 400, start, nullptr);
+    RibbonPercWidget widget(action, nullptr);
+    widget.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&widget));
+    QSignalSpy spy(&action, SIGNAL(percentageChanged(int)));
+
+    const QPoint button = plus ? QPoint(widget.width() - 10, 10) : QPoint(70, 10);
+    QTest::mousePress(&widget, Qt::LeftButton, Qt::NoModifier, button);
+    QTest::mouseRelease(&widget, Qt::LeftButton, Qt::NoModifier, releaseOver ? button : QPoint(125, 10));
+    QCOMPARE(action.percentage(), expected);
+    QCOMPARE(widget.value(), expected);
+    QCOMPARE(spy.count(), expected == start ? 0 : 1);
+}
+
+void tst_StatusBar::heldPlusRepeats()
+{
+    RibbonPercAction action(10, 400, 100, nullptr);
+    RibbonPercWidget widget(action, nullptr);
+    widget.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&widget));
+    auto *timer = widget.findChild<QTimer *>();
+    QVERIFY(timer);
+
+    const QPoint plus(widget.width() - 10, 10);
+    QElapsedTimer clock;
+    clock.start();
+    QTest::mousePress(&widget, Qt::LeftButton, Qt::NoModifier, plus);
+    QCOMPARE(action.percentage(), 100);
+    QCOMPARE(timer->interval(), 200);
+
+    // First step after the first delay, not before.
+    QTRY_COMPARE_WITH_TIMEOUT(action.percentage(), 110, 5000);
+    const qint64 first = clock.elapsed();
+    QVERIFY2(first >= 195, qPrintable(QString::number(first)));
+    QCOMPARE(timer->interval(), 50);
+
+    // Then one step per repeat interval: two more steps take at least two intervals.
+    QTRY_COMPARE_WITH_TIMEOUT(action.percentage(), 130, 5000);
+    const qint64 third = clock.elapsed();
+    QVERIFY2(third - first >= 95, qPrintable(QString::number(third - first)));
+
+    // The release over the button adds one step more and stops the repeat.
+    QTest::mouseRelease(&widget, Qt::LeftButton, Qt::NoModifier, plus);
+    const int released = action.percentage();
+    QVERIFY(released >= 140);
+    QVERIFY(!timer->isActive());
+    QTest::qWait(120);
+    QCOMPARE(action.percentage(), released);
+
+    // A second hold starts again with the first delay.
+    QTest::mousePress(&widget, Qt::LeftButton, Qt::NoModifier, plus);
+    QCOMPARE(timer->interval(), 200);
+    QTest::mouseRelease(&widget, Qt::LeftButton, Qt::NoModifier, plus);
+}
+
+void tst_StatusBar::heldMinusStopsAtMinimum()
+{
+    RibbonPercAction action(10, 400, 30, nullptr);
+    RibbonPercWidget widget(action, nullptr);
+    widget.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&widget));
+    QSignalSpy spy(&action, SIGNAL(percentageChanged(int)));
+
+    QTest::mousePress(&widget, Qt::LeftButton, Qt::NoModifier, QPoint(70, 10));
+    QTRY_COMPARE_WITH_TIMEOUT(action.percentage(), 10, 5000);
+    QTest::qWait(120);
+    QTest::mouseRelease(&widget, Qt::LeftButton, Qt::NoModifier, QPoint(70, 10));
+    QCOMPARE(action.percentage(), 10);
+    // 30 -> 20 -> 10, and nothing while pinned at the minimum.
+    QCOMPARE(spy.count(), 2);
+}
+
+void tst_StatusBar::widgetsOfOneActionInStep()
+{
+    RibbonPercAction action(10, 400, 100, nullptr);
+    RibbonPercWidget first(action, nullptr);
+    RibbonPercWidget second(action, nullptr);
+    first.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&first));
+
+    QTest::mouseClick(&first, Qt::LeftButton, Qt::NoModifier, QPoint(first.width() - 10, 10));
+    QCOMPARE(second.value(), 110);
+    QCOMPARE(second.text(), QStringLiteral("110 %"));
+
+    action.setPercentage(250);
+    QCOMPARE(first.value(), 250);
+    QCOMPARE(second.value(), 250);
+    QCOMPARE(first.text(), QStringLiteral("250 %"));
+
+    // A grab tells the two positions apart.
+    RibbonPercAction other(10, 400, 100, nullptr);
+    RibbonPercWidget reference(other, nullptr);
+    reference.resize(second.size());
+    second.resize(reference.size());
+    QVERIFY(second.grab().toImage() != reference.grab().toImage());
+    other.setPercentage(250);
+    QCOMPARE(second.grab().toImage(), reference.grab().toImage());
+
+    action.setEnabled(false);
+    QVERIFY(!first.isEnabled());
+    QVERIFY(!second.isEnabled());
+}
+
+void tst_StatusBar::deleteActionInItsHandler()
+{
+    auto *action = new RibbonPercAction(10, 400, 100, nullptr);
+    RibbonPercWidget widget(*action, nullptr);
+    widget.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&widget));
+    connect(action, &RibbonPercAction::percentageChanged, action, [action] { delete action; });
+
+    QTest::mousePress(&widget, Qt::LeftButton, Qt::NoModifier, thumbCentre(widget));
+    moveMouse(&widget, QPoint(150, 10));
+    QVERIFY(!widget.action());
+    moveMouse(&widget, QPoint(160, 10));
+    QTest::mouseRelease(&widget, Qt::LeftButton, Qt::NoModifier, QPoint(160, 10));
+    QVERIFY(!widget.grab().isNull());
+}
+
+void tst_StatusBar::progressSetters()
+{
+    RibbonProgressAction action(QStringLiteral("Idle"), nullptr);
+    QCOMPARE(action.minimum(), 0);
+    QCOMPARE(action.maximum(), 1);
+    QCOMPARE(action.value(), 0);
+    QVERIFY(action.isGrabEnabled());
+
+    QSignalSpy value(&action, SIGNAL(progressValueChanged(int)));
+    QSignalSpy text(&action, SIGNAL(progressTextChanged(QString)));
+    QSignalSpy range(&action, SIGNAL(progressRangeChanged()));
+
+    action.setProgressValue(1);
+    action.setProgressValue(1);
+    action.setProgressText(QStringLiteral("Saving"));
+    action.setProgressText(QStringLiteral("Saving"));
+    action.setRange(0, 10);
+    action.setRange(0, 10);
+    QCOMPARE(value.count(), 1);
+    QCOMPARE(text.count(), 1);
+    QCOMPARE(text.first().first().toString(), QStringLiteral("Saving"));
+    QCOMPARE(range.count(), 1);
+
+    // setProgress on the same range announces only the value.
+    action.setProgress(3, 10);
+    QCOMPARE(range.count(), 1);
+    QCOMPARE(value.count(), 2);
+    QCOMPARE(value.last().first().toInt(), 3);
+}
+
+void tst_StatusBar::setProgressOrder()
+{
+    RibbonProgressAction action(2, 10, 0, QStringLiteral("Copying"), nullptr);
+    QStringList order;
+    connect(&action, &RibbonProgressAction::progressRangeChanged, [&] { order << QStringLiteral("range"); });
+    connect(&action, &RibbonProgressAction::progressValueChanged,
+            [&](int v) { order << QStringLiteral("value %1 of %2").arg(v).arg(action.maximum()); });
+
+    // A minimum other than 0 is reset even when the total stays.
+    action.setProgress(3, 10);
+    action.setProgress(5, 20);
+    QCOMPARE(order, QStringList({QStringLiteral("range"), QStringLiteral("value 3 of 10"),
+                                 QStringLiteral("range"), QStringLiteral("value 5 of 20")}));
+    QCOMPARE(action.minimum(), 0);
+}
+
+void tst_StatusBar::progressWidgetFollows()
+{
+    RibbonProgressAction action(0, 10, 4, QStringLiteral("Saving"), nullptr);
+    RibbonProgressWidget widget(action, nullptr);
+    widget.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&widget));
+    QCOMPARE(widget.label()->text(), QStringLiteral("Saving"));
+    QVERIFY(!widget.progressBar()->isTextVisible());
+    QCOMPARE(widget.progressBar()->maximum(), 10);
+    QCOMPARE(widget.progressBar()->value(), 4);
+
+    const QImage before = widget.grab().toImage();
+    action.setProgressValue(9);
+    QCOMPARE(widget.progressBar()->value(), 9);
+    const QImage afterValue = widget.grab().toImage();
+    QVERIFY(afterValue != before);
+
+    action.setProgressText(QStringLiteral("Saved"));
+    QCOMPARE(widget.label()->text(), QStringLiteral("Saved"));
+    QVERIFY(widget.grab().toImage() != afterValue);
+
+    // A wider range keeps the value the action holds.
+    action.setProgress(9, 100);
+    QCOMPARE(widget.progressBar()->maximum(), 100);
+    QCOMPARE(widget.progressBar()->value(), 9);
+
+    action.setEnabled(false);
+    QVERIFY(!widget.isEnabled());
+}
+
+void tst_StatusBar::toggleButton()
+{
+    RibbonSimpleAction action(QStringLiteral("Print Layout"), nullptr);
+    action.setCheckable(true);
+    action.setToolTip(QStringLiteral("Print Layout view"));
+    RibbonStatusBarWidget widget(action, nullptr);
+    widget.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&widget));
+    QCOMPARE(widget.toolTip(), QStringLiteral("Print Layout view"));
+    QCOMPARE(widget.sizeHint(), QSize(22, 22));
+
+    moveMouse(&widget, QPoint(30, 30));
+    const QImage unchecked = widget.grab().toImage();
+    QSignalSpy triggered(&action, SIGNAL(triggered()));
+    // Released outside the button, the click still counts.
+    QTest::mousePress(&widget, Qt::LeftButton, Qt::NoModifier, QPoint(10, 10));
+    QTest::mouseRelease(&widget, Qt::LeftButton, Qt::NoModifier, QPoint(40, 40));
+    QCOMPARE(triggered.count(), 1);
+    QVERIFY(action.isChecked());
+    const QImage checked = widget.grab().toImage();
+    QVERIFY(checked != unchecked);
+
+    QTest::mouseClick(&widget, Qt::LeftButton, Qt::NoModifier, QPoint(10, 10));
+    QVERIFY(!action.isChecked());
+    moveMouse(&widget, QPoint(30, 30));
+    QCOMPARE(widget.grab().toImage(), unchecked);
+
+    // Checked by the host: the button follows.
+    action.setChecked(true);
+    QCOMPARE(widget.grab().toImage(), checked);
+}
+
+void tst_StatusBar::plainButtonTriggersOnRelease()
+{
+    RibbonSimpleAction action(QStringLiteral("Refresh"), nullptr);
+    RibbonStatusBarWidget widget(action, nullptr);
+    widget.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&widget));
+    moveMouse(&widget, QPoint(30, 30));
+    const QImage resting = widget.grab().toImage();
+
+    QSignalSpy triggered(&action, SIGNAL(triggered()));
+    QTest::mousePress(&widget, Qt::LeftButton, Qt::NoModifier, QPoint(10, 10));
+    QCOMPARE(triggered.count(), 0);
+    QVERIFY(widget.grab().toImage() != resting);
+    QTest::mouseRelease(&widget, Qt::LeftButton, Qt::NoModifier, QPoint(10, 10));
+    QCOMPARE(triggered.count(), 1);
+    moveMouse(&widget, QPoint(30, 30));
+    QCOMPARE(widget.grab().toImage(), resting);
+}
+
+void tst_StatusBar::widgetsByActionClass()
+{
+    RibbonMainWindow window;
+    RibbonStatusBar bar(window);
+    QCOMPARE(bar.mainWindow(), &window);
+    QCOMPARE(bar.height(), 23);
+    QSignalSpy changed(&bar, SIGNAL(statusBarChanged()));
+
+    RibbonSimpleAction first(QStringLiteral("Read Mode"), nullptr);
+    RibbonSimpleAction second(QStringLiteral("Web Layout"), nullptr);
+    RibbonProgressAction progress(QStringLiteral("Saving"), nullptr);
+    RibbonPercAction zoom(10, 400, 100, nullptr);
+    RibbonCatMenuAction menu(QStringLiteral("Page 1"), RibbonCatMenuAction::MenuTypeButton,
+                             RibbonCatMenuAction::MenuSizeMedium, RibbonCatMenuAction::PopupMenu, nullptr);
+    QAction plain(QStringLiteral("Plain"), nullptr);
+
+    for (QAction *a : {static_cast<QAction *>(&first), static_cast<QAction *>(&zoom),
+                       static_cast<QAction *>(&second), static_cast<QAction *>(&progress),
+                       static_cast<QAction *>(&menu), &plain})
+        bar.addAction(a);
+    QCOMPARE(changed.count(), 5);
+    QVERIFY(!bar.widgetForAction(&plain));
+    QVERIFY(qobject_cast<RibbonStatusBarWidget *>(bar.widgetForAction(&first)));
+    QVERIFY(qobject_cast<RibbonProgressWidget *>(bar.widgetForAction(&progress)));
+    QVERIFY(qobject_cast<RibbonPercWidget *>(bar.widgetForAction(&zoom)));
+    QVERIFY(qobject_cast<RibbonCatMenuButton *>(bar.widgetForAction(&menu)));
+
+    bar.setParent(nullptr);
+    bar.resize(900, bar.height());
+    bar.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&bar));
+    // Right area: the last added of progress and toggles first, the zoom at the end.
+    const int x1 = bar.widgetForAction(&progress)->x();
+    const int x2 = bar.widgetForAction(&second)->x();
+    const int x3 = bar.widgetForAction(&first)->x();
+    const int x4 = bar.widgetForAction(&zoom)->x();
+    QVERIFY(x1 < x2 && x2 < x3 && x3 < x4);
+    QVERIFY(bar.widgetForAction(&menu)->geometry().right() < x1);
+    QVERIFY(bar.extensionsWidth() >= 22 + 22 + 160 + 190);
+    QCOMPARE(bar.popupLayoutWidth(), bar.loginLayoutWidth() + bar.widgetForAction(&menu)->width() + 10 + 5);
+}
+
+void tst_StatusBar::removeActions()
+{
+    RibbonMainWindow window;
+    RibbonStatusBar bar(window);
+    RibbonSimpleAction toggle(QStringLiteral("Read Mode"), nullptr);
+    QAction plain(QStringLiteral("Plain"), nullptr);
+    bar.addAction(&toggle);
+    bar.addAction(&plain);
+    QPointer<QWidget> widget = bar.widgetForAction(&toggle);
+    QVERIFY(widget);
+
+    QSignalSpy changed(&bar, SIGNAL(statusBarChanged()));
+    bar.removeAction(&plain);
+    QCOMPARE(changed.count(), 0);
+    bar.removeAction(&toggle);
+    QCOMPARE(changed.count(), 1);
+    QVERIFY(!widget);
+    QVERIFY(!bar.widgetForAction(&toggle));
+
+    // Added again: a fresh widget, exactly one.
+    bar.addAction(&toggle);
+    bar.addAction(&toggle);
+    QCOMPARE(bar.findChildren<RibbonStatusBarWidget *>().size(), 1);
+}
+
+void tst_StatusBar::loginIcons()
+{
+    RibbonMainWindow window;
+    RibbonStatusBar bar(window);
+    bar.setParent(nullptr);
+    bar.resize(600, bar.height());
+    bar.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&bar));
+    QCOMPARE(bar.loginLayoutWidth(), 0);
+
+    QPointer<QLabel> icon = new QLabel;
+    icon->setFixedSize(16, 16);
+    bar.addLoginStatusIcon(icon);
+    bar.addLoginStatusIcon(icon);
+    bar.addLoginStatusIcon(nullptr);
+    QCOMPARE(icon->parentWidget(), &bar);
+    QTRY_COMPARE(bar.loginLayoutWidth(), 16);
+
+    // A widget outside the login area is not the bar's to delete.
+    QLabel stranger;
+    bar.removeLoginStatusIcon(&stranger);
+    bar.removeLoginStatusIcon(nullptr);
+    QVERIFY(icon);
+
+    bar.removeLoginStatusIcon(icon);
+    QVERIFY(!icon);
+    QTRY_COMPARE(bar.loginLayoutWidth(), 0);
+}
+
+void tst_StatusBar::lifetimes_data()
+{
+    QTest::addColumn<bool>("actionsFirst");
+    QTest::newRow("actions before widgets") << true;
+    QTest::newRow("widgets before actions") << false;
+}
+
+void tst_StatusBar::lifetimes()
+{
+    QFETCH(bool, actionsFirst);
+
+    auto *window = new RibbonMainWindow;
+    auto *bar = new RibbonStatusBar(*window);
+    QSignalSpy changed(bar, SIGNAL(statusBarChanged()));
+    QList<QAction *> actions;
+    actions << new RibbonSimpleAction(QStringLiteral("Toggle"), nullptr)
+            << new RibbonProgressAction(QStringLiteral("Saving"), nullptr)
+            << new RibbonPercAction(10, 400, 100, nullptr)
+            << new RibbonCatMenuAction(QStringLiteral("Pages"), RibbonCatMenuAction::MenuTypeButton,
+                                       RibbonCatMenuAction::MenuSizeSmall, RibbonCatMenuAction::PopupMenu, nullptr);
+    for (QAction *a : qAsConst(actions))
+        bar->addAction(a);
+    // A second zoom slider for the same action, outside the bar.
+    auto *extra = new RibbonPercWidget(*static_cast<RibbonPercAction *>(actions.at(2)), nullptr);
+    QPointer<QWidget> zoomWidget = bar->widgetForAction(actions.at(2));
+    window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(window));
+
+    if (actionsFirst) {
+        qDeleteAll(actions);
+        QVERIFY(!zoomWidget);
+        QCOMPARE(changed.count(), 8);
+        QVERIFY(!extra->action());
+        extra->grab();
+        delete extra;
+        delete window;
+    } else {
+        delete extra;
+        delete window;
+        for (QAction *a : qAsConst(actions))
+            QVERIFY(a->associatedWidgets().isEmpty());
+        static_cast<RibbonPercAction *>(actions.at(2))->setPercentage(200);
+        static_cast<RibbonProgressAction *>(actions.at(1))->setProgress(1, 2);
+        qDeleteAll(actions);
+    }
+}
+
+void tst_StatusBar::paintsStatusBarImage()
+{
+    RibbonMainWindow window;
+    RibbonStatusBar bar(window);
+    bar.resize(300, bar.height());
+    const QImage image = bar.grab().toImage();
+    const QImage source = QImage(QStringLiteral(":/zel/ribbon/windows/StatusBar.png"));
+    QVERIFY(!source.isNull());
+    // The stretched middle repeats one of the two halves' middle column.
+    const QRgb middle = image.pixel(150, 12);
+    QVERIFY(middle == source.pixel(17, 12) || middle == source.pixel(34 + 17, 12));
+}
+
+ZEL_TEST_MAIN(tst_StatusBar)
+#include "tst_statusbar.moc"
