@@ -11,6 +11,7 @@
 #include "RibbonStringAction.h"
 #include "RibbonViewPopup.h"
 
+#include <QCursor>
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QMenu>
@@ -751,6 +752,55 @@ private slots:
         QVERIFY(image.pixel(arrowX + 2, y) != background);
         const int otherX = centred ? w - 7 : (w - 5) / 2;
         QCOMPARE(image.pixel(otherX + 2, y), background);
+    }
+
+    void hoverFollowsTheCursor_data()
+    {
+        QTest::addColumn<int>("size");
+        QTest::addColumn<bool>("split");
+        QTest::newRow("large split") << 0 << true;
+        QTest::newRow("large drop-down") << 0 << false;
+        QTest::newRow("medium split") << 1 << true;
+        QTest::newRow("small drop-down") << 2 << false;
+    }
+
+    void hoverFollowsTheCursor()
+    {
+        QFETCH(int, size);
+        QFETCH(bool, split);
+
+        RibbonCatMenuAction action(QStringLiteral("Find"), RibbonCatMenuAction::MenuTypeButton,
+                                   RibbonCatMenuAction::eMenuSize(size), RibbonCatMenuAction::PopupMenu, nullptr);
+        RibbonSimpleAction find(QStringLiteral("Find now"), nullptr);
+        if (split)
+            action.addAction(&find, true);
+        addItems(action);
+        Host host(action);
+        QVERIFY(host.exposed());
+        RibbonCatMenuButton *button = host.button;
+        const bool large = size == 0;
+        const QPoint caption = large ? QPoint(button->width() / 2, 5) : QPoint(3, 5);
+        const QPoint arrow = large ? QPoint(button->width() / 2, button->height() - 5)
+                                   : QPoint(button->width() - 3, 5);
+
+        auto grabAt = [button](const QPoint *cursor) {
+            button->setAttribute(Qt::WA_UnderMouse, cursor != nullptr);
+            QCursor::setPos(cursor ? button->mapToGlobal(*cursor) : QPoint(-100, -100));
+            return button->grab().toImage();
+        };
+        const QImage away = grabAt(nullptr);
+        const QImage overCaption = grabAt(&caption);
+        const QImage overArrow = grabAt(&arrow);
+        QVERIFY(overCaption != away);
+        QVERIFY(overArrow != away);
+        // Only a split button tells its two parts apart.
+        QCOMPARE(overCaption != overArrow, split);
+
+        // A disabled menu shows no hover.
+        action.setEnabled(false);
+        const QImage disabledAway = grabAt(nullptr);
+        QCOMPARE(grabAt(&caption), disabledAway);
+        button->setAttribute(Qt::WA_UnderMouse, false);
     }
 
     void drawBorderShowsTheRestingOutline()
