@@ -114,6 +114,15 @@ void RibbonQuickAccessBar::showQuickAccessBarItem(const QString &name)
 void RibbonQuickAccessBar::actionEvent(QActionEvent *event)
 {
     QWidget::actionEvent(event);
+    if (event->type() == QEvent::ActionRemoved) {
+        // Looked up by address: an action being destroyed is no longer a
+        // RibbonSimpleAction. A command that leaves the bar takes its button and its
+        // menu entry along; a hidden name stays in the list for the next session.
+        const Priv::Command made = d->commands.take(event->action());
+        delete made.button.data();
+        delete made.entry.data();
+        return;
+    }
     auto *command = qobject_cast<RibbonSimpleAction *>(event->action());
     if (!command)
         return;
@@ -145,14 +154,6 @@ void RibbonQuickAccessBar::actionEvent(QActionEvent *event)
         made.button = button;
         made.entry = entry;
         event->accept();
-        break;
-    }
-    case QEvent::ActionRemoved: {
-        // A command that leaves the bar (or is destroyed) takes its button and its
-        // menu entry along; a hidden name stays in the list for the next session.
-        const Priv::Command made = d->commands.take(command);
-        delete made.button.data();
-        delete made.entry.data();
         break;
     }
     case QEvent::ActionChanged: {
