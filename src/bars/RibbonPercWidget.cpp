@@ -168,7 +168,8 @@ void RibbonPercWidget::timerEvent()
 void RibbonPercWidget::actionEvent(QActionEvent *event)
 {
     QWidget::actionEvent(event);
-    if (event->action() == m_action.data() && event->type() == QEvent::ActionChanged) {
+    // Only a change is looked at: the action of a removal may be half destroyed.
+    if (event->type() == QEvent::ActionChanged && event->action() == m_action.data()) {
         m_value = m_action->percentage();
         m_text = percentText(m_value);
         setEnabled(m_action->isEnabled());

@@ -88,7 +88,8 @@ void RibbonProgressWidget::onProgressRangeChanged()
 void RibbonProgressWidget::actionEvent(QActionEvent *event)
 {
     QWidget::actionEvent(event);
-    if (event->action() == m_action.data() && event->type() == QEvent::ActionChanged)
+    // Only a change is looked at: the action of a removal may be half destroyed.
+    if (event->type() == QEvent::ActionChanged && event->action() == m_action.data())
         setEnabled(m_action->isEnabled());
 }
 

@@ -50,8 +50,10 @@ void RibbonStatusBarWidget::syncFromAction()
 void RibbonStatusBarWidget::actionEvent(QActionEvent *event)
 {
     QWidget::actionEvent(event);
-    if (event->action() == m_action.data()
-        && (event->type() == QEvent::ActionAdded || event->type() == QEvent::ActionChanged))
+    // Only additions and changes are looked at: the action of a removal may be half
+    // destroyed.
+    if ((event->type() == QEvent::ActionAdded || event->type() == QEvent::ActionChanged)
+        && event->action() == m_action.data())
         syncFromAction();
     update();
 }
