@@ -4,6 +4,8 @@
 #include <QScreen>
 #include <QStyle>
 #include <QStyleFactory>
+#include <QWidget>
+#include <QWindow>
 #include <QtMath>
 
 namespace zel {
@@ -66,6 +68,80 @@ QStyle *RibbonPlatform::createBaseStyle(const QString &name)
     if (QStyle *style = QStyleFactory::create(name))
         return style;
     return QStyleFactory::create(QStringLiteral("Fusion"));
+}
+
+QRect RibbonPlatform::availableGeometry(const QWidget *widget)
+{
+    const QScreen *screen = widget ? widget->screen() : nullptr;
+    if (!screen)
+        return availableGeometry();
+    return screen->availableGeometry();
+}
+
+void RibbonPlatform::frameCell(const QRect &frame, const QPoint &globalPos, FrameRow *row, FrameColumn *column)
+{
+    const int f = sizingFrameThickness();
+    const int c = captionHeight();
+    const int x = globalPos.x();
+    const int y = globalPos.y();
+    // Native frame rectangles end one past their last pixel.
+    const int left = frame.left();
+    const int top = frame.top();
+    const int right = frame.left() + frame.width();
+    const int bottom = frame.top() + frame.height();
+
+    FrameRow r = FrameMiddle;
+    if (y >= top && y < top + f + c) {
+        const bool overMenuButton = x > left + f && x <= left + 30 && y > top + f;
+        r = overMenuButton ? FrameMiddle : FrameTop;
+    } else if (y >= top + f + c) {
+        r = (y >= bottom - f && y < bottom) ? FrameBottom : FrameMiddle;
+    }
+
+    FrameColumn col = FrameCentre;
+    if (x >= left && x < left + f)
+        col = FrameLeft;
+    else if (x >= right - f && x < right)
+        col = FrameRight;
+    if (col != FrameCentre && y > top + f && y < top + f + c)
+        r = FrameMiddle;
+
+    if (row)
+        *row = r;
+    if (column)
+        *column = col;
+}
+
+bool RibbonPlatform::startSystemMove(QWidget *window)
+{
+    QWindow *handle = window ? window->windowHandle() : nullptr;
+    return handle && handle->startSystemMove();
+}
+
+bool RibbonPlatform::startSystemResize(QWidget *window, Qt::Edges edges)
+{
+    QWindow *handle = window ? window->windowHandle() : nullptr;
+    return handle && handle->startSystemResize(edges);
+}
+
+void RibbonPlatform::bringToFront(QWidget *window)
+{
+    if (!window)
+        return;
+    window->raise();
+    window->activateWindow();
+}
+
+bool RibbonPlatform::autoHideTaskBar(Qt::Edge *edge)
+{
+    // Qt offers no portable way to ask about task-bar behaviour; answer that it stays.
+    if (edge)
+        *edge = Qt::BottomEdge;
+    return false;
+}
+
+void RibbonPlatform::revealTaskBar()
+{
 }
 
 } // namespace zel

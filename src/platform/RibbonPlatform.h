@@ -6,6 +6,7 @@
 #include <QString>
 
 class QStyle;
+class QWidget;
 
 namespace zel {
 
@@ -38,6 +39,34 @@ public:
     // Creates the named Qt base style; a name this machine does not offer falls back to
     // "Fusion" so that every machine draws the same.
     static QStyle *createBaseStyle(const QString &name);
+
+    // The part of the widget's screen not taken by task bars and docks; the default
+    // screen's for a null widget.
+    static QRect availableGeometry(const QWidget *widget);
+
+    // Cells of the three-by-three grid a frameless window is divided into when the
+    // system asks what lies under the cursor.
+    enum FrameRow { FrameTop, FrameMiddle, FrameBottom };
+    enum FrameColumn { FrameLeft, FrameCentre, FrameRight };
+    // Locates a global point in a window's frame rectangle. The top row is the sizing
+    // frame plus a caption high, except over the system-menu button at its left end;
+    // the sizing frame along the sides beside the caption counts as middle row.
+    static void frameCell(const QRect &frame, const QPoint &globalPos, FrameRow *row, FrameColumn *column);
+
+    // Hand the window to the window system for a move or resize that follows the mouse
+    // until the button is released. False when the window system declines; the caller
+    // then moves or resizes by itself.
+    static bool startSystemMove(QWidget *window);
+    static bool startSystemResize(QWidget *window, Qt::Edges edges);
+
+    // Raises the window above the others and gives it the input focus.
+    static void bringToFront(QWidget *window);
+
+    // Whether the desktop's task bar hides itself until the cursor touches its edge,
+    // and on which edge of the screen it lies.
+    static bool autoHideTaskBar(Qt::Edge *edge);
+    // Makes an auto-hidden task bar slide in over a maximised window.
+    static void revealTaskBar();
 
 private:
     RibbonPlatform() = delete;
