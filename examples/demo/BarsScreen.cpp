@@ -16,7 +16,6 @@
 #include "RibbonSimpleAction.h"
 #include "RibbonStatusBar.h"
 
-#include <QBoxLayout>
 #include <QIcon>
 #include <QLabel>
 #include <QPainter>
@@ -109,15 +108,6 @@ QIcon makeIcon(Glyph glyph, const QColor &color)
     return icon;
 }
 
-// The bars of the window when it already holds them, new ones otherwise.
-template <typename Bar, typename Make>
-Bar *windowBar(zel::RibbonMainWindow *window, Make make)
-{
-    if (Bar *bar = window->findChild<Bar *>())
-        return bar;
-    return make();
-}
-
 QWidget *makeBarsScreen()
 {
     auto *window = new zel::RibbonMainWindow;
@@ -126,21 +116,7 @@ QWidget *makeBarsScreen()
     window->setFont(uiFont);
     window->setWindowTitle(QStringLiteral("Report.docx"));
 
-    auto *layout = qobject_cast<QBoxLayout *>(window->layout());
-
-    // Title row: the quick-access toolbar, then the title.
-    zel::RibbonQuickAccessBar *quickAccess = windowBar<zel::RibbonQuickAccessBar>(window, [&] {
-        auto *bar = new zel::RibbonQuickAccessBar(window);
-        auto *row = new QHBoxLayout;
-        row->setContentsMargins(3, 0, 4, 0);
-        row->addWidget(bar);
-        auto *title = new QLabel(window->windowTitle(), window);
-        title->setAlignment(Qt::AlignCenter);
-        row->addWidget(title, 1);
-        if (layout)
-            layout->insertLayout(0, row);
-        return bar;
-    });
+    zel::RibbonQuickAccessBar *quickAccess = &window->quickAccessBar();
     // Restored from the previous session: the user had hidden Print.
     quickAccess->setQuickAccessBarItems({QStringLiteral("quick.print")});
     const QList<QPair<Glyph, QString>> commands = {{Glyph::Disk, QStringLiteral("Save")},
@@ -170,12 +146,7 @@ QWidget *makeBarsScreen()
                                           "page menu, the view toggles, the progress of a save and the zoom."));
     window->setCentralWidget(document);
 
-    zel::RibbonStatusBar *status = windowBar<zel::RibbonStatusBar>(window, [&] {
-        auto *bar = new zel::RibbonStatusBar(*window);
-        if (layout)
-            layout->addWidget(bar);
-        return bar;
-    });
+    zel::RibbonStatusBar *status = &window->ribbonStatusBar();
 
     auto *signedIn = new QLabel(window);
     signedIn->setPixmap(makeIcon(Glyph::Person, Qt::white).pixmap(16, 16));

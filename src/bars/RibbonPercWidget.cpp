@@ -187,7 +187,9 @@ void RibbonPercWidget::paintEvent(QPaintEvent *)
         painter.setOpacity(0.5);
 
     painter.setPen(style.statusBarTextColor());
-    painter.drawText(QRect(20, 3, 40, 40), Qt::AlignRight, m_text);
+    // Right-aligned against the minus button and centred on the track; the free
+    // margin on the left takes a wider text at high resolutions.
+    painter.drawText(QRect(0, 0, 60, height()), Qt::AlignRight | Qt::AlignVCenter, m_text);
 
     const int trackEnd = width() - 20;
     painter.setPen(style.frameSunkenColor());
