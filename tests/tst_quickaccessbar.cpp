@@ -79,7 +79,7 @@ QAction *tst_QuickAccessBar::entryFor(const QString &name) const
 void tst_QuickAccessBar::init()
 {
     m_window = new RibbonMainWindow;
-    m_bar = new RibbonQuickAccessBar(m_window);
+    m_bar = &m_window->quickAccessBar();
     m_menu = m_bar->findChild<QMenu *>();
     QVERIFY(m_menu);
 }

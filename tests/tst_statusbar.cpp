@@ -62,6 +62,7 @@ private slots:
     void lifetimes_data();
     void lifetimes();
     void paintsStatusBarImage();
+    void heldByMainWindow();
 
 private:
     static QPoint thumbCentre(const RibbonPercWidget &w) { return QPoint(w.thumbPosition(w.value()), 10); }
@@ -615,6 +616,27 @@ void tst_StatusBar::paintsStatusBarImage()
     // The stretched middle repeats one of the two halves' middle column.
     const QRgb middle = image.pixel(150, 12);
     QVERIFY(middle == source.pixel(17, 12) || middle == source.pixel(34 + 17, 12));
+}
+
+void tst_StatusBar::heldByMainWindow()
+{
+    RibbonMainWindow window;
+    RibbonStatusBar &bar = window.ribbonStatusBar();
+    QCOMPARE(bar.mainWindow(), &window);
+    window.resize(700, 400);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+
+    QSignalSpy changed(&bar, SIGNAL(statusBarChanged()));
+    RibbonPercAction zoom(10, 400, 100, nullptr);
+    bar.addAction(&zoom);
+    QCOMPARE(changed.count(), 1);
+    QWidget *slider = bar.widgetForAction(&zoom);
+    QVERIFY(slider);
+    // Laid out before the signal: the slider already sits at the right end.
+    QCOMPARE(slider->size(), QSize(190, 20));
+    QVERIFY(slider->geometry().right() > bar.width() - 20);
+    QVERIFY(bar.mapTo(&window, QPoint(0, bar.height())).y() > window.height() - 10);
 }
 
 ZEL_TEST_MAIN(tst_StatusBar)

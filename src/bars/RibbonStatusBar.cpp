@@ -118,6 +118,9 @@ void RibbonStatusBar::addActionWidget(QAction *action)
     }
     if (!widget)
         return;
+    // Shown now rather than by the layout's queued call, so that it takes its place
+    // in the layout below.
+    widget->show();
     widgets.insert(action, widget);
     layoutNow();
     emit statusBarChanged();
