@@ -59,13 +59,14 @@ class ManualDrag : public QObject
 public:
     enum Mode { Move, Size };
 
-    ManualDrag(QWidget *window, Mode mode, bool buttonHeld)
+    ManualDrag(QWidget *window, Mode mode, bool buttonHeld, const QPoint &anchor)
         : QObject(window)
         , m_window(window)
         , m_mode(mode)
         , m_buttonHeld(buttonHeld)
-        , m_anchor(QCursor::pos())
+        , m_anchor(anchor)
         , m_start(window->geometry())
+        , m_restoreFirst(mode == Move && buttonHeld && window->isMaximized())
     {
         qApp->installEventFilter(this);
         if (!m_buttonHeld) {
@@ -120,7 +121,22 @@ public:
 private:
     void follow(const QPoint &globalPos)
     {
-        const QPoint delta = globalPos - m_anchor;
+        QPoint delta = globalPos - m_anchor;
+        if (m_restoreFirst) {
+            // A maximised window leaves its state only when the mouse really drags it;
+            // it then comes back to its normal size with the cursor at the same
+            // relative place on the caption.
+            if (delta.manhattanLength() < QApplication::startDragDistance())
+                return;
+            m_restoreFirst = false;
+            const QPoint local = m_anchor - m_start.topLeft();
+            const double fx = m_start.width() > 0 ? double(local.x()) / m_start.width() : 0.5;
+            m_window->showNormal();
+            const QSize normal = m_window->normalGeometry().isValid() ? m_window->normalGeometry().size()
+                                                                       : m_window->size();
+            m_start = QRect(QPoint(m_anchor.x() - int(fx * normal.width()), m_anchor.y() - local.y()), normal);
+            delta = globalPos - m_anchor;
+        }
         if (m_mode == Move) {
             m_window->move(m_start.topLeft() + delta);
         } else {
@@ -146,6 +162,7 @@ private:
     bool m_buttonHeld;
     QPoint m_anchor;
     QRect m_start;
+    bool m_restoreFirst;
 };
 
 } // namespace
@@ -253,7 +270,7 @@ public:
     QAction *maximizeAction = nullptr;
     QAction *closeAction = nullptr;
 
-    // Window position under the cursor when a caption drag is done by hand.
+    // A caption drag done by hand because the window system declined it.
     QPointer<ManualDrag> manualDrag;
 };
 
@@ -315,11 +332,11 @@ void RibbonMainWindow::Priv::buildSystemMenu()
     RibbonMainWindow *w = window;
     QObject::connect(moveAction, &QAction::triggered, w, [w] {
         if (!RibbonPlatform::startSystemMove(w))
-            new ManualDrag(w, ManualDrag::Move, false);
+            new ManualDrag(w, ManualDrag::Move, false, QCursor::pos());
     });
     QObject::connect(sizeAction, &QAction::triggered, w, [w] {
         if (!RibbonPlatform::startSystemResize(w, Qt::RightEdge | Qt::BottomEdge))
-            new ManualDrag(w, ManualDrag::Size, false);
+            new ManualDrag(w, ManualDrag::Size, false, QCursor::pos());
     });
     QObject::connect(systemMenu, &QMenu::aboutToShow, w, [this] { updateSystemMenu(); });
 }
@@ -693,17 +710,9 @@ void RibbonMainWindow::mousePressEvent(QMouseEvent *event)
     if (RibbonPlatform::startSystemMove(this))
         return;
 
-    // The window system declined: follow the mouse by hand. A maximised window first
-    // returns to its normal size, keeping the cursor at the same relative place.
-    if (isMaximized()) {
-        const double fx = width() > 0 ? double(event->pos().x()) / width() : 0.5;
-        const int y = event->pos().y();
-        showNormal();
-        const QPoint cursor = event->globalPos();
-        move(cursor.x() - int(fx * width()), cursor.y() - y);
-    }
+    // The window system declined: follow the mouse by hand.
     delete d->manualDrag;
-    d->manualDrag = new ManualDrag(this, ManualDrag::Move, true);
+    d->manualDrag = new ManualDrag(this, ManualDrag::Move, true, event->globalPos());
 }
 
 void RibbonMainWindow::mouseMoveEvent(QMouseEvent *event)
