@@ -29,6 +29,7 @@ class tst_RibbonMainWindow : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase();
     void init();
     void cleanup();
 
@@ -44,6 +45,10 @@ private slots:
     void doubleClickOnCaptionMaximizes();
     void systemMenuActions();
     void systemMenuEnabledByState();
+    void systemMenuMoveAndSize_data();
+    void systemMenuMoveAndSize();
+    void activateWindowUnminimizes();
+    void deletedCentralWidgetLeavesStretchingArea();
     void restoreGeometryRoundTrip();
     void marginsFollowState();
     void titleIsPainted();
@@ -63,6 +68,22 @@ private:
     RibbonCategoryAction *m_category = nullptr;
     RibbonCatSimpleAction *m_command = nullptr;
 };
+
+static QtMessageHandler s_previousHandler = nullptr;
+
+// The test platform reports every window-system request it does not carry out (masks,
+// raising windows); those reports say nothing about the window.
+static void quietHandler(QtMsgType type, const QMessageLogContext &context, const QString &message)
+{
+    if (message.startsWith(QLatin1String("This plugin does not support")))
+        return;
+    s_previousHandler(type, context, message);
+}
+
+void tst_RibbonMainWindow::initTestCase()
+{
+    s_previousHandler = qInstallMessageHandler(quietHandler);
+}
 
 void tst_RibbonMainWindow::init()
 {
@@ -394,6 +415,95 @@ void tst_RibbonMainWindow::systemMenuEnabledByState()
     QTRY_VERIFY(!m_window->isMaximized());
     m_window->setFixedSize(m_window->size());
     QCOMPARE(enabled(), QStringLiteral("moveAction minimizeAction closeAction"));
+}
+
+void tst_RibbonMainWindow::systemMenuMoveAndSize_data()
+{
+    QTest::addColumn<QString>("entry");
+    QTest::addColumn<int>("finishKey");
+    QTest::addColumn<QRect>("expected");
+
+    const QRect start(100, 100, 800, 500);
+    QTest::newRow("move, click") << QStringLiteral("moveAction") << 0 << start.translated(40, 30);
+    QTest::newRow("size, click") << QStringLiteral("sizeAction") << 0 << start.adjusted(0, 0, 40, 30);
+    QTest::newRow("move, Escape") << QStringLiteral("moveAction") << int(Qt::Key_Escape) << start;
+    QTest::newRow("size, Return") << QStringLiteral("sizeAction") << int(Qt::Key_Return) << start.adjusted(0, 0, 40, 30);
+}
+
+void tst_RibbonMainWindow::systemMenuMoveAndSize()
+{
+    QFETCH(QString, entry);
+    QFETCH(int, finishKey);
+    QFETCH(QRect, expected);
+
+    buildWindow();
+    RibbonMainWindow &w = *m_window;
+    auto *menu = w.findChild<QMenu *>(QStringLiteral("systemMenu"));
+    QAction *action = menu->findChild<QAction *>(entry);
+    QVERIFY(action);
+
+    // The test platform declines system moves, so the window follows the mouse itself
+    // until the next click.
+    const QPoint anchor = QCursor::pos();
+    action->trigger();
+    const QPoint to = anchor + QPoint(40, 30);
+    QMouseEvent move(QEvent::MouseMove, w.mapFromGlobal(to), to, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(&w, &move);
+    if (finishKey)
+        QTest::keyClick(&w, Qt::Key(finishKey));
+    else
+        QTest::mouseClick(&w, Qt::LeftButton, Qt::NoModifier, w.mapFromGlobal(to));
+    QTRY_COMPARE(w.geometry(), expected);
+
+    // Finished: further moves leave the window alone.
+    const QPoint later = to + QPoint(25, 25);
+    QMouseEvent after(QEvent::MouseMove, w.mapFromGlobal(later), later, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(&w, &after);
+    QTest::qWait(10);
+    QCOMPARE(w.geometry(), expected);
+    QCOMPARE(QWidget::mouseGrabber(), nullptr);
+}
+
+void tst_RibbonMainWindow::activateWindowUnminimizes()
+{
+    buildWindow();
+    auto *other = new QWidget;
+    other->setAttribute(Qt::WA_DeleteOnClose);
+    other->show();
+    QVERIFY(QTest::qWaitForWindowExposed(other));
+    other->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(other));
+    m_window->showMinimized();
+    QTRY_VERIFY(m_window->isMinimized());
+
+    m_window->activateWindow();
+    QTRY_VERIFY(!m_window->isMinimized());
+    QVERIFY(m_window->isVisible());
+    QTRY_VERIFY(m_window->isActiveWindow());
+    other->close();
+}
+
+void tst_RibbonMainWindow::deletedCentralWidgetLeavesStretchingArea()
+{
+    buildWindow();
+    RibbonStatusBar &status = m_window->ribbonStatusBar();
+    auto statusBottom = [&] { return status.mapTo(m_window.get(), status.rect().bottomLeft()).y(); };
+    QTRY_COMPARE(statusBottom(), m_window->height() - 1 - m_window->contentsMargins().bottom());
+    const int bottom = statusBottom();
+
+    auto *central = new QLabel(QStringLiteral("text"));
+    m_window->setCentralWidget(central);
+    delete central;
+    QCOMPARE(m_window->centralWidget(), nullptr);
+    m_window->resize(m_window->width(), m_window->height() + 80);
+    QTRY_COMPARE(statusBottom(), bottom + 80);
+
+    // A later widget takes the area as usual.
+    auto *next = new QLabel(QStringLiteral("next"));
+    m_window->setCentralWidget(next);
+    QTRY_VERIFY(next->isVisible());
+    QTRY_COMPARE(next->mapTo(m_window.get(), next->rect().bottomLeft()).y() + 1,
+                 status.mapTo(m_window.get(), QPoint()).y());
 }
 
 void tst_RibbonMainWindow::restoreGeometryRoundTrip()

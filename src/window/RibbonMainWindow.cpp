@@ -436,7 +436,7 @@ RibbonMainWindow::RibbonMainWindow(QWidget *parent, Qt::WindowFlags flags)
 
     d->maximizeButton = new RibbonSysButton(this, RibbonSysButton::MaximizeRestore);
     d->maximizeButton->setObjectName(QStringLiteral("maximizeButton"));
-    d->maximizeButton->setToolTip(tr("Restore"));
+    d->maximizeButton->setToolTip(tr("Maximize"));
     connect(d->maximizeButton, SIGNAL(clicked()), this, SLOT(showMaximizedRestored()), Qt::QueuedConnection);
     d->titleLayout->addWidget(d->maximizeButton);
 
@@ -456,6 +456,9 @@ RibbonMainWindow::RibbonMainWindow(QWidget *parent, Qt::WindowFlags flags)
 
 RibbonMainWindow::~RibbonMainWindow()
 {
+    // The central widget goes with the children, after the private data.
+    if (d->centralWidget)
+        disconnect(d->centralWidget, nullptr, this, nullptr);
     // The bar's tabs may be children of this window and outlive the bar for a moment;
     // let the bar go first, while the window is still whole.
     delete d->menuBar;
@@ -542,10 +545,18 @@ void RibbonMainWindow::setCentralWidget(QWidget *w)
         if (item != d->centralPlaceholder)
             delete item; // the layout item only; the widget stays with its owner
     }
+    if (d->centralWidget)
+        disconnect(d->centralWidget, &QObject::destroyed, this, nullptr);
     d->centralWidget = w;
     if (w) {
         w->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
         d->centralLayout->addWidget(w);
+        // A central widget deleted by its owner leaves the layout; keep the area
+        // stretching between the ribbon bar and the status bar.
+        connect(w, &QObject::destroyed, this, [this] {
+            if (d->centralLayout->count() == 0)
+                d->centralLayout->addItem(d->centralPlaceholder);
+        });
     } else {
         d->centralLayout->addItem(d->centralPlaceholder);
     }
