@@ -1,6 +1,8 @@
 #include "ZelTest.h"
 
+#include "BackstageView.h"
 #include "RibbonButtonMain.h"
+#include "RibbonStyle.h"
 #include "RibbonCatSimpleAction.h"
 #include "RibbonCategoriesPanelAction.h"
 #include "RibbonCategoryAction.h"
@@ -15,6 +17,7 @@
 #include "RibbonSysButton.h"
 
 #include <QLabel>
+#include <QPushButton>
 #include <QMenu>
 #include <QPointer>
 
@@ -37,6 +40,8 @@ private slots:
     void setActiveView_data();
     void setActiveView();
     void escapeReturnsToMainView();
+    void backstageBackReturnsToMainView();
+    void titleOverBackstage();
     void nullCentralWidgetLeavesStretchingArea();
     void showTitleBar();
     void titleRowFollowsView();
@@ -141,7 +146,7 @@ void tst_RibbonMainWindow::setActiveView_data()
     QTest::newRow("welcome to backstage")
         << RibbonMainWindow::WelcomeScreen << RibbonMainWindow::BackstagePanel << 1;
     QTest::newRow("backstage to main") << RibbonMainWindow::BackstagePanel << RibbonMainWindow::MainView << 1;
-    QTest::newRow("unknown view") << RibbonMainWindow::BackstagePanel << RibbonMainWindow::View(7) << 0;
+    QTest::newRow("unknown view") << RibbonMainWindow::BackstagePanel << RibbonMainWindow::View(3) << 0;
 }
 
 void tst_RibbonMainWindow::setActiveView()
@@ -191,6 +196,65 @@ void tst_RibbonMainWindow::escapeReturnsToMainView()
     spy.clear();
     QTest::keyClick(m_window.get(), Qt::Key_Escape);
     QCOMPARE(spy.count(), 0);
+}
+
+void tst_RibbonMainWindow::backstageBackReturnsToMainView()
+{
+    buildWindow();
+    BackstageView &backstage = m_window->backstageView();
+    auto *open = new QLabel(QStringLiteral("open pane"));
+    backstage.addItem(QStringLiteral("Open"), open);
+
+    QTest::mouseClick(m_window->ribbonMenuBar().mainMenuButton(), Qt::LeftButton);
+    QCOMPARE(m_window->activeView(), RibbonMainWindow::BackstagePanel);
+    QVERIFY(backstage.isVisible());
+    QVERIFY(!m_window->ribbonMenuBar().isVisible());
+
+    // Choosing an entry stays in the backstage; Back leaves it.
+    emit backstage.itemClicked(QStringLiteral("Open"));
+    QCOMPARE(m_window->activeView(), RibbonMainWindow::BackstagePanel);
+    auto *back = backstage.findChild<QPushButton *>();
+    QVERIFY(back);
+    QSignalSpy spy(m_window.get(), SIGNAL(activeViewChanged(int)));
+    QTest::mouseClick(back, Qt::LeftButton);
+    QCOMPARE(m_window->activeView(), RibbonMainWindow::MainView);
+    QCOMPARE(spy.count(), 1);
+    QCOMPARE(spy.at(0).at(0).toInt(), int(RibbonMainWindow::BackstagePanel));
+    QVERIFY(m_window->ribbonMenuBar().isVisible());
+}
+
+void tst_RibbonMainWindow::titleOverBackstage()
+{
+    buildWindow();
+    m_window->setActiveView(RibbonMainWindow::BackstagePanel);
+    QApplication::processEvents();
+    BackstageView &backstage = m_window->backstageView();
+    const int navigationWidth = backstage.leftPaneRect().width();
+    QVERIFY(navigationWidth > 20);
+
+    const int m = m_window->frameMargin();
+    QImage image = m_window->grab().toImage();
+    const QColor column = RibbonApplication::theApp().ribbonStyle().frameBorderColor();
+    // The navigation column's colour continues up into the title row; the rest is white.
+    QCOMPARE(image.pixelColor(m + 10, m + 2), column);
+    QCOMPARE(image.pixelColor(m + navigationWidth + 10, m + 2), QColor(Qt::white));
+    // Below the title row the page itself paints the same column.
+    const QPoint pagePoint = backstage.mapTo(m_window.get(), QPoint(10, 10));
+    QCOMPARE(image.pixelColor(pagePoint), column);
+
+    // The title is drawn over the white part, centred on the panes' area.
+    m_window->setWindowTitle(QString());
+    QApplication::processEvents();
+    const QImage untitled = m_window->grab().toImage();
+    QRect changed;
+    for (int y = m; y < m + 26; ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (image.pixel(x, y) != untitled.pixel(x, y))
+                changed |= QRect(x, y, 1, 1);
+        }
+    }
+    QVERIFY(changed.isValid());
+    QVERIFY(changed.left() > m + navigationWidth);
 }
 
 void tst_RibbonMainWindow::nullCentralWidgetLeavesStretchingArea()

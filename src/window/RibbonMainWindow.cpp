@@ -1,5 +1,6 @@
 #include "RibbonMainWindow.h"
 
+#include "BackstageView.h"
 #include "RibbonApplication.h"
 #include "RibbonButtonMain.h"
 #include "RibbonContextCategoryPanelAction.h"
@@ -11,12 +12,8 @@
 #include "RibbonSysButton.h"
 #include "RibbonWindowBorder.h"
 
-// The backstage pages are built separately; until they are part of the library their
-// slots in the view stack stay empty.
-#if __has_include("BackstageView.h")
-#include "BackstageView.h"
-#define ZEL_HAS_BACKSTAGE_VIEW 1
-#endif
+// The welcome screen is built separately; until it is part of the library its slot in
+// the view stack stays empty.
 #if __has_include("BackstageWelcomeScreen.h")
 #include "BackstageWelcomeScreen.h"
 #define ZEL_HAS_WELCOME_SCREEN 1
@@ -202,12 +199,10 @@ public:
     {
         *left = QRect();
         *right = QRect();
-#ifdef ZEL_HAS_BACKSTAGE_VIEW
         if (view == BackstagePanel && backstageView) {
             *left = backstageView->leftPaneRect();
             *right = backstageView->rightPaneRect();
         }
-#endif
 #ifdef ZEL_HAS_WELCOME_SCREEN
         if (view == WelcomeScreen && welcomeScreen) {
             *left = welcomeScreen->leftPaneRect();
@@ -239,9 +234,7 @@ public:
     RibbonStatusBar *statusBar = nullptr;
     QShortcut *escapeShortcut = nullptr;
     QStackedLayout *viewStack = nullptr;
-#ifdef ZEL_HAS_BACKSTAGE_VIEW
     BackstageView *backstageView = nullptr;
-#endif
 #ifdef ZEL_HAS_WELCOME_SCREEN
     BackstageWelcomeScreen *welcomeScreen = nullptr;
 #endif
@@ -374,12 +367,8 @@ RibbonMainWindow::RibbonMainWindow(QWidget *parent, Qt::WindowFlags flags)
     auto *pageLayout = new QVBoxLayout;
     pageLayout->setContentsMargins(0, 0, 0, 0);
     pageLayout->setSpacing(0);
-#ifdef ZEL_HAS_BACKSTAGE_VIEW
     d->backstageView = new BackstageView(this);
     d->backstagePage = d->backstageView;
-#else
-    d->backstagePage = new QWidget(this);
-#endif
     d->escapeShortcut = new QShortcut(QKeySequence(Qt::Key_Escape), this, SLOT(showMainView()), nullptr,
                                       Qt::ApplicationShortcut);
     d->escapeShortcut->setEnabled(false); // the main view has nothing to return to
@@ -412,9 +401,7 @@ RibbonMainWindow::RibbonMainWindow(QWidget *parent, Qt::WindowFlags flags)
     connect(&RibbonApplication::theApp(), SIGNAL(ribbonStyleChanged()), this, SLOT(ribbonStyleChanged()));
     connect(d->statusBar, SIGNAL(statusBarChanged()), this, SLOT(update()));
     connect(d->menuBar->mainMenuButton(), SIGNAL(clicked()), this, SLOT(onMainButtonPressed()));
-#ifdef ZEL_HAS_BACKSTAGE_VIEW
     connect(d->backstageView, SIGNAL(itemClicked(QString)), this, SLOT(onBackstageItemClicked(QString)));
-#endif
     ribbonStyleChanged();
 
     d->sysMenuButton = new RibbonSysButton(this, RibbonSysButton::SystemMenu);
@@ -480,12 +467,10 @@ RibbonQuickAccessBar &RibbonMainWindow::quickAccessBar() const
     return *d->quickAccessBar;
 }
 
-#ifdef ZEL_HAS_BACKSTAGE_VIEW
 BackstageView &RibbonMainWindow::backstageView() const
 {
     return *d->backstageView;
 }
-#endif
 
 #ifdef ZEL_HAS_WELCOME_SCREEN
 BackstageWelcomeScreen &RibbonMainWindow::welcomeScreen() const
