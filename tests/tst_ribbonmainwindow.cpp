@@ -1,6 +1,7 @@
 #include "ZelTest.h"
 
 #include "BackstageView.h"
+#include "BackstageWelcomeScreen.h"
 #include "RibbonButtonMain.h"
 #include "RibbonStyle.h"
 #include "RibbonCatSimpleAction.h"
@@ -41,6 +42,7 @@ private slots:
     void setActiveView();
     void escapeReturnsToMainView();
     void backstageBackReturnsToMainView();
+    void titleOverBackstage_data();
     void titleOverBackstage();
     void nullCentralWidgetLeavesStretchingArea();
     void showTitleBar();
@@ -59,6 +61,8 @@ private slots:
     void titleIsPainted();
     void contextualBandBesideTitle();
     void maximizeButtonFollowsState();
+    void sysButtonStates();
+    void styleChangeRepaints();
     void deleteWindowWithModelInPlace();
     void deleteActionsBeforeWindow();
 
@@ -223,13 +227,26 @@ void tst_RibbonMainWindow::backstageBackReturnsToMainView()
     QVERIFY(m_window->ribbonMenuBar().isVisible());
 }
 
+void tst_RibbonMainWindow::titleOverBackstage_data()
+{
+    QTest::addColumn<RibbonMainWindow::View>("view");
+    QTest::newRow("backstage") << RibbonMainWindow::BackstagePanel;
+    QTest::newRow("welcome screen") << RibbonMainWindow::WelcomeScreen;
+}
+
 void tst_RibbonMainWindow::titleOverBackstage()
 {
+    QFETCH(RibbonMainWindow::View, view);
     buildWindow();
-    m_window->setActiveView(RibbonMainWindow::BackstagePanel);
+    m_window->setActiveView(view);
     QApplication::processEvents();
-    BackstageView &backstage = m_window->backstageView();
-    const int navigationWidth = backstage.leftPaneRect().width();
+    QWidget *page = &m_window->backstageView();
+    int navigationWidth = m_window->backstageView().leftPaneRect().width();
+    if (view == RibbonMainWindow::WelcomeScreen) {
+        page = &m_window->welcomeScreen();
+        navigationWidth = m_window->welcomeScreen().leftPaneRect().width();
+    }
+    QVERIFY(page->isVisible());
     QVERIFY(navigationWidth > 20);
 
     const int m = m_window->frameMargin();
@@ -239,7 +256,7 @@ void tst_RibbonMainWindow::titleOverBackstage()
     QCOMPARE(image.pixelColor(m + 10, m + 2), column);
     QCOMPARE(image.pixelColor(m + navigationWidth + 10, m + 2), QColor(Qt::white));
     // Below the title row the page itself paints the same column.
-    const QPoint pagePoint = backstage.mapTo(m_window.get(), QPoint(10, 10));
+    const QPoint pagePoint = page->mapTo(m_window.get(), QPoint(10, 10));
     QCOMPARE(image.pixelColor(pagePoint), column);
 
     // The title is drawn over the white part, centred on the panes' area.
@@ -715,6 +732,52 @@ void tst_RibbonMainWindow::maximizeButtonFollowsState()
     m_window->showNormal();
     QTRY_VERIFY(!m_window->isMaximized());
     QCOMPARE(button->grab().toImage(), normal);
+}
+
+void tst_RibbonMainWindow::sysButtonStates()
+{
+    buildWindow();
+    auto *close = m_window->findChild<QPushButton *>(QStringLiteral("closeButton"));
+    QVERIFY(close);
+    QCOMPARE(close->size(), QSize(20, 20));
+    QCOMPARE(close->focusPolicy(), Qt::NoFocus);
+
+    const QImage normal = close->grab().toImage();
+    close->setAttribute(Qt::WA_UnderMouse, true);
+    const QImage hover = close->grab().toImage();
+    close->setDown(true);
+    const QImage pressed = close->grab().toImage();
+    close->setDown(false);
+    close->setAttribute(Qt::WA_UnderMouse, false);
+    QVERIFY(hover != normal);
+    QVERIFY(pressed != normal);
+    QVERIFY(pressed != hover);
+    QCOMPARE(close->grab().toImage(), normal);
+
+    // The system-menu button shows the application icon and nothing else.
+    auto *sysMenu = m_window->findChild<QPushButton *>(QStringLiteral("sysMenuButton"));
+    const QImage noIcon = sysMenu->grab().toImage();
+    QPixmap red(18, 18);
+    red.fill(Qt::red);
+    const QIcon previous = QApplication::windowIcon();
+    QApplication::setWindowIcon(QIcon(red));
+    const QImage withIcon = sysMenu->grab().toImage();
+    QApplication::setWindowIcon(previous);
+    QCOMPARE(withIcon.pixelColor(10, 10), QColor(Qt::red));
+    QVERIFY(noIcon.pixelColor(10, 10) != QColor(Qt::red));
+}
+
+void tst_RibbonMainWindow::styleChangeRepaints()
+{
+    buildWindow();
+    const QColor client = RibbonApplication::theApp().ribbonStyle().mainClientColor();
+    QCOMPARE(m_window->palette().color(QPalette::Window), client);
+    QPalette other = m_window->palette();
+    other.setColor(QPalette::Window, Qt::magenta);
+    m_window->setPalette(other);
+    emit RibbonApplication::theApp().ribbonStyleChanged();
+    QCOMPARE(m_window->palette().color(QPalette::Active, QPalette::Window), client);
+    QCOMPARE(m_window->palette().color(QPalette::Inactive, QPalette::Window), client);
 }
 
 void tst_RibbonMainWindow::deleteWindowWithModelInPlace()

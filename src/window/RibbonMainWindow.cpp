@@ -1,6 +1,7 @@
 #include "RibbonMainWindow.h"
 
 #include "BackstageView.h"
+#include "BackstageWelcomeScreen.h"
 #include "RibbonApplication.h"
 #include "RibbonButtonMain.h"
 #include "RibbonContextCategoryPanelAction.h"
@@ -12,12 +13,6 @@
 #include "RibbonSysButton.h"
 #include "RibbonWindowBorder.h"
 
-// The welcome screen is built separately; until it is part of the library its slot in
-// the view stack stays empty.
-#if __has_include("BackstageWelcomeScreen.h")
-#include "BackstageWelcomeScreen.h"
-#define ZEL_HAS_WELCOME_SCREEN 1
-#endif
 
 #include <QApplication>
 #include <QCursor>
@@ -81,9 +76,16 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override
     {
         switch (event->type()) {
-        case QEvent::MouseMove:
-            follow(static_cast<QMouseEvent *>(event)->globalPos());
+        case QEvent::MouseMove: {
+            const auto *mouse = static_cast<QMouseEvent *>(event);
+            // A release that went astray must not leave the window glued to the cursor.
+            if (m_buttonHeld && !(mouse->buttons() & Qt::LeftButton)) {
+                finish();
+                break;
+            }
+            follow(mouse->globalPos());
             return true;
+        }
         case QEvent::MouseButtonRelease:
             if (m_buttonHeld) {
                 finish();
@@ -184,9 +186,9 @@ public:
     {
         switch (v) {
         case WelcomeScreen:
-            return welcomePage;
+            return welcomeScreen;
         case BackstagePanel:
-            return backstagePage;
+            return backstageView;
         case MainView:
             break;
         }
@@ -203,12 +205,10 @@ public:
             *left = backstageView->leftPaneRect();
             *right = backstageView->rightPaneRect();
         }
-#ifdef ZEL_HAS_WELCOME_SCREEN
         if (view == WelcomeScreen && welcomeScreen) {
             *left = welcomeScreen->leftPaneRect();
             *right = welcomeScreen->rightPaneRect();
         }
-#endif
     }
 
     QString titleText() const
@@ -235,11 +235,7 @@ public:
     QShortcut *escapeShortcut = nullptr;
     QStackedLayout *viewStack = nullptr;
     BackstageView *backstageView = nullptr;
-#ifdef ZEL_HAS_WELCOME_SCREEN
     BackstageWelcomeScreen *welcomeScreen = nullptr;
-#endif
-    QWidget *backstagePage = nullptr;
-    QWidget *welcomePage = nullptr;
     QWidget *mainViewPage = nullptr;
     View view = MainView;
     QHBoxLayout *titleLayout = nullptr;
@@ -368,25 +364,19 @@ RibbonMainWindow::RibbonMainWindow(QWidget *parent, Qt::WindowFlags flags)
     pageLayout->setContentsMargins(0, 0, 0, 0);
     pageLayout->setSpacing(0);
     d->backstageView = new BackstageView(this);
-    d->backstagePage = d->backstageView;
     d->escapeShortcut = new QShortcut(QKeySequence(Qt::Key_Escape), this, SLOT(showMainView()), nullptr,
                                       Qt::ApplicationShortcut);
     d->escapeShortcut->setEnabled(false); // the main view has nothing to return to
     d->mainViewPage = new QWidget(this);
     d->mainViewPage->setObjectName(QStringLiteral("mainViewPage"));
-#ifdef ZEL_HAS_WELCOME_SCREEN
     d->welcomeScreen = new BackstageWelcomeScreen(this);
-    d->welcomePage = d->welcomeScreen;
-#else
-    d->welcomePage = new QWidget(this);
-#endif
     d->mainViewPage->setLayout(pageLayout);
 
     d->viewStack = new QStackedLayout;
     d->viewStack->setContentsMargins(0, 0, 0, 0);
     d->viewStack->addWidget(d->mainViewPage);
-    d->viewStack->addWidget(d->backstagePage);
-    d->viewStack->addWidget(d->welcomePage);
+    d->viewStack->addWidget(d->backstageView);
+    d->viewStack->addWidget(d->welcomeScreen);
     d->viewStack->setCurrentWidget(d->mainViewPage);
     d->mainLayout->addLayout(d->viewStack);
 
@@ -472,12 +462,10 @@ BackstageView &RibbonMainWindow::backstageView() const
     return *d->backstageView;
 }
 
-#ifdef ZEL_HAS_WELCOME_SCREEN
 BackstageWelcomeScreen &RibbonMainWindow::welcomeScreen() const
 {
     return *d->welcomeScreen;
 }
-#endif
 
 RibbonMainWindow::View RibbonMainWindow::activeView() const
 {

@@ -70,7 +70,8 @@ void RibbonSysButton::paintEvent(QPaintEvent *)
 
     QStyleOptionButton option;
     initStyleOption(&option);
-    const bool hover = option.state & QStyle::State_MouseOver;
+    // Not every style option carries the hover state; the widget knows it in any case.
+    const bool hover = (option.state & QStyle::State_MouseOver) || underMouse();
     const bool pressed = option.state & QStyle::State_Sunken;
 
     const RibbonStyle &style = RibbonApplication::theApp().ribbonStyle();
