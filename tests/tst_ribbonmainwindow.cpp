@@ -47,6 +47,9 @@ private slots:
     void nullCentralWidgetLeavesStretchingArea();
     void showTitleBar();
     void titleRowFollowsView();
+    void frameCell_data();
+    void frameCell();
+    void hideBackstagePanel();
     void hitTest();
     void captionDragMovesWindow();
     void doubleClickOnCaptionMaximizes();
@@ -359,6 +362,67 @@ void tst_RibbonMainWindow::titleRowFollowsView()
     m_window->setActiveView(RibbonMainWindow::MainView);
     QVERIFY(m_window->quickAccessBar().isVisible());
     QVERIFY(sysMenu->isVisible());
+}
+
+void tst_RibbonMainWindow::frameCell_data()
+{
+    QTest::addColumn<QPoint>("offset"); // from the frame's top-left; negative x/y from its right/bottom end
+    QTest::addColumn<int>("row");
+    QTest::addColumn<int>("column");
+
+    const int f = RibbonPlatform::sizingFrameThickness();
+    const int c = RibbonPlatform::captionHeight();
+    QTest::newRow("caption middle") << QPoint(300, f + 2) << int(RibbonPlatform::FrameTop)
+                                    << int(RibbonPlatform::FrameCentre);
+    QTest::newRow("top frame over the menu button") << QPoint(f + 5, 1) << int(RibbonPlatform::FrameTop)
+                                                    << int(RibbonPlatform::FrameCentre);
+    QTest::newRow("menu button") << QPoint(f + 5, f + 5) << int(RibbonPlatform::FrameMiddle)
+                                 << int(RibbonPlatform::FrameCentre);
+    QTest::newRow("right of the menu button") << QPoint(31, f + 5) << int(RibbonPlatform::FrameTop)
+                                              << int(RibbonPlatform::FrameCentre);
+    QTest::newRow("top-left corner") << QPoint(0, 0) << int(RibbonPlatform::FrameTop)
+                                     << int(RibbonPlatform::FrameLeft);
+    QTest::newRow("left side beside the caption") << QPoint(1, f + 3) << int(RibbonPlatform::FrameMiddle)
+                                                  << int(RibbonPlatform::FrameLeft);
+    QTest::newRow("right side beside the caption") << QPoint(-1, f + 3) << int(RibbonPlatform::FrameMiddle)
+                                                   << int(RibbonPlatform::FrameRight);
+    QTest::newRow("below the caption") << QPoint(300, f + c) << int(RibbonPlatform::FrameMiddle)
+                                       << int(RibbonPlatform::FrameCentre);
+    QTest::newRow("bottom frame") << QPoint(300, -1) << int(RibbonPlatform::FrameBottom)
+                                  << int(RibbonPlatform::FrameCentre);
+    QTest::newRow("above the bottom frame") << QPoint(300, -f - 1) << int(RibbonPlatform::FrameMiddle)
+                                            << int(RibbonPlatform::FrameCentre);
+}
+
+void tst_RibbonMainWindow::frameCell()
+{
+    QFETCH(QPoint, offset);
+    QFETCH(int, row);
+    QFETCH(int, column);
+
+    const QRect frame(50, 40, 600, 400);
+    const QPoint p(offset.x() >= 0 ? frame.left() + offset.x() : frame.left() + frame.width() + offset.x(),
+                   offset.y() >= 0 ? frame.top() + offset.y() : frame.top() + frame.height() + offset.y());
+    RibbonPlatform::FrameRow r = RibbonPlatform::FrameBottom;
+    RibbonPlatform::FrameColumn col = RibbonPlatform::FrameLeft;
+    RibbonPlatform::frameCell(frame, p, &r, &col);
+    QCOMPARE(int(r), row);
+    QCOMPARE(int(col), column);
+}
+
+void tst_RibbonMainWindow::hideBackstagePanel()
+{
+    buildWindow();
+    QSignalSpy spy(m_window.get(), SIGNAL(activeViewChanged(int)));
+    m_window->hideBackstagePanel();
+    QCOMPARE(spy.count(), 0);
+
+    m_window->setActiveView(RibbonMainWindow::WelcomeScreen);
+    spy.clear();
+    m_window->hideBackstagePanel();
+    QCOMPARE(m_window->activeView(), RibbonMainWindow::MainView);
+    QCOMPARE(spy.count(), 1);
+    QCOMPARE(spy.at(0).at(0).toInt(), int(RibbonMainWindow::WelcomeScreen));
 }
 
 void tst_RibbonMainWindow::hitTest()
