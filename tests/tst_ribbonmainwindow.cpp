@@ -119,7 +119,7 @@ void tst_RibbonMainWindow::buildWindow(bool show)
     m_tab->addCategory(m_category);
     m_window->ribbonMenuBar().addAction(m_tab);
     if (show) {
-        m_window->setGeometry(100, 100, 800, 500);
+        m_window->setGeometry(100, 100, 900, 700);
         m_window->show();
         QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
     }
@@ -526,7 +526,7 @@ void tst_RibbonMainWindow::systemMenuActions()
     QTRY_VERIFY(m_window->isMaximized());
     action("restoreAction")->trigger();
     QTRY_VERIFY(!m_window->isMaximized());
-    QCOMPARE(m_window->geometry(), QRect(100, 100, 800, 500));
+    QCOMPARE(m_window->geometry(), QRect(100, 100, 900, 700));
     action("minimizeAction")->trigger();
     QTRY_VERIFY(m_window->isMinimized());
     action("restoreAction")->trigger();
@@ -568,7 +568,7 @@ void tst_RibbonMainWindow::systemMenuMoveAndSize_data()
     QTest::addColumn<int>("finishKey");
     QTest::addColumn<QRect>("expected");
 
-    const QRect start(100, 100, 800, 500);
+    const QRect start(100, 100, 900, 700);
     QTest::newRow("move, click") << QStringLiteral("moveAction") << 0 << start.translated(40, 30);
     QTest::newRow("size, click") << QStringLiteral("sizeAction") << 0 << start.adjusted(0, 0, 40, 30);
     QTest::newRow("move, Escape") << QStringLiteral("moveAction") << int(Qt::Key_Escape) << start;
@@ -654,7 +654,7 @@ void tst_RibbonMainWindow::deletedCentralWidgetLeavesStretchingArea()
 void tst_RibbonMainWindow::restoreGeometryRoundTrip()
 {
     buildWindow(false);
-    const QRect normal(60, 70, 640, 420);
+    const QRect normal(60, 70, 760, 660);
     m_window->setRestoreGeometry(normal);
     QCOMPARE(m_window->restoreGeometry(), normal);
     m_window->show();
