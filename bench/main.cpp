@@ -1,0 +1,321 @@
+// Benchmark of the ribbon against a plain-Qt floor in the same run.
+//
+// Without arguments the program runs every workload and kind in a fresh child process
+// (so that the peak resident memory belongs to one workload and kind), prints a table
+// and writes the figures as CSV. With --workload W --kind K it is such a child and
+// prints its figures as "key=value" lines.
+
+#include "Workload.h"
+
+#include "RibbonApplication.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QMap>
+#include <QProcess>
+#include <QTextStream>
+#include <QWidget>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+
+namespace {
+
+using namespace bench;
+
+qint64 statusKb(const char *key)
+{
+    QFile f(QStringLiteral("/proc/self/status"));
+    if (!f.open(QIODevice::ReadOnly))
+        return -1;
+    const QByteArray k(key);
+    for (const QByteArray &line : f.readAll().split('\n')) {
+        if (line.startsWith(k))
+            return line.mid(k.size()).trimmed().split(' ').value(0).toLongLong();
+    }
+    return -1;
+}
+
+double ms(const QElapsedTimer &t)
+{
+    return t.nsecsElapsed() / 1e6;
+}
+
+double median(QVector<double> v)
+{
+    if (v.isEmpty())
+        return -1;
+    std::sort(v.begin(), v.end());
+    const int n = v.size();
+    return n % 2 ? v.at(n / 2) : (v.at(n / 2 - 1) + v.at(n / 2)) / 2;
+}
+
+// Kept out of line so a profiler can collect exactly these two phases
+// (valgrind --toggle-collect='*benchResizeSteps*').
+Q_NEVER_INLINE QVector<double> benchResizeSteps(Kind &kind, int repetitions)
+{
+    QVector<double> times;
+    QWidget *w = kind.window();
+    for (int i = 0; i < repetitions; ++i) {
+        QElapsedTimer t;
+        t.start();
+        w->resize(i % 2 ? 1600 : 600, w->height());
+        settle();
+        times << ms(t);
+    }
+    return times;
+}
+
+Q_NEVER_INLINE QVector<double> benchTabSwitches(Kind &kind, int repetitions)
+{
+    // Cycle through four tabs: these pages have been shown before, as in a session.
+    QVector<double> times;
+    for (int i = 0; i < repetitions; ++i) {
+        QElapsedTimer t;
+        t.start();
+        kind.switchTab((i + 1) % 4);
+        times << ms(t);
+    }
+    return times;
+}
+
+// The offscreen platform reports every window feature it lacks; that is noise here.
+void quietHandler(QtMsgType type, const QMessageLogContext &, const QString &msg)
+{
+    if (type == QtDebugMsg || type == QtInfoMsg || msg.startsWith(QLatin1String("This plugin does not support"))
+        || msg.startsWith(QLatin1String("QStandardPaths:")))
+        return;
+    std::fprintf(stderr, "%s\n", qPrintable(msg));
+}
+
+int child(const QString &workloadName, const QString &kindName, const QString &only)
+{
+    const Workload w = workload(workloadName);
+    if (!w.tabs) {
+        std::fprintf(stderr, "unknown workload %s\n", qPrintable(workloadName));
+        return 2;
+    }
+    std::unique_ptr<Kind> kind = kindName == QLatin1String("floor") ? makeFloorKind() : makeRibbonKind();
+    QMap<QString, double> out;
+
+    icon(0); // the shared icons are not part of any measure
+    int buttons = 0;
+    for (int g = 0; g < w.groups; ++g)
+        for (Slot s : groupSlots(w.commands, g))
+            buttons += buttonsOf(s);
+    buttons *= w.tabs;
+    out[QStringLiteral("buttons")] = buttons;
+
+    const qint64 rssStart = statusKb("VmRSS:");
+    const int widgetsStart = QApplication::allWidgets().size();
+
+    QElapsedTimer t;
+    t.start();
+    kind->buildActions(w);
+    out[QStringLiteral("build_ms")] = ms(t);
+
+    t.start();
+    kind->createAndShow(w);
+    out[QStringLiteral("show_ms")] = ms(t);
+
+    const qint64 rssShown = statusKb("VmRSS:");
+    out[QStringLiteral("widgets")] = QApplication::allWidgets().size() - widgetsStart;
+    out[QStringLiteral("rss_per_button_kb")] = double(rssShown - rssStart) / buttons;
+
+    // One unmeasured round trip so that the first fold is not counted as a step.
+    kind->window()->resize(600, kind->window()->height());
+    settle();
+    kind->window()->resize(1600, kind->window()->height());
+    settle();
+
+    if (only.isEmpty() || only == QLatin1String("resize"))
+        out[QStringLiteral("resize_ms")] = median(benchResizeSteps(*kind, w.repetitions));
+    if (only.isEmpty() || only == QLatin1String("switch")) {
+        kind->switchTab(1); kind->switchTab(2); kind->switchTab(3); kind->switchTab(0);
+        out[QStringLiteral("switch_ms")] = median(benchTabSwitches(*kind, w.repetitions));
+    }
+
+    if (only.isEmpty()) {
+        kind->switchTab(0);
+        kind->window()->resize(600, kind->window()->height());
+        settle();
+        out[QStringLiteral("folded_at_600")] = kind->foldedCount();
+        QVector<double> open, close;
+        for (int i = 0; i < w.popupRepetitions; ++i) {
+            t.start();
+            if (!kind->openFoldedPopup())
+                break;
+            open << ms(t);
+            t.start();
+            kind->closeFoldedPopup();
+            close << ms(t);
+        }
+        out[QStringLiteral("folded_popup_open_ms")] = median(open);
+        out[QStringLiteral("folded_popup_close_ms")] = median(close);
+
+        kind->window()->resize(1600, kind->window()->height());
+        settle();
+        kind->prepareMinimised();
+        open.clear();
+        close.clear();
+        for (int i = 0; i < w.popupRepetitions; ++i) {
+            t.start();
+            kind->openMinimisedPopup(i % 2);
+            open << ms(t);
+            t.start();
+            kind->closeMinimisedPopup();
+            close << ms(t);
+        }
+        out[QStringLiteral("minimised_popup_open_ms")] = median(open);
+        out[QStringLiteral("minimised_popup_close_ms")] = median(close);
+    }
+
+    out[QStringLiteral("peak_rss_mb")] = statusKb("VmHWM:") / 1024.0;
+    for (auto it = out.cbegin(); it != out.cend(); ++it)
+        std::printf("%s=%.4f\n", qPrintable(it.key()), it.value());
+    std::fflush(stdout);
+    return 0;
+}
+
+struct Metric
+{
+    const char *key;
+    const char *label;
+    bool time;
+};
+
+const Metric metrics[] = {
+    {"build_ms", "build action tree (ms)", true},
+    {"show_ms", "create + add tabs + show to first paint (ms)", true},
+    {"resize_ms", "resize step 1600<->600, median (ms)", true},
+    {"switch_ms", "tab switch, median (ms)", true},
+    {"folded_popup_open_ms", "folded group popup open, median (ms)", true},
+    {"folded_popup_close_ms", "folded group popup close, median (ms)", true},
+    {"minimised_popup_open_ms", "minimised ribbon popup open, median (ms)", true},
+    {"minimised_popup_close_ms", "minimised ribbon popup close, median (ms)", true},
+    {"peak_rss_mb", "peak resident memory (MB)", false},
+    {"rss_per_button_kb", "resident memory per button (KB)", false},
+    {"widgets", "widgets created", false},
+    {"folded_at_600", "groups folded at 600 px", false},
+};
+
+QMap<QString, double> runChild(const QString &self, const QString &wl, const QString &kind)
+{
+    QProcess p;
+    p.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    p.start(self, {QStringLiteral("--workload"), wl, QStringLiteral("--kind"), kind});
+    p.waitForFinished(-1);
+    QMap<QString, double> r;
+    for (const QByteArray &line : p.readAllStandardOutput().split('\n')) {
+        const int eq = line.indexOf('=');
+        if (eq > 0)
+            r[QString::fromLatin1(line.left(eq))] = line.mid(eq + 1).toDouble();
+    }
+    if (p.exitCode() != 0 || r.isEmpty())
+        std::fprintf(stderr, "child %s/%s failed (exit %d)\n", qPrintable(wl), qPrintable(kind), p.exitCode());
+    return r;
+}
+
+// Least-squares slope of log(value) against log(buttons).
+double exponent(const QVector<double> &x, const QVector<double> &y)
+{
+    double sx = 0, sy = 0, sxx = 0, sxy = 0;
+    int n = 0;
+    for (int i = 0; i < x.size(); ++i) {
+        if (x.at(i) <= 0 || y.at(i) <= 0)
+            continue;
+        const double lx = std::log(x.at(i)), ly = std::log(y.at(i));
+        sx += lx; sy += ly; sxx += lx * lx; sxy += lx * ly;
+        ++n;
+    }
+    if (n < 2)
+        return NAN;
+    return (n * sxy - sx * sy) / (n * sxx - sx * sx);
+}
+
+int parent(const QStringList &workloads, const QString &csvPath)
+{
+    const QString self = QCoreApplication::applicationFilePath();
+    QMap<QString, QMap<QString, double>> ribbon, floor;
+    for (const QString &wl : workloads) {
+        std::fprintf(stderr, "running %s ...\n", qPrintable(wl));
+        ribbon[wl] = runChild(self, wl, QStringLiteral("ribbon"));
+        floor[wl] = runChild(self, wl, QStringLiteral("floor"));
+    }
+
+    QFile csv(csvPath);
+    const bool writeCsv = csv.open(QIODevice::WriteOnly | QIODevice::Truncate);
+    QTextStream cs(&csv);
+    cs << "workload,buttons,metric,zelRibbon,floor,ratio\n";
+    for (const QString &wl : workloads) {
+        const Workload w = workload(wl);
+        std::printf("\nWorkload %s: %d tabs x %d groups x %d commands = %.0f buttons (repetitions %d, popups %d)\n",
+                    qPrintable(wl), w.tabs, w.groups, w.commands, ribbon[wl].value(QStringLiteral("buttons")),
+                    w.repetitions, w.popupRepetitions);
+        std::printf("  %-46s %12s %12s %8s\n", "measure", "zelRibbon", "floor", "ratio");
+        for (const Metric &m : metrics) {
+            const QString key = QString::fromLatin1(m.key);
+            const double a = ribbon[wl].value(key, -1), b = floor[wl].value(key, -1);
+            const double ratio = b > 0 && a >= 0 ? a / b : NAN;
+            std::printf("  %-46s %12.3f %12.3f %8.2f\n", m.label, a, b, ratio);
+            cs << wl << ',' << ribbon[wl].value(QStringLiteral("buttons")) << ',' << key << ','
+               << a << ',' << b << ',' << ratio << '\n';
+        }
+    }
+    if (workloads.size() >= 2) {
+        std::printf("\nGrowth exponent (slope of log(time) over log(buttons), %s):\n",
+                    qPrintable(workloads.join(QLatin1Char('/'))));
+        std::printf("  %-46s %12s %12s\n", "measure", "zelRibbon", "floor");
+        for (const Metric &m : metrics) {
+            if (!m.time && QLatin1String(m.key) != QLatin1String("peak_rss_mb")
+                && QLatin1String(m.key) != QLatin1String("widgets"))
+                continue;
+            const QString key = QString::fromLatin1(m.key);
+            QVector<double> x, yr, yf;
+            for (const QString &wl : workloads) {
+                x << ribbon[wl].value(QStringLiteral("buttons"));
+                yr << ribbon[wl].value(key, -1);
+                yf << floor[wl].value(key, -1);
+            }
+            const double er = exponent(x, yr), ef = exponent(x, yf);
+            std::printf("  %-46s %12.2f %12.2f\n", m.label, er, ef);
+            cs << "growth,," << key << ',' << er << ',' << ef << ",\n";
+        }
+    }
+    std::fflush(stdout);
+    if (writeCsv)
+        std::fprintf(stderr, "\nwrote %s\n", qPrintable(csvPath));
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QStringList args;
+    for (int i = 0; i < argc; ++i)
+        args << QString::fromLocal8Bit(argv[i]);
+    QCommandLineParser parser;
+    parser.addOption({QStringLiteral("workload"), QStringLiteral("Child: workload S, M or L."), QStringLiteral("W")});
+    parser.addOption({QStringLiteral("kind"), QStringLiteral("Child: ribbon or floor."), QStringLiteral("K")});
+    parser.addOption({QStringLiteral("only"), QStringLiteral("Child: only the resize or switch measure (profiling)."),
+                      QStringLiteral("M")});
+    parser.addOption({QStringLiteral("workloads"), QStringLiteral("Workloads to run, comma separated (S,M,L)."),
+                      QStringLiteral("LIST"), QStringLiteral("S,M,L")});
+    parser.addOption({QStringLiteral("csv"), QStringLiteral("CSV output file."), QStringLiteral("FILE"),
+                      QStringLiteral("bench-results.csv")});
+    parser.addHelpOption();
+    parser.process(args);
+
+    if (parser.isSet(QStringLiteral("workload"))) {
+        qInstallMessageHandler(quietHandler);
+        zel::RibbonApplication app(argc, argv);
+        return child(parser.value(QStringLiteral("workload")), parser.value(QStringLiteral("kind")),
+                     parser.value(QStringLiteral("only")));
+    }
+    QCoreApplication app(argc, argv);
+    return parent(parser.value(QStringLiteral("workloads")).split(QLatin1Char(',')), parser.value(QStringLiteral("csv")));
+}
