@@ -384,8 +384,15 @@ void RibbonMenuBar::addPanelAction(RibbonCategoriesPanelAction *tab)
     button->show();
     d->tabButtons.insert(tab, button);
 
-    if (checked)
+    if (checked) {
+        // QActionGroup takes a checked newcomer as its current action without
+        // unchecking the previous one; do that here so that one tab stays current.
+        for (QAction *other : d->group->actions()) {
+            if (other != tab && other->isChecked())
+                other->setChecked(false);
+        }
         tab->setChecked(true);
+    }
     ensureChecked();
 }
 
@@ -426,7 +433,11 @@ void RibbonMenuBar::ensureChecked()
     if (isRibbonMinimized())
         return;
     const QList<QAction *> tabs = d->group->actions();
-    if (!tabs.isEmpty() && !d->group->checkedAction())
+    for (QAction *tab : tabs) {
+        if (tab->isChecked())
+            return;
+    }
+    if (!tabs.isEmpty())
         tabs.first()->setChecked(true);
 }
 
