@@ -1,10 +1,13 @@
 #include "DemoScreens.h"
+#include "EditorDemo.h"
 
 #include "RibbonApplication.h"
 
+#include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
 #include <QPixmap>
+#include <QSettings>
 #include <QTabWidget>
 #include <QTextStream>
 #include <QWidget>
@@ -56,6 +59,8 @@ int writeScreenshots(const QString &dir)
         }
         out << "  " << file << '\n';
     }
+    if (writeEditorScreenshots(QDir(dir)) != 0)
+        return 1;
     out << "Screenshots written to " << QDir(dir).absolutePath() << '\n';
     return 0;
 }
@@ -65,6 +70,13 @@ int writeScreenshots(const QString &dir)
 int main(int argc, char *argv[])
 {
     zel::RibbonApplication app(argc, argv);
+    QCoreApplication::setOrganizationName(QStringLiteral("zelRibbon"));
+    QCoreApplication::setApplicationName(QStringLiteral("zelRibbon Writer"));
+    // The ribbon's geometry is made for the usual 9-point desktop UI font.
+    QFont uiFont = QApplication::font();
+    uiFont.setPointSize(9);
+    QApplication::setFont(uiFont);
+
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("zelRibbon demo host"));
     parser.addHelpOption();
@@ -72,11 +84,29 @@ int main(int argc, char *argv[])
                              QStringLiteral("Render every screen to a PNG file in <dir> and exit."),
                              QStringLiteral("dir"));
     parser.addOption(shots);
+    QCommandLineOption screens(QStringLiteral("screens"),
+                               QStringLiteral("Show the individual demo screens instead of the editor."));
+    parser.addOption(screens);
+    QCommandLineOption xvfbCheck(QStringLiteral("xvfb-check"),
+                                 QStringLiteral("Show the editor, grab the screen into <file> and check that "
+                                                "the ribbon is on it (exit code 0 when it is)."),
+                                 QStringLiteral("file"));
+    parser.addOption(xvfbCheck);
     parser.process(app);
 
     sortScreens();
     if (parser.isSet(shots))
         return writeScreenshots(parser.value(shots));
+    if (parser.isSet(xvfbCheck))
+        return runXvfbCheck(parser.value(xvfbCheck));
+
+    if (!parser.isSet(screens)) {
+        QSettings settings;
+        EditorDemo editor(settings);
+        editor.resize(1280, 800);
+        editor.show();
+        return app.exec();
+    }
 
     QTabWidget window;
     window.setWindowTitle(QStringLiteral("zelRibbon demo"));

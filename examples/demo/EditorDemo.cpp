@@ -1,0 +1,1289 @@
+#include "EditorDemo.h"
+
+#include "EditorDemoIcons.h"
+
+#include "BackstageListModel.h"
+#include "BackstageView.h"
+#include "BackstageWelcomeScreen.h"
+#include "RibbonCatActionGroup.h"
+#include "RibbonCatComboAction.h"
+#include "RibbonCatFontFamilyAction.h"
+#include "RibbonCatMenuAction.h"
+#include "RibbonCatSimpleAction.h"
+#include "RibbonCategoriesPanelAction.h"
+#include "RibbonCategoryAction.h"
+#include "RibbonContextCategoryPanel.h"
+#include "RibbonContextCategoryPanelAction.h"
+#include "RibbonMenuBar.h"
+#include "RibbonPercAction.h"
+#include "RibbonQuickAccessBar.h"
+#include "RibbonSimpleAction.h"
+#include "RibbonStatusBar.h"
+
+#include <QAbstractItemDelegate>
+#include <QApplication>
+#include <QBuffer>
+#include <QClipboard>
+#include <QCloseEvent>
+#include <QDateTime>
+#include <QFile>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QInputDialog>
+#include <QLabel>
+#include <QLinearGradient>
+#include <QListView>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QSettings>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocumentWriter>
+#include <QTextEdit>
+#include <QTextList>
+#include <QTextStream>
+#include <QTextTable>
+#include <QToolButton>
+#include <QUrl>
+#include <QVBoxLayout>
+
+#include <cmath>
+
+using namespace zel;
+
+namespace {
+
+const QString AppName = QStringLiteral("Writer");
+const QString KeyRecent = QStringLiteral("editor/recentDocuments");
+const QString KeyHiddenQuick = QStringLiteral("editor/hiddenQuickAccess");
+const QString KeyMinimised = QStringLiteral("editor/ribbonMinimised");
+
+const QList<int> FontSizes = {8, 9, 10, 11, 12, 14, 16, 18, 20, 22, 24, 28, 36, 48, 72};
+
+// The document area: a grey desk with the text as a white page of fixed width.
+class PageEdit : public QTextEdit
+{
+public:
+    explicit PageEdit(QWidget *parent)
+        : QTextEdit(parent)
+    {
+        setFrameShape(QFrame::NoFrame);
+        setAutoFillBackground(true);
+        QPalette pal = palette();
+        pal.setColor(QPalette::Base, Qt::white);
+        pal.setColor(QPalette::Window, QColor(0xE6, 0xE6, 0xE6));
+        setPalette(pal);
+        viewport()->setAutoFillBackground(true);
+        updatePage();
+    }
+
+    // Zoom as a percentage of the 100 % text size.
+    void setZoom(int percent)
+    {
+        if (percent == m_zoom)
+            return;
+        m_zoom = percent;
+        QFont f = font();
+        f.setPointSizeF(m_baseSize * m_zoom / 100.0);
+        setFont(f);
+        relayout();
+    }
+    int zoom() const { return m_zoom; }
+    void setBaseSize(qreal points)
+    {
+        m_baseSize = points;
+        QFont f = font();
+        f.setPointSizeF(m_baseSize * m_zoom / 100.0);
+        setFont(f);
+        relayout();
+    }
+
+    // The page margins follow the window, so they must not hold the window wide.
+    QSize minimumSizeHint() const override { return QSize(160, 120); }
+    QSize sizeHint() const override { return QSize(760, 480); }
+
+protected:
+    void resizeEvent(QResizeEvent *event) override
+    {
+        updatePage();
+        QTextEdit::resizeEvent(event);
+    }
+
+private:
+    void relayout()
+    {
+        updatePage();
+        QResizeEvent again(size(), size());
+        QTextEdit::resizeEvent(&again);
+    }
+
+    void updatePage()
+    {
+        // A page column that grows with the zoom, centred on the grey desk.
+        const int pageWidth = int(std::lround(760 * m_zoom / 100.0));
+        const int side = qMax(0, (width() - verticalScrollBar()->sizeHint().width() - pageWidth) / 2);
+        setViewportMargins(side, 0, side, 0);
+        document()->setDocumentMargin(qMax(16, 56 * m_zoom / 100));
+    }
+
+    int m_zoom = 100;
+    qreal m_baseSize = 11;
+};
+
+// Rows of the Open page's recent list: name, folder and a pin at the right.
+class RecentDelegate : public QAbstractItemDelegate
+{
+public:
+    using QAbstractItemDelegate::QAbstractItemDelegate;
+
+    static QRect pinRect(const QRect &row) { return QRect(row.right() - 34, row.center().y() - 10, 20, 20); }
+
+    void paint(QPainter *p, const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        const auto entry = index.data(Qt::UserRole).value<QSharedPointer<BackstageListItem>>();
+        if (!entry)
+            return;
+        p->save();
+        p->setRenderHint(QPainter::Antialiasing);
+        if (entry->isSeparator()) {
+            const int y = option.rect.center().y();
+            p->setPen(QColor(225, 225, 225));
+            p->drawLine(option.rect.left() + 8, y, option.rect.right() - 8, y);
+            p->restore();
+            return;
+        }
+        if (option.state & QStyle::State_MouseOver)
+            p->fillRect(option.rect, QColor(213, 225, 242));
+        const QFileInfo info(entry->path());
+        p->drawPixmap(option.rect.left() + 10, option.rect.center().y() - 16,
+                      editorIcon(EditorIcon::Page).pixmap(32, 32));
+        const QRect text = option.rect.adjusted(52, 7, -48, -7);
+        QFont name = option.font;
+        name.setPointSizeF(name.pointSizeF() + 1.5);
+        p->setFont(name);
+        p->setPen(QColor(38, 38, 38));
+        p->drawText(text, Qt::AlignLeft | Qt::AlignTop, info.fileName());
+        p->setFont(option.font);
+        p->setPen(QColor(110, 110, 110));
+        p->drawText(text, Qt::AlignLeft | Qt::AlignBottom,
+                    p->fontMetrics().elidedText(QDir::toNativeSeparators(info.path()), Qt::ElideMiddle,
+                                                text.width()));
+        if (entry->isPinned() || (option.state & QStyle::State_MouseOver))
+            drawPin(*p, pinRect(option.rect), entry->isPinned());
+        p->restore();
+    }
+
+    QSize sizeHint(const QStyleOptionViewItem &, const QModelIndex &index) const override
+    {
+        const auto entry = index.data(Qt::UserRole).value<QSharedPointer<BackstageListItem>>();
+        return QSize(420, entry && entry->isSeparator() ? 9 : 50);
+    }
+
+private:
+    static void drawPin(QPainter &p, const QRect &r, bool pinned)
+    {
+        p.save();
+        p.translate(r.center());
+        if (!pinned)
+            p.rotate(90);
+        const QColor ink(0x40, 0x40, 0x40);
+        p.setPen(QPen(ink, 1.4));
+        p.setBrush(pinned ? QColor(0x2B, 0x57, 0x9A) : QColor(Qt::white));
+        p.drawRoundedRect(QRectF(-3.5, -8, 7, 9), 1.5, 1.5);
+        p.drawLine(QPointF(-6, 1), QPointF(6, 1));
+        p.drawLine(QPointF(0, 1), QPointF(0, 8));
+        p.restore();
+    }
+};
+
+// A white pane of the File page with a large title.
+QWidget *titledPane(const QString &title, QVBoxLayout *&body)
+{
+    auto *pane = new QWidget;
+    pane->setAutoFillBackground(true);
+    QPalette pal = pane->palette();
+    pal.setColor(QPalette::Window, Qt::white);
+    pane->setPalette(pal);
+    auto *layout = new QVBoxLayout(pane);
+    layout->setContentsMargins(40, 28, 40, 20);
+    layout->setSpacing(12);
+    auto *label = new QLabel(title, pane);
+    QFont big = label->font();
+    big.setPointSizeF(big.pointSizeF() * 2.6);
+    big.setWeight(QFont::Light);
+    label->setFont(big);
+    label->setStyleSheet(QStringLiteral("color: #444444;"));
+    layout->addWidget(label);
+    layout->addSpacing(8);
+    body = layout;
+    return pane;
+}
+
+QToolButton *tileButton(const QString &text, const QIcon &icon, QWidget *parent)
+{
+    auto *tile = new QToolButton(parent);
+    tile->setText(text);
+    tile->setIcon(icon);
+    tile->setIconSize(QSize(32, 32));
+    tile->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+    tile->setAutoRaise(true);
+    tile->setFixedSize(120, 96);
+    tile->setStyleSheet(QStringLiteral(
+        "QToolButton { border: 1px solid #D0D0D0; background: #FAFAFA; color: #262626; }"
+        "QToolButton:hover { border-color: #7AB0E7; background: #D5E1F2; }"
+        "QToolButton:pressed { background: #A3BDE3; }"));
+    return tile;
+}
+
+// A generated picture: a small bar chart with a soft background.
+QImage makeChartPicture(int seed)
+{
+    QImage image(240, 150, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::white);
+    QPainter p(&image);
+    p.setRenderHint(QPainter::Antialiasing);
+    QLinearGradient back(0, 0, 0, 150);
+    back.setColorAt(0, QColor(0xF4, 0xF8, 0xFD));
+    back.setColorAt(1, QColor(0xDD, 0xE8, 0xF6));
+    p.fillRect(image.rect(), back);
+    p.setPen(QPen(QColor(0xB8, 0xC8, 0xDE), 1));
+    for (int y = 30; y <= 120; y += 30)
+        p.drawLine(16, y, 224, y);
+    const QColor colors[3] = {EditorColors::Accent, QColor(0x4A, 0x9A, 0xD8), QColor(0xF0, 0x96, 0x09)};
+    for (int i = 0; i < 6; ++i) {
+        const int h = 30 + ((i * 37 + seed * 23) % 80);
+        p.setPen(Qt::NoPen);
+        p.setBrush(colors[(i + seed) % 3]);
+        p.drawRoundedRect(QRectF(26 + i * 33, 128 - h, 22, h), 2, 2);
+    }
+    p.setPen(QPen(QColor(0x60, 0x60, 0x60), 1.5));
+    p.drawLine(16, 128, 224, 128);
+    return image;
+}
+
+QPixmap templatePreview(bool letter)
+{
+    QPixmap page(138, 178);
+    page.fill(Qt::white);
+    QPainter p(&page);
+    p.setPen(Qt::NoPen);
+    if (letter) {
+        p.fillRect(QRect(14, 16, 70, 8), EditorColors::Accent);
+        p.setBrush(QColor(200, 200, 200));
+        for (int y = 40; y < 160; y += 10)
+            p.drawRect(QRect(14, y, y % 30 ? 110 : 80, 3));
+    } else {
+        p.fillRect(QRect(0, 0, 138, 52), EditorColors::Accent);
+        p.fillRect(QRect(14, 20, 90, 10), Qt::white);
+        p.setBrush(QColor(200, 200, 200));
+        for (int y = 66; y < 120; y += 9)
+            p.drawRect(QRect(14, y, 110, 3));
+        p.setBrush(QColor(0xDD, 0xE8, 0xF6));
+        p.drawRect(QRect(14, 126, 110, 38));
+    }
+    return page;
+}
+
+} // namespace
+
+struct EditorDemo::Priv
+{
+    QSettings *settings = nullptr;
+    PageEdit *edit = nullptr;
+    QString path;
+    int untitled = 1;
+    int pictures = 0;
+    bool syncing = false;
+
+    BackstageListModel *recent = nullptr;
+    QListView *recentView = nullptr;
+
+    RibbonCatFontFamilyAction *family = nullptr;
+    RibbonCatComboAction *size = nullptr;
+    RibbonCatSimpleAction *bold = nullptr;
+    RibbonCatSimpleAction *italic = nullptr;
+    RibbonCatSimpleAction *underline = nullptr;
+    RibbonCatSimpleAction *strike = nullptr;
+    RibbonCatSimpleAction *alignLeft = nullptr;
+    RibbonCatSimpleAction *alignCenter = nullptr;
+    RibbonCatSimpleAction *alignRight = nullptr;
+    RibbonCatSimpleAction *justify = nullptr;
+    RibbonCatSimpleAction *bullets = nullptr;
+    RibbonCatSimpleAction *numbering = nullptr;
+    RibbonCatSimpleAction *cut = nullptr;
+    RibbonCatSimpleAction *copy = nullptr;
+    RibbonCatSimpleAction *minimise = nullptr;
+    RibbonSimpleAction *quickUndo = nullptr;
+    RibbonSimpleAction *quickRedo = nullptr;
+
+    RibbonContextCategoryPanelAction *tableTools = nullptr;
+    RibbonContextCategoryPanelAction *pictureTools = nullptr;
+    RibbonCategoriesPanelAction *home = nullptr;
+
+    RibbonCatMenuAction *pageStatus = nullptr;
+    RibbonCatMenuAction *wordStatus = nullptr;
+    RibbonPercAction *zoom = nullptr;
+};
+
+EditorDemo::EditorDemo(QSettings &settings, QWidget *parent)
+    : RibbonMainWindow(parent)
+    , d(new Priv)
+{
+    d->settings = &settings;
+    QFont uiFont = font();
+    uiFont.setPointSize(9);
+    setFont(uiFont);
+
+    d->edit = new PageEdit(this);
+    d->edit->setAcceptRichText(true);
+    QFont textFont(QStringLiteral("DejaVu Sans"));
+    textFont.setPointSize(11);
+    d->edit->setFont(textFont);
+    d->edit->setBaseSize(11);
+    setCentralWidget(d->edit);
+    QTextEdit *edit = d->edit;
+
+    // Recent documents, restored with their pins.
+    d->recent = new BackstageListModel(this, 12);
+    d->recent->restoreState(settings.value(KeyRecent).toList());
+
+    // ---- Quick-access toolbar: the hidden list first, then the commands.
+    RibbonQuickAccessBar &quick = quickAccessBar();
+    quick.setQuickAccessBarItems(settings.value(KeyHiddenQuick).toStringList());
+    auto quickCommand = [&](EditorIcon icon, const QString &text, const QString &name, const QString &shortcut) {
+        auto *a = new RibbonSimpleAction(editorIcon(icon), text, this);
+        a->setData(name);
+        a->setToolTip(shortcut.isEmpty() ? text : QStringLiteral("%1 (%2)").arg(text, shortcut));
+        quick.addAction(a);
+        return a;
+    };
+    RibbonSimpleAction *quickSave = quickCommand(EditorIcon::Save, tr("Save"), QStringLiteral("quick.save"), tr("Ctrl+S"));
+    d->quickUndo = quickCommand(EditorIcon::Undo, tr("Undo"), QStringLiteral("quick.undo"), tr("Ctrl+Z"));
+    d->quickRedo = quickCommand(EditorIcon::Redo, tr("Redo"), QStringLiteral("quick.redo"), tr("Ctrl+Y"));
+    connect(quickSave, &QAction::triggered, this, &EditorDemo::save);
+    connect(d->quickUndo, &QAction::triggered, edit, &QTextEdit::undo);
+    connect(d->quickRedo, &QAction::triggered, edit, &QTextEdit::redo);
+    d->quickUndo->setEnabled(false);
+    d->quickRedo->setEnabled(false);
+    connect(edit, &QTextEdit::undoAvailable, d->quickUndo, &QAction::setEnabled);
+    connect(edit, &QTextEdit::redoAvailable, d->quickRedo, &QAction::setEnabled);
+
+    RibbonMenuBar &bar = ribbonMenuBar();
+    auto simple = [this](EditorIcon icon, const QString &text, RibbonCatSimpleAction::eSize size) {
+        auto *a = new RibbonCatSimpleAction(editorIcon(icon), text, size, this);
+        a->setToolTip(text);
+        return a;
+    };
+    using S = RibbonCatSimpleAction;
+
+    // ---- HOME
+    d->home = new RibbonCategoriesPanelAction(tr("Home"), this);
+
+    auto *clipboard = new RibbonCategoryAction(editorIcon(EditorIcon::Paste), tr("Clipboard"), this);
+    auto *paste = new RibbonCatMenuAction(editorIcon(EditorIcon::Paste), tr("Paste"), RibbonCatMenuAction::MenuTypeButton,
+                                          RibbonCatMenuAction::MenuSizeLarge, RibbonCatMenuAction::PopupMenu, this);
+    auto *pasteNow = new RibbonSimpleAction(editorIcon(EditorIcon::Paste), tr("Paste"), this);
+    pasteNow->setToolTip(tr("Paste (Ctrl+V)"));
+    auto *pasteText = new RibbonSimpleAction(editorIcon(EditorIcon::Words), tr("Paste as Text"), this);
+    paste->addAction(pasteNow, true);
+    paste->addAction(pasteText, false);
+    connect(pasteNow, &QAction::triggered, edit, &QTextEdit::paste);
+    connect(pasteText, &QAction::triggered, this, [edit] {
+        edit->textCursor().insertText(QApplication::clipboard()->text());
+    });
+    d->cut = simple(EditorIcon::Cut, tr("Cut"), S::SizeMedium);
+    d->copy = simple(EditorIcon::Copy, tr("Copy"), S::SizeMedium);
+    connect(d->cut, &QAction::triggered, edit, &QTextEdit::cut);
+    connect(d->copy, &QAction::triggered, edit, &QTextEdit::copy);
+    d->cut->setEnabled(false);
+    d->copy->setEnabled(false);
+    connect(edit, &QTextEdit::copyAvailable, d->cut, &QAction::setEnabled);
+    connect(edit, &QTextEdit::copyAvailable, d->copy, &QAction::setEnabled);
+    auto *selectAll = simple(EditorIcon::SelectAll, tr("Select All"), S::SizeMedium);
+    connect(selectAll, &QAction::triggered, edit, &QTextEdit::selectAll);
+    clipboard->addAction(paste, -1);
+    clipboard->addAction(d->cut, -1);
+    clipboard->addAction(d->copy, -1);
+    clipboard->addAction(selectAll, -1);
+    d->home->addCategory(clipboard);
+
+    auto *fontCategory = new RibbonCategoryAction(editorIcon(EditorIcon::Bold), tr("Font"), this);
+    d->family = new RibbonCatFontFamilyAction(textFont, this);
+    d->family->setToolTip(tr("Font"));
+    d->size = new RibbonCatComboAction(this);
+    for (int s : FontSizes)
+        d->size->addItem(QString::number(s));
+    d->size->setWidth(48);
+    d->size->setToolTip(tr("Font Size"));
+    d->size->setSelectionText(QStringLiteral("11"));
+    auto *growShrink = new RibbonCatActionGroup(this);
+    auto *grow = simple(EditorIcon::Grow, tr("Grow Font"), S::SizeSmall);
+    auto *shrink = simple(EditorIcon::Shrink, tr("Shrink Font"), S::SizeSmall);
+    growShrink->addAction(grow, false);
+    growShrink->addAction(shrink, false);
+    auto *styleGroup = new RibbonCatActionGroup(this);
+    d->bold = simple(EditorIcon::Bold, tr("Bold"), S::SizeSmall);
+    d->italic = simple(EditorIcon::Italic, tr("Italic"), S::SizeSmall);
+    d->underline = simple(EditorIcon::Underline, tr("Underline"), S::SizeSmall);
+    d->strike = simple(EditorIcon::Strikethrough, tr("Strikethrough"), S::SizeSmall);
+    d->bold->setToolTip(tr("Bold (Ctrl+B)"));
+    d->italic->setToolTip(tr("Italic (Ctrl+I)"));
+    d->underline->setToolTip(tr("Underline (Ctrl+U)"));
+    for (RibbonCatSimpleAction *a : {d->bold, d->italic, d->underline, d->strike}) {
+        a->setCheckable(true);
+        styleGroup->addAction(a, false);
+    }
+    auto *clear = simple(EditorIcon::ClearFormat, tr("Clear Formatting"), S::SizeSmall);
+    auto *clearGroup = new RibbonCatActionGroup(this);
+    clearGroup->addAction(clear, false);
+    fontCategory->addAction(d->family, 0);
+    fontCategory->addAction(d->size, 0);
+    fontCategory->addAction(growShrink, 0);
+    fontCategory->addAction(styleGroup, 1);
+    fontCategory->addAction(clearGroup, 1);
+    d->home->addCategory(fontCategory);
+
+    auto *paragraph = new RibbonCategoryAction(editorIcon(EditorIcon::AlignLeft), tr("Paragraph"), this);
+    auto *lists = new RibbonCatActionGroup(this);
+    d->bullets = simple(EditorIcon::Bullets, tr("Bullets"), S::SizeSmall);
+    d->numbering = simple(EditorIcon::Numbering, tr("Numbering"), S::SizeSmall);
+    for (RibbonCatSimpleAction *a : {d->bullets, d->numbering}) {
+        a->setCheckable(true);
+        lists->addAction(a, false);
+    }
+    auto *align = new RibbonCatActionGroup(this);
+    align->setExclusive(true);
+    d->alignLeft = simple(EditorIcon::AlignLeft, tr("Align Left"), S::SizeSmall);
+    d->alignCenter = simple(EditorIcon::AlignCenter, tr("Center"), S::SizeSmall);
+    d->alignRight = simple(EditorIcon::AlignRight, tr("Align Right"), S::SizeSmall);
+    d->justify = simple(EditorIcon::Justify, tr("Justify"), S::SizeSmall);
+    for (RibbonCatSimpleAction *a : {d->alignLeft, d->alignCenter, d->alignRight, d->justify}) {
+        a->setCheckable(true);
+        align->addAction(a, false);
+    }
+    d->alignLeft->setChecked(true);
+    paragraph->addAction(lists, 0);
+    paragraph->addAction(align, 1);
+    d->home->addCategory(paragraph);
+
+    auto *editing = new RibbonCategoryAction(editorIcon(EditorIcon::Find), tr("Editing"), this);
+    auto *find = simple(EditorIcon::Find, tr("Find"), S::SizeLarge);
+    find->setToolTip(tr("Find text in the document"));
+    connect(find, &QAction::triggered, this, [this, edit] {
+        bool ok = false;
+        const QString text = QInputDialog::getText(this, tr("Find"), tr("Find what:"), QLineEdit::Normal,
+                                                   edit->textCursor().selectedText(), &ok);
+        if (!ok || text.isEmpty())
+            return;
+        if (!edit->find(text)) {
+            edit->moveCursor(QTextCursor::Start);
+            if (!edit->find(text))
+                QMessageBox::information(this, AppName, tr("\"%1\" was not found.").arg(text));
+        }
+    });
+    editing->addAction(find, -1);
+    d->home->addCategory(editing);
+
+    // Formatting commands.
+    auto mergeFormat = [this](const QTextCharFormat &format) {
+        if (d->syncing)
+            return;
+        QTextCursor cursor = d->edit->textCursor();
+        if (!cursor.hasSelection())
+            cursor.select(QTextCursor::WordUnderCursor);
+        cursor.mergeCharFormat(format);
+        d->edit->mergeCurrentCharFormat(format);
+        d->edit->setFocus();
+    };
+    connect(d->bold, &QAction::triggered, this, [mergeFormat](bool on) {
+        QTextCharFormat f;
+        f.setFontWeight(on ? QFont::Bold : QFont::Normal);
+        mergeFormat(f);
+    });
+    connect(d->italic, &QAction::triggered, this, [mergeFormat](bool on) {
+        QTextCharFormat f;
+        f.setFontItalic(on);
+        mergeFormat(f);
+    });
+    connect(d->underline, &QAction::triggered, this, [mergeFormat](bool on) {
+        QTextCharFormat f;
+        f.setFontUnderline(on);
+        mergeFormat(f);
+    });
+    connect(d->strike, &QAction::triggered, this, [mergeFormat](bool on) {
+        QTextCharFormat f;
+        f.setFontStrikeOut(on);
+        mergeFormat(f);
+    });
+    connect(d->family, &RibbonCatFontFamilyAction::fontFamilyChanged, this, [mergeFormat](const QFont &font) {
+        QTextCharFormat f;
+        f.setFontFamily(font.family());
+        mergeFormat(f);
+    });
+    connect(d->size, &RibbonCatComboAction::selectionTextChanged, this, [this, mergeFormat] {
+        bool ok = false;
+        const qreal points = d->size->selectionText().toDouble(&ok);
+        if (!ok || points < 1 || points > 400)
+            return;
+        QTextCharFormat f;
+        f.setFontPointSize(points);
+        mergeFormat(f);
+    });
+    auto stepSize = [this, mergeFormat](int direction) {
+        const qreal current = d->edit->currentCharFormat().fontPointSize() > 0
+            ? d->edit->currentCharFormat().fontPointSize() : 11;
+        int next = direction > 0 ? FontSizes.last() : FontSizes.first();
+        for (int s : FontSizes) {
+            if (direction > 0 && s > current) {
+                next = s;
+                break;
+            }
+            if (direction < 0 && s < current)
+                next = s;
+        }
+        QTextCharFormat f;
+        f.setFontPointSize(next);
+        mergeFormat(f);
+    };
+    connect(grow, &QAction::triggered, this, [stepSize] { stepSize(1); });
+    connect(shrink, &QAction::triggered, this, [stepSize] { stepSize(-1); });
+    connect(clear, &QAction::triggered, this, [this] {
+        QTextCursor cursor = d->edit->textCursor();
+        if (!cursor.hasSelection())
+            cursor.select(QTextCursor::BlockUnderCursor);
+        cursor.setCharFormat(QTextCharFormat());
+        d->edit->setCurrentCharFormat(QTextCharFormat());
+    });
+    auto setAlign = [this](Qt::Alignment a) {
+        if (!d->syncing)
+            d->edit->setAlignment(a);
+    };
+    connect(d->alignLeft, &QAction::triggered, this, [setAlign] { setAlign(Qt::AlignLeft | Qt::AlignAbsolute); });
+    connect(d->alignCenter, &QAction::triggered, this, [setAlign] { setAlign(Qt::AlignHCenter); });
+    connect(d->alignRight, &QAction::triggered, this, [setAlign] { setAlign(Qt::AlignRight | Qt::AlignAbsolute); });
+    connect(d->justify, &QAction::triggered, this, [setAlign] { setAlign(Qt::AlignJustify); });
+    auto setList = [this](QTextListFormat::Style style, bool on) {
+        QTextCursor cursor = d->edit->textCursor();
+        cursor.beginEditBlock();
+        if (QTextList *list = cursor.currentList()) {
+            // Leave the list, or switch its style.
+            if (!on || list->format().style() == style) {
+                for (int i = list->count() - 1; i >= 0; --i) {
+                    if (!cursor.hasSelection() && list->item(i) != cursor.block())
+                        continue;
+                    list->remove(list->item(i));
+                }
+                QTextBlockFormat indent = cursor.blockFormat();
+                indent.setIndent(0);
+                cursor.setBlockFormat(indent);
+            } else {
+                QTextListFormat f = list->format();
+                f.setStyle(style);
+                list->setFormat(f);
+            }
+        } else if (on) {
+            QTextListFormat f;
+            f.setStyle(style);
+            f.setIndent(1);
+            cursor.createList(f);
+        }
+        cursor.endEditBlock();
+    };
+    connect(d->bullets, &QAction::triggered, this, [setList](bool on) { setList(QTextListFormat::ListDisc, on); });
+    connect(d->numbering, &QAction::triggered, this, [setList](bool on) { setList(QTextListFormat::ListDecimal, on); });
+
+    // ---- INSERT
+    auto *insert = new RibbonCategoriesPanelAction(tr("Insert"), this);
+    auto *tables = new RibbonCategoryAction(editorIcon(EditorIcon::Table), tr("Tables"), this);
+    auto *table = new RibbonCatMenuAction(editorIcon(EditorIcon::Table), tr("Table"), RibbonCatMenuAction::MenuTypeButton,
+                                          RibbonCatMenuAction::MenuSizeLarge, RibbonCatMenuAction::PopupMenu, this);
+    auto insertTable = [this](int rows, int columns) {
+        QTextTableFormat f;
+        f.setCellPadding(4);
+        f.setCellSpacing(0);
+        f.setBorder(1);
+        f.setBorderBrush(QColor(0xA6, 0xB8, 0xD2));
+        f.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
+        f.setWidth(QTextLength(QTextLength::PercentageLength, 100));
+        QTextCursor cursor = d->edit->textCursor();
+        cursor.beginEditBlock();
+        QTextTable *t = cursor.insertTable(rows, columns, f);
+        QTextCharFormat head;
+        head.setFontWeight(QFont::Bold);
+        QTextCharFormat headBack;
+        for (int c = 0; c < columns; ++c) {
+            QTextTableCell cell = t->cellAt(0, c);
+            QTextCharFormat cf = cell.format();
+            cf.setBackground(QColor(0xDD, 0xE8, 0xF6));
+            cell.setFormat(cf);
+            cell.firstCursorPosition().setCharFormat(head);
+        }
+        cursor.endEditBlock();
+        d->edit->setTextCursor(t->cellAt(0, 0).firstCursorPosition());
+        d->edit->setFocus();
+    };
+    const QList<QPair<int, int>> shapes = {{3, 3}, {2, 2}, {4, 3}, {5, 4}, {6, 6}};
+    for (int i = 0; i < shapes.size(); ++i) {
+        const auto shape = shapes.at(i);
+        auto *item = new RibbonSimpleAction(editorIcon(EditorIcon::Table),
+                                            i == 0 ? tr("Insert Table") : tr("%1 \u00d7 %2 Table").arg(shape.second).arg(shape.first),
+                                            this);
+        table->addAction(item, i == 0);
+        connect(item, &QAction::triggered, this, [insertTable, shape] { insertTable(shape.first, shape.second); });
+    }
+    table->setToolTip(tr("Insert a table"));
+    tables->addAction(table, -1);
+    insert->addCategory(tables);
+
+    auto *illustrations = new RibbonCategoryAction(editorIcon(EditorIcon::Picture), tr("Illustrations"), this);
+    auto *picture = simple(EditorIcon::Picture, tr("Picture"), S::SizeLarge);
+    picture->setToolTip(tr("Insert a generated chart picture"));
+    connect(picture, &QAction::triggered, this, [this] {
+        const QImage image = makeChartPicture(d->pictures++);
+        QByteArray png;
+        QBuffer buffer(&png);
+        buffer.open(QIODevice::WriteOnly);
+        image.save(&buffer, "PNG");
+        // A data URL keeps the picture inside the saved HTML.
+        const QString name = QStringLiteral("data:image/png;base64,") + QString::fromLatin1(png.toBase64());
+        d->edit->document()->addResource(QTextDocument::ImageResource, QUrl(name), image);
+        QTextImageFormat f;
+        f.setName(name);
+        f.setWidth(image.width());
+        f.setHeight(image.height());
+        d->edit->textCursor().insertImage(f);
+        d->edit->setFocus();
+    });
+    auto *line = simple(EditorIcon::Line, tr("Horizontal Line"), S::SizeLarge);
+    connect(line, &QAction::triggered, this, [this] { d->edit->textCursor().insertHtml(QStringLiteral("<hr/>")); });
+    illustrations->addAction(picture, -1);
+    illustrations->addAction(line, -1);
+    insert->addCategory(illustrations);
+
+    auto *text = new RibbonCategoryAction(editorIcon(EditorIcon::DateTime), tr("Text"), this);
+    auto *date = new RibbonCatMenuAction(editorIcon(EditorIcon::DateTime), tr("Date & Time"), RibbonCatMenuAction::MenuTypeButton,
+                                         RibbonCatMenuAction::MenuSizeLarge, RibbonCatMenuAction::PopupMenu, this);
+    const QList<QPair<QString, QLocale::FormatType>> dateFormats = {{tr("Date and Time"), QLocale::LongFormat},
+                                                                     {tr("Short Date"), QLocale::ShortFormat},
+                                                                     {tr("Long Date"), QLocale::LongFormat}};
+    for (int i = 0; i < dateFormats.size(); ++i) {
+        const auto format = dateFormats.at(i);
+        auto *item = new RibbonSimpleAction(editorIcon(EditorIcon::DateTime), format.first, this);
+        date->addAction(item, i == 0);
+        connect(item, &QAction::triggered, this, [this, i, format] {
+            const QDateTime now = QDateTime::currentDateTime();
+            const QString s = i == 0 ? QLocale().toString(now, QLocale::ShortFormat)
+                                     : QLocale().toString(now.date(), format.second);
+            d->edit->textCursor().insertText(s);
+            d->edit->setFocus();
+        });
+    }
+    text->addAction(date, -1);
+    insert->addCategory(text);
+
+    // ---- VIEW
+    auto *viewTab = new RibbonCategoriesPanelAction(tr("View"), this);
+    auto *zoomCategory = new RibbonCategoryAction(editorIcon(EditorIcon::ZoomIn), tr("Zoom"), this);
+    auto *zoomIn = simple(EditorIcon::ZoomIn, tr("Zoom In"), S::SizeLarge);
+    auto *zoomOut = simple(EditorIcon::ZoomOut, tr("Zoom Out"), S::SizeLarge);
+    auto *zoom100 = simple(EditorIcon::Zoom100, tr("100%"), S::SizeLarge);
+    zoomCategory->addAction(zoomIn, -1);
+    zoomCategory->addAction(zoomOut, -1);
+    zoomCategory->addAction(zoom100, -1);
+    viewTab->addCategory(zoomCategory);
+    auto *ribbonCategory = new RibbonCategoryAction(editorIcon(EditorIcon::MinimiseRibbon), tr("Ribbon"), this);
+    d->minimise = simple(EditorIcon::MinimiseRibbon, tr("Minimise Ribbon"), S::SizeLarge);
+    d->minimise->setCheckable(true);
+    d->minimise->setToolTip(tr("Show only the tab names (Ctrl+F1)"));
+    connect(d->minimise, &QAction::triggered, this, [this](bool on) { ribbonMenuBar().setMinimizeRibbon(on); });
+    ribbonCategory->addAction(d->minimise, -1);
+    viewTab->addCategory(ribbonCategory);
+
+    for (RibbonCategoriesPanelAction *tab : {d->home, insert, viewTab})
+        bar.addAction(tab);
+    d->home->setChecked(true);
+
+    // ---- Contextual tab sets
+    d->tableTools = new RibbonContextCategoryPanelAction(QColor(0xEF, 0xE8, 0xF7), EditorColors::TableTools,
+                                                         EditorColors::TableTools.darker(120), this);
+    d->tableTools->setText(tr("Table Tools"));
+    auto *layoutTab = new RibbonCategoriesPanelAction(tr("Layout"), this);
+    auto *rowsColumns = new RibbonCategoryAction(editorIcon(EditorIcon::RowAbove), tr("Rows & Columns"), this);
+    auto *removeCategory = new RibbonCategoryAction(editorIcon(EditorIcon::DeleteRow), tr("Delete"), this);
+    auto tableCommand = [this](RibbonCategoryAction *category, EditorIcon icon, const QString &text,
+                               RibbonCatSimpleAction::eSize size, std::function<void(QTextTable *, int, int)> run) {
+        auto *a = new RibbonCatSimpleAction(editorIcon(icon), text, size, this);
+        category->addAction(a, -1);
+        connect(a, &QAction::triggered, this, [this, run] {
+            QTextCursor cursor = d->edit->textCursor();
+            QTextTable *t = cursor.currentTable();
+            if (!t)
+                return;
+            const QTextTableCell cell = t->cellAt(cursor);
+            run(t, cell.row(), cell.column());
+            d->edit->setFocus();
+        });
+    };
+    tableCommand(rowsColumns, EditorIcon::RowAbove, tr("Insert Above"), S::SizeLarge,
+                 [](QTextTable *t, int row, int) { t->insertRows(row, 1); });
+    tableCommand(rowsColumns, EditorIcon::RowBelow, tr("Insert Below"), S::SizeLarge,
+                 [](QTextTable *t, int row, int) { t->insertRows(row + 1, 1); });
+    tableCommand(rowsColumns, EditorIcon::ColumnLeft, tr("Insert Left"), S::SizeMedium,
+                 [](QTextTable *t, int, int column) { t->insertColumns(column, 1); });
+    tableCommand(rowsColumns, EditorIcon::ColumnRight, tr("Insert Right"), S::SizeMedium,
+                 [](QTextTable *t, int, int column) { t->insertColumns(column + 1, 1); });
+    tableCommand(removeCategory, EditorIcon::DeleteRow, tr("Delete Rows"), S::SizeMedium,
+                 [](QTextTable *t, int row, int) { t->removeRows(row, 1); });
+    tableCommand(removeCategory, EditorIcon::DeleteColumn, tr("Delete Columns"), S::SizeMedium,
+                 [](QTextTable *t, int, int column) { t->removeColumns(column, 1); });
+    tableCommand(removeCategory, EditorIcon::DeleteTable, tr("Delete Table"), S::SizeMedium,
+                 [](QTextTable *t, int, int) { t->removeRows(0, t->rows()); });
+    layoutTab->addCategory(rowsColumns);
+    layoutTab->addCategory(removeCategory);
+
+    auto *designTab = new RibbonCategoriesPanelAction(tr("Design"), this);
+    auto *tableStyle = new RibbonCategoryAction(editorIcon(EditorIcon::Table), tr("Table Style"), this);
+    tableCommand(tableStyle, EditorIcon::Table, tr("Grid Lines"), S::SizeLarge, [](QTextTable *t, int, int) {
+        QTextTableFormat f = t->format();
+        f.setBorder(f.border() > 0 ? 0 : 1);
+        t->setFormat(f);
+    });
+    auto shadeRow = [](QTextTable *t, int row, const QColor &color) {
+        for (int c = 0; c < t->columns(); ++c) {
+            QTextTableCell cell = t->cellAt(row, c);
+            QTextCharFormat cf = cell.format();
+            if (color.isValid())
+                cf.setBackground(color);
+            else
+                cf.clearBackground();
+            cell.setFormat(cf);
+        }
+    };
+    tableCommand(tableStyle, EditorIcon::RowAbove, tr("Header Row"), S::SizeLarge, [shadeRow](QTextTable *t, int, int) {
+        const bool shaded = t->cellAt(0, 0).format().background().style() != Qt::NoBrush;
+        shadeRow(t, 0, shaded ? QColor() : QColor(0xDD, 0xE8, 0xF6));
+    });
+    tableCommand(tableStyle, EditorIcon::SelectAll, tr("Shade Row"), S::SizeMedium, [shadeRow](QTextTable *t, int row, int) {
+        shadeRow(t, row, QColor(0xF2, 0xF2, 0xF2));
+    });
+    tableCommand(tableStyle, EditorIcon::ClearFormat, tr("Clear Shading"), S::SizeMedium, [shadeRow](QTextTable *t, int row, int) {
+        shadeRow(t, row, QColor());
+    });
+    designTab->addCategory(tableStyle);
+    d->tableTools->addPanelAction(designTab);
+    d->tableTools->addPanelAction(layoutTab);
+    bar.ribbonContextCategoryPanel().addContextPanelAction(d->tableTools);
+
+    d->pictureTools = new RibbonContextCategoryPanelAction(QColor(0xFD, 0xE9, 0xD9), QColor(0xF0, 0x96, 0x09),
+                                                           EditorColors::PictureTools, this);
+    d->pictureTools->setText(tr("Picture Tools"));
+    auto *formatTab = new RibbonCategoriesPanelAction(tr("Format"), this);
+    auto *sizeCategory = new RibbonCategoryAction(editorIcon(EditorIcon::PictureLarger), tr("Size"), this);
+    auto pictureCommand = [this, sizeCategory](EditorIcon icon, const QString &text, qreal factor) {
+        auto *a = new RibbonCatSimpleAction(editorIcon(icon), text, RibbonCatSimpleAction::SizeLarge, this);
+        sizeCategory->addAction(a, -1);
+        connect(a, &QAction::triggered, this, [this, factor] {
+            QTextCursor cursor = d->edit->textCursor();
+            const int at = cursor.selectionStart();
+            for (int pos : {at, cursor.position(), cursor.position() - 1}) {
+                QTextCursor probe(d->edit->document());
+                probe.setPosition(qMax(0, pos));
+                probe.setPosition(qMax(0, pos) + 1, QTextCursor::KeepAnchor);
+                if (!probe.charFormat().isImageFormat())
+                    continue;
+                QTextImageFormat f = probe.charFormat().toImageFormat();
+                const QImage original = d->edit->document()->resource(QTextDocument::ImageResource, QUrl(f.name())).value<QImage>();
+                const QSizeF base = original.isNull() ? QSizeF(240, 150) : QSizeF(original.size());
+                if (factor <= 0) {
+                    f.setWidth(base.width());
+                    f.setHeight(base.height());
+                } else {
+                    f.setWidth(qBound(24.0, f.width() * factor, 1200.0));
+                    f.setHeight(qBound(15.0, f.height() * factor, 750.0));
+                }
+                probe.setCharFormat(f);
+                d->edit->setTextCursor(probe);
+                break;
+            }
+        });
+    };
+    pictureCommand(EditorIcon::PictureLarger, tr("Larger"), 1.25);
+    pictureCommand(EditorIcon::PictureSmaller, tr("Smaller"), 0.8);
+    pictureCommand(EditorIcon::PictureReset, tr("Original Size"), 0);
+    formatTab->addCategory(sizeCategory);
+    d->pictureTools->addPanelAction(formatTab);
+    bar.ribbonContextCategoryPanel().addContextPanelAction(d->pictureTools);
+
+    auto *help = new RibbonSimpleAction(editorIcon(EditorIcon::Help), tr("Help"), this);
+    connect(help, &QAction::triggered, this, [this] {
+        QMessageBox::about(this, AppName,
+                           tr("A small rich-text editor built on the zelRibbon library: every command of "
+                              "its ribbon works on the document."));
+    });
+    bar.setHelpAction(help);
+
+    // ---- Status bar
+    RibbonStatusBar &status = ribbonStatusBar();
+    d->pageStatus = new RibbonCatMenuAction(editorIcon(EditorIcon::Page, Qt::white), tr("Page 1 of 1"),
+                                            RibbonCatMenuAction::MenuTypeButton, RibbonCatMenuAction::MenuSizeMedium,
+                                            RibbonCatMenuAction::PopupMenu, this);
+    auto *top = new RibbonSimpleAction(tr("Go to Beginning"), this);
+    auto *end = new RibbonSimpleAction(tr("Go to End"), this);
+    connect(top, &QAction::triggered, this, [edit] { edit->moveCursor(QTextCursor::Start); });
+    connect(end, &QAction::triggered, this, [edit] { edit->moveCursor(QTextCursor::End); });
+    d->pageStatus->addAction(top, false);
+    d->pageStatus->addAction(end, false);
+    d->wordStatus = new RibbonCatMenuAction(editorIcon(EditorIcon::Words, Qt::white), tr("0 words"),
+                                            RibbonCatMenuAction::MenuTypeButton, RibbonCatMenuAction::MenuSizeMedium,
+                                            RibbonCatMenuAction::PopupMenu, this);
+    auto *stats = new RibbonSimpleAction(tr("Word Count..."), this);
+    connect(stats, &QAction::triggered, this, [this] {
+        const QString plain = d->edit->toPlainText();
+        const int words = plain.split(QRegExp(QStringLiteral("\\s+")), Qt::SkipEmptyParts).size();
+        QMessageBox::information(this, tr("Word Count"),
+                                 tr("Words: %1\nCharacters: %2\nParagraphs: %3")
+                                     .arg(words)
+                                     .arg(plain.size())
+                                     .arg(d->edit->document()->blockCount()));
+    });
+    d->wordStatus->addAction(stats, false);
+    // Menu buttons go in front of the ones already there.
+    status.addAction(d->wordStatus);
+    status.addAction(d->pageStatus);
+    d->zoom = new RibbonPercAction(10, 400, 100, this);
+    status.addAction(d->zoom);
+    connect(d->zoom, &RibbonPercAction::percentageChanged, this, [this](int p) { d->edit->setZoom(p); });
+    auto zoomBy = [this](int step) {
+        const int now = d->edit->zoom();
+        int next = step > 0 ? (now / 10 + 1) * 10 : ((now + 9) / 10 - 1) * 10;
+        next = qBound(d->zoom->minimum(), next, d->zoom->maximum());
+        d->zoom->setPercentage(next);
+        d->edit->setZoom(next);
+    };
+    connect(zoomIn, &QAction::triggered, this, [zoomBy] { zoomBy(1); });
+    connect(zoomOut, &QAction::triggered, this, [zoomBy] { zoomBy(-1); });
+    connect(zoom100, &QAction::triggered, this, [this] {
+        d->zoom->setPercentage(100);
+        d->edit->setZoom(100);
+    });
+
+    // ---- File page
+    BackstageView &backstage = backstageView();
+    QVBoxLayout *body = nullptr;
+    QWidget *newPane = titledPane(tr("New"), body);
+    auto *tiles = new QHBoxLayout;
+    tiles->setSpacing(16);
+    QToolButton *blank = tileButton(tr("Blank document"), editorIcon(EditorIcon::NewDocument), newPane);
+    QToolButton *sample = tileButton(tr("Sample document"), editorIcon(EditorIcon::Table), newPane);
+    tiles->addWidget(blank);
+    tiles->addWidget(sample);
+    tiles->addStretch();
+    body->addLayout(tiles);
+    body->addStretch();
+    connect(blank, &QToolButton::clicked, this, [this] {
+        newDocument();
+        showMainView();
+    });
+    connect(sample, &QToolButton::clicked, this, [this] {
+        loadSampleDocument();
+        showMainView();
+    });
+
+    QWidget *openPane = titledPane(tr("Open"), body);
+    auto *browse = tileButton(tr("Browse..."), editorIcon(EditorIcon::OpenFolder), openPane);
+    body->addWidget(browse);
+    connect(browse, &QToolButton::clicked, this, &EditorDemo::open);
+    auto *recentTitle = new QLabel(tr("Recent Documents"), openPane);
+    QFont mid = recentTitle->font();
+    mid.setPointSizeF(mid.pointSizeF() * 1.6);
+    recentTitle->setFont(mid);
+    recentTitle->setStyleSheet(QStringLiteral("color: #444444;"));
+    body->addSpacing(8);
+    body->addWidget(recentTitle);
+    d->recentView = new QListView(openPane);
+    d->recentView->setFrameShape(QFrame::NoFrame);
+    d->recentView->setMaximumWidth(560);
+    d->recentView->setMouseTracking(true);
+    d->recentView->setSelectionMode(QAbstractItemView::NoSelection);
+    d->recentView->setModel(d->recent);
+    d->recentView->setItemDelegate(new RecentDelegate(d->recentView));
+    body->addWidget(d->recentView, 1);
+    connect(d->recentView, &QListView::clicked, this, [this](const QModelIndex &index) {
+        const auto entry = index.data(Qt::UserRole).value<QSharedPointer<BackstageListItem>>();
+        if (!entry || entry->isSeparator())
+            return;
+        const QPoint at = d->recentView->viewport()->mapFromGlobal(QCursor::pos());
+        if (RecentDelegate::pinRect(d->recentView->visualRect(index)).contains(at)) {
+            d->recent->pinItem(index);
+            writeSettings();
+            return;
+        }
+        d->recent->selectItem(index);
+    });
+    connect(d->recent, &BackstageListModel::itemSelected, this, [this](const QString &path) {
+        if (openDocument(path))
+            showMainView();
+    });
+
+    backstage.addItem(tr("New"), newPane);
+    backstage.addItem(tr("Open"), openPane);
+    backstage.addItem(tr("Save"), nullptr);
+    backstage.addItem(tr("Save As"), nullptr);
+    backstage.addSeparator();
+    backstage.addItem(tr("Exit"), nullptr);
+    connect(&backstage, &BackstageView::itemClicked, this, [this](const QString &name) {
+        if (name.compare(QStringLiteral("Save"), Qt::CaseInsensitive) == 0) {
+            showMainView();
+            save();
+        } else if (name.compare(QStringLiteral("Save As"), Qt::CaseInsensitive) == 0) {
+            showMainView();
+            saveAs();
+        } else if (name.compare(QStringLiteral("Exit"), Qt::CaseInsensitive) == 0) {
+            close();
+        }
+    });
+
+    // ---- Welcome screen
+    BackstageWelcomeScreen &welcome = welcomeScreen();
+    welcome.setTitle(AppName);
+    welcome.setRecentModel(d->recent);
+    welcome.addTemplate(tr("Letter"), templatePreview(true));
+    welcome.addTemplate(tr("Report"), templatePreview(false));
+    // The welcome page shares the window's page stack with the main view; its row of
+    // tiles would otherwise keep the whole window from getting narrower than the tiles.
+    welcome.setMinimumWidth(360);
+    connect(&welcome, &BackstageWelcomeScreen::blankDocumentSelected, this, [this] {
+        newDocument();
+        showMainView();
+    });
+    connect(&welcome, &BackstageWelcomeScreen::templateSelected, this, [this](const QString &name) {
+        newDocument();
+        if (name == tr("Report"))
+            loadSampleDocument();
+        else
+            d->edit->setHtml(tr("<p>Dear reader,</p><p></p><p>Kind regards,</p>"));
+        showMainView();
+    });
+
+    // ---- Editor state into the ribbon and the status bar
+    auto updateWords = [this] {
+        const QString plain = d->edit->toPlainText();
+        const int words = plain.split(QRegExp(QStringLiteral("\\s+")), Qt::SkipEmptyParts).size();
+        d->wordStatus->setText(words == 1 ? tr("1 word") : tr("%1 words").arg(words));
+    };
+    auto updatePage = [this] {
+        // Pages of the printed layout: an A4 page holds about 1000 pixels of text at 100 %.
+        const qreal pageHeight = 1000.0 * d->edit->zoom() / 100.0;
+        const qreal height = d->edit->document()->size().height();
+        const int pages = qMax(1, int(std::ceil(height / pageHeight)));
+        const int y = d->edit->cursorRect().top() + d->edit->verticalScrollBar()->value();
+        const int page = qBound(1, int(y / pageHeight) + 1, pages);
+        d->pageStatus->setText(tr("Page %1 of %2").arg(page).arg(pages));
+    };
+    auto updateFormat = [this](const QTextCharFormat &format) {
+        d->syncing = true;
+        d->bold->setChecked(format.fontWeight() >= QFont::Bold);
+        d->italic->setChecked(format.fontItalic());
+        d->underline->setChecked(format.fontUnderline());
+        d->strike->setChecked(format.fontStrikeOut());
+        QFont family(format.fontFamily().isEmpty() ? d->edit->document()->defaultFont().family() : format.fontFamily());
+        if (family.family() != d->family->fontFamily().family())
+            d->family->setFontFamily(family);
+        const qreal points = format.fontPointSize() > 0 ? format.fontPointSize() : 11;
+        d->size->setSelectionText(QString::number(points));
+        d->syncing = false;
+    };
+    auto updateBlock = [this] {
+        d->syncing = true;
+        const Qt::Alignment a = d->edit->alignment();
+        if (a & Qt::AlignHCenter)
+            d->alignCenter->setChecked(true);
+        else if (a & Qt::AlignRight)
+            d->alignRight->setChecked(true);
+        else if (a & Qt::AlignJustify)
+            d->justify->setChecked(true);
+        else
+            d->alignLeft->setChecked(true);
+        QTextList *list = d->edit->textCursor().currentList();
+        const auto style = list ? list->format().style() : QTextListFormat::ListStyleUndefined;
+        d->bullets->setChecked(list && style >= QTextListFormat::ListSquare && style <= QTextListFormat::ListDisc);
+        d->numbering->setChecked(list && style < QTextListFormat::ListSquare);
+        d->syncing = false;
+    };
+    auto updateContext = [this] {
+        QTextCursor cursor = d->edit->textCursor();
+        RibbonContextCategoryPanelAction *wanted = nullptr;
+        if (cursor.currentTable()) {
+            wanted = d->tableTools;
+        } else {
+            for (int pos : {cursor.selectionStart(), cursor.position()}) {
+                QTextCursor probe(d->edit->document());
+                probe.setPosition(pos);
+                if (pos < d->edit->document()->characterCount() - 1) {
+                    probe.setPosition(pos + 1, QTextCursor::KeepAnchor);
+                    if (probe.charFormat().isImageFormat() && (cursor.hasSelection() || pos == cursor.position()))
+                        wanted = d->pictureTools;
+                }
+            }
+        }
+        RibbonMenuBar &bar = ribbonMenuBar();
+        RibbonContextCategoryPanelAction *shown = bar.displayedContextPanel();
+        if (shown == wanted)
+            return;
+        if (wanted)
+            bar.showContextPanelAction(wanted);
+        else if (shown)
+            bar.hideContextPanelAction(shown);
+    };
+    connect(edit, &QTextEdit::textChanged, this, updateWords);
+    connect(edit, &QTextEdit::textChanged, this, updatePage);
+    connect(edit, &QTextEdit::cursorPositionChanged, this, updatePage);
+    connect(edit, &QTextEdit::currentCharFormatChanged, this, updateFormat);
+    connect(edit, &QTextEdit::cursorPositionChanged, this, updateBlock);
+    connect(edit, &QTextEdit::cursorPositionChanged, this, updateContext);
+    connect(edit, &QTextEdit::selectionChanged, this, updateContext);
+    connect(edit->document(), &QTextDocument::modificationChanged, this, [this](bool) {
+        const QString name = d->path.isEmpty() ? tr("Document%1").arg(d->untitled) : QFileInfo(d->path).fileName();
+        setWindowTitle(QStringLiteral("%1%2 - %3").arg(name, d->edit->document()->isModified() ? QStringLiteral("*") : QString(), AppName));
+    });
+
+    if (settings.value(KeyMinimised, false).toBool()) {
+        d->minimise->setChecked(true);
+        ribbonMenuBar().setMinimizeRibbon(true);
+    }
+
+    newDocument();
+    setActiveView(WelcomeScreen);
+}
+
+EditorDemo::~EditorDemo()
+{
+    writeSettings();
+}
+
+QTextEdit *EditorDemo::editor() const
+{
+    return d->edit;
+}
+
+void EditorDemo::writeSettings()
+{
+    if (!d->settings)
+        return;
+    d->settings->setValue(KeyRecent, d->recent->saveState());
+    d->settings->setValue(KeyHiddenQuick, quickAccessBar().disabledQuickAccessBarItems());
+    d->settings->setValue(KeyMinimised, ribbonMenuBar().isRibbonMinimized());
+    d->settings->sync();
+}
+
+void EditorDemo::closeEvent(QCloseEvent *event)
+{
+    if (d->edit->document()->isModified() && !d->edit->document()->isEmpty()) {
+        const auto answer = QMessageBox::question(this, AppName, tr("Save the changes to %1?").arg(windowTitle()),
+                                                  QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
+        if (answer == QMessageBox::Cancel) {
+            event->ignore();
+            return;
+        }
+        if (answer == QMessageBox::Save) {
+            save();
+            if (d->edit->document()->isModified()) {
+                event->ignore();
+                return;
+            }
+        }
+    }
+    writeSettings();
+    RibbonMainWindow::closeEvent(event);
+}
+
+void EditorDemo::newDocument()
+{
+    if (!d->path.isEmpty() || !d->edit->document()->isEmpty())
+        ++d->untitled;
+    d->path.clear();
+    d->edit->clear();
+    QTextCharFormat plain;
+    d->edit->setCurrentCharFormat(plain);
+    d->edit->document()->setModified(false);
+    d->edit->document()->clearUndoRedoStacks();
+    emit d->edit->document()->modificationChanged(false);
+}
+
+bool EditorDemo::openDocument(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        QMessageBox::warning(this, AppName, tr("Cannot open %1:\n%2").arg(QDir::toNativeSeparators(path), file.errorString()));
+        return false;
+    }
+    const QByteArray data = file.readAll();
+    const QString suffix = QFileInfo(path).suffix().toLower();
+    if (suffix == QLatin1String("html") || suffix == QLatin1String("htm") || Qt::mightBeRichText(QString::fromUtf8(data)))
+        d->edit->setHtml(QString::fromUtf8(data));
+    else
+        d->edit->setPlainText(QString::fromUtf8(data));
+    d->path = QFileInfo(path).absoluteFilePath();
+    d->recent->addItem(d->path);
+    d->edit->document()->setModified(false);
+    d->edit->document()->clearUndoRedoStacks();
+    emit d->edit->document()->modificationChanged(false);
+    writeSettings();
+    return true;
+}
+
+bool EditorDemo::saveDocument(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
+        QMessageBox::warning(this, AppName, tr("Cannot save %1:\n%2").arg(QDir::toNativeSeparators(path), file.errorString()));
+        return false;
+    }
+    const QString suffix = QFileInfo(path).suffix().toLower();
+    const QString content = suffix == QLatin1String("txt") ? d->edit->toPlainText() : d->edit->toHtml();
+    file.write(content.toUtf8());
+    file.close();
+    d->path = QFileInfo(path).absoluteFilePath();
+    d->recent->addItem(d->path);
+    d->edit->document()->setModified(false);
+    emit d->edit->document()->modificationChanged(false);
+    writeSettings();
+    return true;
+}
+
+void EditorDemo::save()
+{
+    if (d->path.isEmpty())
+        saveAs();
+    else
+        saveDocument(d->path);
+}
+
+void EditorDemo::saveAs()
+{
+    const QString suggested = d->path.isEmpty() ? QDir::home().filePath(tr("Document%1.html").arg(d->untitled)) : d->path;
+    const QString path = QFileDialog::getSaveFileName(this, tr("Save As"), suggested,
+                                                      tr("HTML documents (*.html *.htm);;Plain text (*.txt)"));
+    if (!path.isEmpty())
+        saveDocument(path);
+}
+
+void EditorDemo::open()
+{
+    const QString path = QFileDialog::getOpenFileName(this, tr("Open"), d->path.isEmpty() ? QDir::homePath() : QFileInfo(d->path).path(),
+                                                      tr("Documents (*.html *.htm *.txt);;All files (*)"));
+    if (!path.isEmpty() && openDocument(path))
+        showMainView();
+}
+
+void EditorDemo::showBackstagePage(const QString &name)
+{
+    setActiveView(BackstagePanel);
+    backstageView().setCurrentItem(name);
+}
+
+void EditorDemo::loadSampleDocument()
+{
+    newDocument();
+    QTextEdit *edit = d->edit;
+    edit->setHtml(tr(
+        "<h1 style='color:#2B579A; font-weight:normal'>Harbour Renewal Project</h1>"
+        "<p style='color:#666666'><i>Quarterly report \u2014 prepared for the steering group</i></p>"
+        "<p>The second quarter brought the <b>new quay wall</b> to completion and the dredging "
+        "works close to their final depth. Costs remain <u>within the approved budget</u>, while the "
+        "schedule gained two weeks thanks to the mild winter.</p>"
+        "<h2 style='color:#2B579A; font-weight:normal'>Highlights</h2>"
+        "<ul><li>Quay wall finished and inspected</li>"
+        "<li>Dredging at <b>92 %</b> of the planned volume</li>"
+        "<li>Public walkway opened one month early</li></ul>"
+        "<h2 style='color:#2B579A; font-weight:normal'>Budget overview</h2>"));
+    QTextCursor cursor(edit->document());
+    cursor.movePosition(QTextCursor::End);
+    QTextTableFormat f;
+    f.setCellPadding(5);
+    f.setCellSpacing(0);
+    f.setBorder(1);
+    f.setBorderBrush(QColor(0xA6, 0xB8, 0xD2));
+    f.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
+    f.setWidth(QTextLength(QTextLength::PercentageLength, 100));
+    f.setColumnWidthConstraints({QTextLength(QTextLength::PercentageLength, 34), QTextLength(QTextLength::PercentageLength, 22),
+                                 QTextLength(QTextLength::PercentageLength, 22), QTextLength(QTextLength::PercentageLength, 22)});
+    const QStringList rows[4] = {{tr("Work package"), tr("Budget"), tr("Spent"), tr("Status")},
+                                 {tr("Quay wall"), tr("4.2 M"), tr("4.0 M"), tr("Done")},
+                                 {tr("Dredging"), tr("2.8 M"), tr("2.5 M"), tr("On track")},
+                                 {tr("Walkway"), tr("0.9 M"), tr("0.6 M"), tr("Open")}};
+    QTextTable *table = cursor.insertTable(4, 4, f);
+    QTextCharFormat head;
+    head.setFontWeight(QFont::Bold);
+    head.setForeground(QColor(0x1F, 0x3F, 0x70));
+    for (int r = 0; r < 4; ++r) {
+        for (int c = 0; c < 4; ++c) {
+            QTextTableCell cell = table->cellAt(r, c);
+            if (r == 0) {
+                QTextCharFormat cf = cell.format();
+                cf.setBackground(QColor(0xDD, 0xE8, 0xF6));
+                cell.setFormat(cf);
+            }
+            cell.firstCursorPosition().insertText(rows[r].at(c), r == 0 ? head : QTextCharFormat());
+        }
+    }
+    cursor.movePosition(QTextCursor::End);
+    cursor.insertBlock();
+    cursor.insertText(tr("Progress of the dredging works per month:"));
+    cursor.insertBlock();
+    const QImage image = makeChartPicture(d->pictures++);
+    QByteArray png;
+    QBuffer buffer(&png);
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "PNG");
+    const QString name = QStringLiteral("data:image/png;base64,") + QString::fromLatin1(png.toBase64());
+    edit->document()->addResource(QTextDocument::ImageResource, QUrl(name), image);
+    QTextImageFormat imageFormat;
+    imageFormat.setName(name);
+    imageFormat.setWidth(image.width());
+    imageFormat.setHeight(image.height());
+    cursor.insertImage(imageFormat);
+    cursor.insertBlock();
+    cursor.insertText(tr("The next report follows at the end of the third quarter."));
+    edit->moveCursor(QTextCursor::Start);
+    edit->document()->setModified(false);
+    edit->document()->clearUndoRedoStacks();
+    emit edit->document()->modificationChanged(false);
+}
+
+void EditorDemo::activateContextTab()
+{
+    RibbonContextCategoryPanelAction *shown = ribbonMenuBar().displayedContextPanel();
+    if (shown && !shown->panelActions().isEmpty())
+        shown->panelActions().constLast()->setChecked(true);
+}
+
+void EditorDemo::moveCursorIntoTable()
+{
+    for (QTextBlock block = d->edit->document()->begin(); block.isValid(); block = block.next()) {
+        QTextCursor cursor(block);
+        if (QTextTable *table = cursor.currentTable()) {
+            d->edit->setTextCursor(table->cellAt(1, 0).firstCursorPosition());
+            return;
+        }
+    }
+}
+
+void EditorDemo::selectFirstPicture()
+{
+    QTextDocument *doc = d->edit->document();
+    for (int pos = 0; pos < doc->characterCount() - 1; ++pos) {
+        QTextCursor probe(doc);
+        probe.setPosition(pos);
+        probe.setPosition(pos + 1, QTextCursor::KeepAnchor);
+        if (probe.charFormat().isImageFormat()) {
+            d->edit->setTextCursor(probe);
+            return;
+        }
+    }
+}

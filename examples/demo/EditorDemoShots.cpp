@@ -1,0 +1,203 @@
+// Screenshots of the editor for the demo's screenshot mode, and the check that the
+// editor comes up as a real window on an X server with the ribbon in place.
+
+#include "EditorDemo.h"
+
+#include "BackstageView.h"
+#include "RibbonButtonMain.h"
+#include "RibbonMenuBar.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QImage>
+#include <QPixmap>
+#include <QScreen>
+#include <QSet>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QTextEdit>
+#include <QTextStream>
+#include <QThread>
+#include <QWindow>
+
+namespace {
+
+void settle(int ms = 0)
+{
+    QElapsedTimer timer;
+    timer.start();
+    do {
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        if (ms > 0)
+            QThread::msleep(10);
+    } while (timer.elapsed() < ms);
+}
+
+// A settings file in a temporary directory with a few recent documents, one pinned, so
+// that the user's own settings are never touched.
+void seedSettings(QSettings &settings)
+{
+    const QString home = QStringLiteral("/home/anna/Documents/");
+    QVariantList recent;
+    const QList<QPair<QString, bool>> entries = {{home + QStringLiteral("Harbour/Quarterly report.html"), true},
+                                                 {home + QStringLiteral("Letters/Landlord.html"), false},
+                                                 {home + QStringLiteral("Budget 2027 notes.txt"), false},
+                                                 {home + QStringLiteral("Harbour/Timeline.html"), false},
+                                                 {home + QStringLiteral("Meeting minutes.html"), false}};
+    for (const auto &entry : entries)
+        recent.append(QVariant(QVariantList{entry.first, entry.second}));
+    settings.setValue(QStringLiteral("editor/recentDocuments"), recent);
+    settings.sync();
+}
+
+} // namespace
+
+int writeEditorScreenshots(const QDir &dir)
+{
+    QTextStream out(stdout);
+    QTemporaryDir tmp;
+    if (!tmp.isValid()) {
+        out << "Cannot create a temporary settings directory\n";
+        return 1;
+    }
+    QSettings settings(tmp.filePath(QStringLiteral("editor.ini")), QSettings::IniFormat);
+    seedSettings(settings);
+
+    struct Shot
+    {
+        QString name;
+        QSize size;
+        std::function<void(EditorDemo &)> prepare;
+    };
+    const QList<Shot> shots = {
+        {QStringLiteral("editor-main"), QSize(1280, 800), [](EditorDemo &w) {
+             w.showMainView();
+             QTextCursor cursor = w.editor()->textCursor();
+             cursor.movePosition(QTextCursor::Start);
+             cursor.movePosition(QTextCursor::NextBlock);
+             cursor.movePosition(QTextCursor::NextBlock);
+             cursor.movePosition(QTextCursor::NextWord);
+             cursor.movePosition(QTextCursor::NextWord);
+             cursor.movePosition(QTextCursor::NextWord, QTextCursor::KeepAnchor, 2);
+             w.editor()->setTextCursor(cursor);
+         }},
+        {QStringLiteral("editor-narrow"), QSize(700, 640), [](EditorDemo &w) { w.showMainView(); }},
+        {QStringLiteral("editor-backstage"), QSize(1280, 800), [](EditorDemo &w) {
+             w.showBackstagePage(QStringLiteral("Open"));
+         }},
+        {QStringLiteral("editor-welcome"), QSize(1280, 800), [](EditorDemo &w) {
+             w.setActiveView(zel::RibbonMainWindow::WelcomeScreen);
+         }},
+        {QStringLiteral("editor-contextual"), QSize(1280, 800), [](EditorDemo &w) {
+             w.showMainView();
+             w.moveCursorIntoTable();
+             w.activateContextTab();
+         }},
+        {QStringLiteral("editor-picture-tools"), QSize(1280, 800), [](EditorDemo &w) {
+             w.showMainView();
+             w.selectFirstPicture();
+             w.editor()->ensureCursorVisible();
+             w.activateContextTab();
+         }},
+    };
+
+    for (const Shot &shot : shots) {
+        auto window = std::make_unique<EditorDemo>(settings);
+        window->loadSampleDocument();
+        window->resize(shot.size);
+        window->show();
+        settle();
+        shot.prepare(*window);
+        window->editor()->setFocus();
+        settle();
+        const QString file = dir.filePath(shot.name + QStringLiteral(".png"));
+        if (!window->grab().save(file)) {
+            out << "Cannot write " << file << '\n';
+            return 1;
+        }
+        out << "  " << file << '\n';
+        window->close();
+        window.reset();
+        settle();
+    }
+    return 0;
+}
+
+int runXvfbCheck(const QString &file)
+{
+    QTextStream out(stdout);
+    QTemporaryDir tmp;
+    QSettings settings(tmp.filePath(QStringLiteral("editor.ini")), QSettings::IniFormat);
+    seedSettings(settings);
+
+    EditorDemo window(settings);
+    window.loadSampleDocument();
+    window.showMainView();
+    window.resize(1200, 760);
+    window.move(60, 40);
+    window.show();
+
+    QElapsedTimer timer;
+    timer.start();
+    while (!(window.windowHandle() && window.windowHandle()->isExposed()) && timer.elapsed() < 15000)
+        settle(50);
+    if (!window.windowHandle() || !window.windowHandle()->isExposed()) {
+        out << "FAIL: the editor window was never exposed\n";
+        return 1;
+    }
+    settle(800); // let the window manager-less server deliver the last paints
+
+    QScreen *screen = window.windowHandle()->screen();
+    if (!screen) {
+        out << "FAIL: no screen\n";
+        return 1;
+    }
+    const QImage image = screen->grabWindow(0).toImage().convertToFormat(QImage::Format_RGB32);
+    if (image.isNull() || !image.save(file)) {
+        out << "FAIL: cannot grab the screen into " << file << '\n';
+        return 1;
+    }
+
+    // Not blank: a rendered ribbon and document show many colours.
+    QSet<QRgb> colours;
+    for (int y = 0; y < image.height(); y += 3)
+        for (int x = 0; x < image.width(); x += 3)
+            colours.insert(image.pixel(x, y));
+    out << "distinct colours: " << colours.size() << '\n';
+    if (colours.size() < 32) {
+        out << "FAIL: the screen is blank\n";
+        return 1;
+    }
+
+    // The ribbon's tab row, where the File button carries the accent colour.
+    const qreal dpr = screen->devicePixelRatio();
+    QWidget *fileButton = window.ribbonMenuBar().mainMenuButton();
+    if (!fileButton || !fileButton->isVisible()) {
+        out << "FAIL: no File button\n";
+        return 1;
+    }
+    const QPoint origin = window.ribbonMenuBar().mapToGlobal(QPoint(0, 0)) - screen->geometry().topLeft();
+    const QPoint buttonAt = fileButton->mapToGlobal(QPoint(0, 0)) - screen->geometry().topLeft();
+    const QRect row = QRect(QPoint(origin.x(), buttonAt.y()) * dpr,
+                            QSize(window.ribbonMenuBar().width(), fileButton->height()) * dpr)
+                          .intersected(image.rect());
+    const QColor accent(QStringLiteral("#2B579A"));
+    int hits = 0;
+    for (int y = row.top(); y <= row.bottom(); ++y) {
+        for (int x = row.left(); x <= row.right(); ++x) {
+            const QColor c = image.pixelColor(x, y);
+            if (qAbs(c.red() - accent.red()) <= 8 && qAbs(c.green() - accent.green()) <= 8
+                && qAbs(c.blue() - accent.blue()) <= 8)
+                ++hits;
+        }
+    }
+    out << "tab row " << row.x() << ',' << row.y() << ' ' << row.width() << 'x' << row.height()
+        << ", accent pixels: " << hits << '\n';
+    if (row.isEmpty() || hits < 40) {
+        out << "FAIL: the ribbon's tab row does not show the File button\n";
+        return 1;
+    }
+    out << "PASS: " << file << '\n';
+    return 0;
+}
