@@ -78,14 +78,17 @@ QSize RibbonCategoryPanelsProxy::sizeHint() const
 {
     if (!d->subject || isCollapsable())
         return QSize(0, 0);
-    return d->subject->sizeHint();
+    // The panel's height is fixed, also while it has no page to ask.
+    const QSize hint = d->subject->sizeHint();
+    return QSize(hint.width(), qMax(hint.height(), d->subject->minimumHeight()));
 }
 
 QSize RibbonCategoryPanelsProxy::minimumSizeHint() const
 {
     if (!d->subject || isCollapsable())
         return QSize(0, 0);
-    return d->subject->minimumSizeHint();
+    const QSize hint = d->subject->minimumSizeHint();
+    return QSize(hint.width(), qMax(hint.height(), d->subject->minimumHeight()));
 }
 
 bool RibbonCategoryPanelsProxy::event(QEvent *event)

@@ -302,6 +302,7 @@ void RibbonMenuBar::insertBeforeCollapseButton(QWidget *widget)
         }
     }
     d->tabRow->insertWidget(index, widget);
+    widget->show();
 }
 
 void RibbonMenuBar::actionEvent(QActionEvent *event)
@@ -319,6 +320,7 @@ void RibbonMenuBar::actionEvent(QActionEvent *event)
             button->setFixedSize(20, 20);
             button->addAction(ribbonAction);
             d->tabRow->addWidget(button);
+            button->show();
             d->commandWidgets.insert(action, button);
         } else if (auto *tab = qobject_cast<RibbonCategoriesPanelAction *>(ribbonAction)) {
             d->mainButton->show();

@@ -1,0 +1,651 @@
+// The ribbon bar: tabs coming and going, the current tab, clicks and double clicks on
+// tab buttons, minimise and pin, contextual tab sets, the command buttons at the right
+// end of the tab row, and the lifetimes of tabs, groups and commands.
+
+#include "ZelTest.h"
+
+#include "RibbonButtonMain.h"
+#include "RibbonButtonNormal.h"
+#include "RibbonCatComboAction.h"
+#include "RibbonCatComboComboBox.h"
+#include "RibbonCatMenuAction.h"
+#include "RibbonCatMenuButton.h"
+#include "RibbonCatSimpleAction.h"
+#include "RibbonCategoriesPanelAction.h"
+#include "RibbonCategoryAction.h"
+#include "RibbonCategoryPanel.h"
+#include "RibbonCategoryPanels.h"
+#include "RibbonCategoryPanelsProxy.h"
+#include "RibbonCategoryWrapper.h"
+#include "RibbonContextCategoryPanel.h"
+#include "RibbonContextCategoryPanelAction.h"
+#include "RibbonMainWindow.h"
+#include "RibbonMenuBar.h"
+#include "RibbonMenuBarButton.h"
+#include "RibbonSimpleAction.h"
+
+#include <QHBoxLayout>
+#include <QPointer>
+
+#include <memory>
+
+using namespace zel;
+
+namespace {
+
+struct Fixture
+{
+    Fixture()
+        : window(new RibbonMainWindow)
+    {
+    }
+
+    RibbonMenuBar &bar() const { return window->ribbonMenuBar(); }
+    RibbonCategoryPanels *panels() const { return bar().categoryPanels()->subject(); }
+
+    RibbonCategoriesPanelAction *tab(const QString &text, QObject *owner = nullptr)
+    {
+        QObject *parent = owner ? owner : window.get();
+        auto *t = new RibbonCategoriesPanelAction(text, parent);
+        auto *c = new RibbonCategoryAction(text + QStringLiteral(" group"), parent);
+        c->addAction(new RibbonCatSimpleAction(QStringLiteral("Go"), RibbonCatSimpleAction::SizeLarge, parent), -1);
+        t->addCategory(c);
+        return t;
+    }
+
+    void show()
+    {
+        window->resize(900, 400);
+        window->show();
+        QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+    }
+
+    // The tab texts in the order of their buttons in the tab row.
+    QStringList row() const
+    {
+        QStringList texts;
+        const QList<RibbonMenuBarButton *> buttons = bar().findChildren<RibbonMenuBarButton *>();
+        QList<RibbonMenuBarButton *> sorted = buttons;
+        std::sort(sorted.begin(), sorted.end(),
+                  [](QWidget *a, QWidget *b) { return a->x() < b->x(); });
+        bar().layout()->activate();
+        for (RibbonMenuBarButton *b : sorted)
+            texts << b->text();
+        return texts;
+    }
+
+    std::unique_ptr<RibbonMainWindow> window;
+};
+
+QList<QWidget *> rowWidgets(RibbonMenuBar &bar)
+{
+    // The right end of the tab row, left to right.
+    QList<QWidget *> widgets;
+    for (QWidget *w : bar.findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly)) {
+        if (w->isVisibleTo(&bar) && !qobject_cast<RibbonMenuBarButton *>(w)
+            && !qobject_cast<RibbonButtonMain *>(w) && !qobject_cast<RibbonCategoryPanelsProxy *>(w))
+            widgets << w;
+    }
+    std::sort(widgets.begin(), widgets.end(), [](QWidget *a, QWidget *b) { return a->x() < b->x(); });
+    return widgets;
+}
+
+} // namespace
+
+class tst_RibbonMenuBar : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void emptyBar();
+    void firstTabCurrent();
+    void checkedTabWhileMinimised();
+    void removeCurrentTab_data();
+    void removeCurrentTab();
+    void disableAndEnable();
+    void clickWhilePinned();
+    void clickOnCurrentTabDoesNothing();
+    void clickWhileMinimised();
+    void doubleClickWhileMinimised();
+    void doubleClickWhilePinned();
+    void collapseActionAndShortcut();
+    void contextualSets();
+    void contextualCaptionWidensTabs();
+    void unregisteringHidesSet();
+    void helpAndFindButtons();
+    void lifetimeWhileShown();
+    void deleteTabsBeforeWindow();
+    void deleteWindowBeforeTabs();
+};
+
+void tst_RibbonMenuBar::emptyBar()
+{
+    Fixture f;
+    f.show();
+    RibbonMenuBar &bar = f.bar();
+    QVERIFY(!bar.mainMenuButton()->isVisible());
+    QCOMPARE(bar.mainMenuButton()->text(), QStringLiteral("FILE"));
+    QCOMPARE(f.row(), QStringList());
+    const QList<QWidget *> right = rowWidgets(bar);
+    QCOMPARE(right.size(), 1);
+    QCOMPARE(right.first()->size(), QSize(16, 20));
+    QVERIFY(right.first()->actions().contains(bar.collapseRibbonAction()));
+    QTRY_COMPARE(bar.height(), 20 + 92);
+
+    RibbonCategoriesPanelAction *home = f.tab(QStringLiteral("Home"));
+    bar.addAction(home);
+    QTRY_COMPARE(bar.height(), 24 + 92);
+    QVERIFY(bar.mainMenuButton()->isVisible());
+    QCOMPARE(bar.menuBarButton(home)->height(), 24);
+    QVERIFY(!bar.menuBarButton(nullptr));
+
+    QRect untouched(1, 2, 3, 4);
+    bar.displayedContextPanelRect(untouched);
+    QCOMPARE(untouched, QRect(1, 2, 3, 4));
+}
+
+void tst_RibbonMenuBar::firstTabCurrent()
+{
+    Fixture f;
+    RibbonCategoriesPanelAction *home = f.tab(QStringLiteral("Home"));
+    RibbonCategoriesPanelAction *view = f.tab(QStringLiteral("View"));
+    f.bar().addAction(home);
+    QVERIFY(home->isChecked());
+    f.bar().addAction(view);
+    QVERIFY(home->isChecked());
+    QVERIFY(!view->isChecked());
+    QVERIFY(f.bar().menuBarButton(home)->isChecked());
+    QCOMPARE(f.panels()->currentWidget(), f.panels()->panel(home));
+    // The tabs are the window's actions too, for their shortcuts.
+    QVERIFY(f.window->actions().contains(home));
+    QVERIFY(f.window->actions().contains(view));
+    QCOMPARE(f.row(), QStringList({QStringLiteral("HOME"), QStringLiteral("VIEW")}));
+}
+
+void tst_RibbonMenuBar::checkedTabWhileMinimised()
+{
+    Fixture f;
+    f.bar().setMinimizeRibbon(true);
+    QVERIFY(f.bar().isRibbonMinimized());
+    RibbonCategoriesPanelAction *home = f.tab(QStringLiteral("Home"));
+    home->setChecked(true);
+    f.bar().addAction(home);
+    QVERIFY(!home->isChecked());
+    QVERIFY(!f.panels()->isVisible());
+}
+
+void tst_RibbonMenuBar::removeCurrentTab_data()
+{
+    QTest::addColumn<int>("current");
+    QTest::addColumn<QString>("next");
+    QTest::newRow("first") << 0 << QStringLiteral("B");
+    QTest::newRow("middle") << 1 << QStringLiteral("C");
+    QTest::newRow("last") << 2 << QStringLiteral("B");
+}
+
+void tst_RibbonMenuBar::removeCurrentTab()
+{
+    QFETCH(int, current);
+    QFETCH(QString, next);
+    Fixture f;
+    QList<RibbonCategoriesPanelAction *> tabs;
+    for (const char *name : {"A", "B", "C"}) {
+        tabs << f.tab(QLatin1String(name));
+        f.bar().addAction(tabs.last());
+    }
+    tabs.at(current)->setChecked(true);
+    f.bar().removeAction(tabs.at(current));
+    QVERIFY(!tabs.at(current)->isChecked());
+    QVERIFY(!f.bar().menuBarButton(tabs.at(current)));
+    QVERIFY(!f.panels()->panel(tabs.at(current)));
+    QVERIFY(!f.window->actions().contains(tabs.at(current)));
+    for (RibbonCategoriesPanelAction *tab : tabs) {
+        if (tab != tabs.at(current))
+            QCOMPARE(tab->isChecked(), tab->text() == next);
+    }
+
+    // Down to the last tab: nothing left to be current.
+    for (RibbonCategoriesPanelAction *tab : tabs)
+        f.bar().removeAction(tab);
+    QCOMPARE(f.panels()->count(), 0);
+    for (RibbonCategoriesPanelAction *tab : tabs)
+        QVERIFY(!tab->isChecked());
+    // An unknown tab's removal does nothing.
+    f.bar().removeAction(tabs.first());
+}
+
+void tst_RibbonMenuBar::disableAndEnable()
+{
+    Fixture f;
+    RibbonCategoriesPanelAction *home = f.tab(QStringLiteral("Home"));
+    RibbonCategoriesPanelAction *insert = f.tab(QStringLiteral("Insert"));
+    RibbonCategoriesPanelAction *view = f.tab(QStringLiteral("View"));
+    for (RibbonCategoriesPanelAction *tab : {home, insert, view})
+        f.bar().addAction(tab);
+    f.show();
+
+    QPointer<RibbonMenuBarButton> button = f.bar().menuBarButton(insert);
+    insert->setEnabled(false);
+    QVERIFY(!button);
+    QVERIFY(!f.panels()->panel(insert));
+    QCOMPARE(f.row(), QStringList({QStringLiteral("HOME"), QStringLiteral("VIEW")}));
+
+    insert->setEnabled(true);
+    QVERIFY(f.bar().menuBarButton(insert));
+    QVERIFY(f.panels()->panel(insert));
+    QCOMPARE(f.row(), QStringList({QStringLiteral("HOME"), QStringLiteral("VIEW"), QStringLiteral("INSERT")}));
+
+    // Disabling the current tab passes the current state on.
+    QVERIFY(home->isChecked());
+    home->setEnabled(false);
+    QVERIFY(insert->isChecked() || view->isChecked());
+
+    // A tab added disabled gets no button until it is enabled.
+    RibbonCategoriesPanelAction *late = f.tab(QStringLiteral("Late"));
+    late->setEnabled(false);
+    f.bar().addAction(late);
+    QVERIFY(!f.bar().menuBarButton(late));
+    late->setEnabled(true);
+    QVERIFY(f.bar().menuBarButton(late));
+}
+
+void tst_RibbonMenuBar::clickWhilePinned()
+{
+    Fixture f;
+    RibbonCategoriesPanelAction *home = f.tab(QStringLiteral("Home"));
+    RibbonCategoriesPanelAction *view = f.tab(QStringLiteral("View"));
+    f.bar().addAction(home);
+    f.bar().addAction(view);
+    f.show();
+    QSignalSpy triggered(view, &QAction::triggered);
+    QTest::mouseClick(f.bar().menuBarButton(view), Qt::LeftButton);
+    QCOMPARE(triggered.count(), 1);
+    QVERIFY(view->isChecked());
+    QVERIFY(!home->isChecked());
+    QCOMPARE(f.bar().lastClickedAction(), view);
+    QCOMPARE(f.panels()->currentWidget(), f.panels()->panel(view));
+}
+
+void tst_RibbonMenuBar::clickOnCurrentTabDoesNothing()
+{
+    Fixture f;
+    RibbonCategoriesPanelAction *home = f.tab(QStringLiteral("Home"));
+    f.bar().addAction(home);
+    f.show();
+    QSignalSpy triggered(home, &QAction::triggered);
+    QSignalSpy changed(home, &QAction::changed);
+    QTest::mouseClick(f.bar().menuBarButton(home), Qt::LeftButton);
+    QCOMPARE(triggered.count(), 0);
+    QCOMPARE(changed.count(), 0);
+    QVERIFY(home->isChecked());
+    QVERIFY(!f.bar().lastClickedAction());
+}
+
+void tst_RibbonMenuBar::clickWhileMinimised()
+{
+    Fixture f;
+    RibbonCategoriesPanelAction *home = f.tab(QStringLiteral("Home"));
+    f.bar().addAction(home);
+    f.show();
+    f.bar().setMinimizeRibbon(true);
+    QVERIFY(!home->isChecked());
+    QTRY_COMPARE(f.bar().height(), 24);
+
+    QTest::mouseClick(f.bar().menuBarButton(home), Qt::LeftButton);
+    QVERIFY(!home->isChecked());
+    QVERIFY(!f.panels()->isVisible());
+    QTRY_VERIFY(home->isChecked());
+    QVERIFY(f.panels()->isVisible());
+    QVERIFY(f.panels()->isWindow());
+    QCOMPARE(f.bar().lastClickedAction(), home);
+    f.bar().collapse();
+    QVERIFY(!f.panels()->isVisible());
+    QVERIFY(!home->isChecked());
+}
+
+void tst_RibbonMenuBar::doubleClickWhileMinimised()
+{
+    Fixture f;
+    RibbonCategoriesPanelAction *home = f.tab(QStringLiteral("Home"));
+    f.bar().addAction(home);
+    f.show();
+    f.bar().setMinimizeRibbon(true);
+
+    int popupShows = 0;
+    struct ShowCounter : QObject
+    {
+        int *count;
+        bool eventFilter(QObject *o, QEvent *e) override
+        {
+            if (e->type() == QEvent::Show && static_cast<QWidget *>(o)->isWindow())
+                ++*count;
+            return false;
+        }
+    } counter;
+    counter.count = &popupShows;
+    f.panels()->installEventFilter(&counter);
+
+    RibbonMenuBarButton *button = f.bar().menuBarButton(home);
+    QTest::mouseClick(button, Qt::LeftButton);
+    QTest::mouseDClick(button, Qt::LeftButton);
+    QTRY_VERIFY(!f.bar().isRibbonMinimized());
+    QTest::qWait(250);
+    QCOMPARE(popupShows, 0);
+    QVERIFY(!f.bar().isRibbonMinimized());
+    QVERIFY(!f.panels()->isWindow());
+    QVERIFY(home->isChecked());
+    f.panels()->removeEventFilter(&counter);
+}
+
+void tst_RibbonMenuBar::doubleClickWhilePinned()
+{
+    Fixture f;
+    RibbonCategoriesPanelAction *home = f.tab(QStringLiteral("Home"));
+    f.bar().addAction(home);
+    f.show();
+    QTest::mouseDClick(f.bar().menuBarButton(home), Qt::LeftButton);
+    QTRY_VERIFY(f.bar().isRibbonMinimized());
+    QVERIFY(!f.panels()->isVisible());
+}
+
+void tst_RibbonMenuBar::collapseActionAndShortcut()
+{
+    Fixture f;
+    RibbonCategoriesPanelAction *home = f.tab(QStringLiteral("Home"));
+    f.bar().addAction(home);
+    f.show();
+    QAction *collapse = f.bar().collapseRibbonAction();
+    QCOMPARE(collapse->shortcut(), QKeySequence(Qt::CTRL + Qt::Key_F1));
+    QVERIFY(collapse->text().isEmpty());
+    QCOMPARE(collapse->toolTip(), QStringLiteral("Collapse the Ribbon"));
+    const qint64 minimiseIcon = collapse->icon().pixmap(16).toImage().cacheKey();
+    const QImage minimiseImage = collapse->icon().pixmap(16).toImage();
+    QVERIFY(!minimiseImage.isNull());
+    Q_UNUSED(minimiseIcon);
+
+    collapse->trigger();
+    QVERIFY(f.bar().isRibbonMinimized());
+    QCOMPARE(collapse->toolTip(), QStringLiteral("Pin the Ribbon"));
+    QVERIFY(collapse->icon().pixmap(16).toImage() != minimiseImage);
+    collapse->trigger();
+    QVERIFY(!f.bar().isRibbonMinimized());
+    QCOMPARE(collapse->toolTip(), QStringLiteral("Collapse the Ribbon"));
+    QCOMPARE(collapse->icon().pixmap(16).toImage(), minimiseImage);
+
+    QApplication::setActiveWindow(f.window.get());
+    QVERIFY(QTest::qWaitForWindowActive(f.window.get()));
+    QTest::keyClick(f.window.get(), Qt::Key_F1, Qt::ControlModifier);
+    QVERIFY(f.bar().isRibbonMinimized());
+    QTest::keyClick(f.window.get(), Qt::Key_F1, Qt::ControlModifier);
+    QVERIFY(!f.bar().isRibbonMinimized());
+    QVERIFY(home->isChecked());
+
+    // The same value twice changes nothing.
+    f.bar().setMinimizeRibbon(false);
+    QVERIFY(!f.bar().isRibbonMinimized());
+    QVERIFY(f.panels()->isVisible());
+}
+
+void tst_RibbonMenuBar::contextualSets()
+{
+    Fixture f;
+    f.bar().addAction(f.tab(QStringLiteral("Home")));
+    f.show();
+    auto *first = new RibbonContextCategoryPanelAction(Qt::yellow, Qt::red, Qt::black, f.window.get());
+    first->setText(QStringLiteral("Tools"));
+    RibbonCategoriesPanelAction *design = f.tab(QStringLiteral("Design"));
+    RibbonCategoriesPanelAction *layout = f.tab(QStringLiteral("Layout"));
+    first->addPanelAction(design);
+    first->addPanelAction(layout);
+    auto *second = new RibbonContextCategoryPanelAction(Qt::cyan, Qt::blue, Qt::black, f.window.get());
+    second->setText(QStringLiteral("More"));
+    RibbonCategoriesPanelAction *format = f.tab(QStringLiteral("Format"));
+    second->addPanelAction(format);
+
+    QSignalSpy changed(&f.bar(), &RibbonMenuBar::contextRibbonChanged);
+    // Unregistered sets are not shown.
+    f.bar().showContextPanelAction(first);
+    QCOMPARE(changed.count(), 0);
+    QVERIFY(!f.bar().displayedContextPanel());
+
+    RibbonContextCategoryPanel &registry = f.bar().ribbonContextCategoryPanel();
+    registry.addContextPanelAction(first);
+    registry.addContextPanelAction(second);
+    f.bar().showContextPanelAction(first);
+    QCOMPARE(changed.count(), 1);
+    QCOMPARE(f.bar().displayedContextPanel(), first);
+    QCOMPARE(f.row(), QStringList({QStringLiteral("HOME"), QStringLiteral("DESIGN"), QStringLiteral("LAYOUT")}));
+
+    QRect band;
+    f.bar().displayedContextPanelRect(band);
+    RibbonMenuBarButton *d = f.bar().menuBarButton(design);
+    RibbonMenuBarButton *l = f.bar().menuBarButton(layout);
+    QCOMPARE(band, QRect(d->mapToGlobal(QPoint(0, 0)), l->mapToGlobal(l->rect().bottomRight())));
+    // The band behind the set's tabs is painted in its colour.
+    QCOMPARE(d->grab().toImage().pixelColor(d->width() / 2, 1), QColor(Qt::yellow));
+
+    // Showing a second set hides the first.
+    f.bar().showContextPanelAction(second);
+    QCOMPARE(f.bar().displayedContextPanel(), second);
+    QCOMPARE(f.row(), QStringList({QStringLiteral("HOME"), QStringLiteral("FORMAT")}));
+    QVERIFY(!f.panels()->panel(design));
+    QCOMPARE(changed.count(), 3);
+
+    // Hiding a set that is not displayed does nothing.
+    f.bar().hideContextPanelAction(first);
+    QCOMPARE(changed.count(), 3);
+    f.bar().hideContextPanelAction(second);
+    QVERIFY(!f.bar().displayedContextPanel());
+    QCOMPARE(f.row(), QStringList({QStringLiteral("HOME")}));
+    QCOMPARE(changed.count(), 4);
+
+    // The tab last clicked comes back current when its set is shown again.
+    f.bar().showContextPanelAction(first);
+    QTest::mouseClick(f.bar().menuBarButton(layout), Qt::LeftButton);
+    QVERIFY(layout->isChecked());
+    f.bar().hideContextPanelAction(first);
+    QVERIFY(!layout->isChecked());
+    f.bar().showContextPanelAction(first);
+    QVERIFY(layout->isChecked());
+}
+
+void tst_RibbonMenuBar::contextualCaptionWidensTabs()
+{
+    Fixture f;
+    f.bar().addAction(f.tab(QStringLiteral("Home")));
+    auto *set = new RibbonContextCategoryPanelAction(Qt::yellow, Qt::red, Qt::black, f.window.get());
+    set->setText(QStringLiteral("A Rather Long Contextual Tools Caption"));
+    RibbonCategoriesPanelAction *x = f.tab(QStringLiteral("X"));
+    RibbonCategoriesPanelAction *y = f.tab(QStringLiteral("Y"));
+    set->addPanelAction(x);
+    set->addPanelAction(y);
+    f.bar().ribbonContextCategoryPanel().addContextPanelAction(set);
+    f.bar().showContextPanelAction(set);
+
+    const QFontMetrics fm = f.bar().fontMetrics();
+    const int sum = fm.horizontalAdvance(x->text()) + fm.horizontalAdvance(y->text());
+    const int d = fm.horizontalAdvance(set->text()) - sum;
+    QVERIFY(d > 48);
+    for (RibbonCategoriesPanelAction *tab : {x, y}) {
+        RibbonMenuBarButton *button = f.bar().menuBarButton(tab);
+        const int expected = button->sizeHint().width() + int(d / 2.0 + 0.5) - 12 * 2;
+        QCOMPARE(button->minimumWidth(), expected);
+        QCOMPARE(button->maximumWidth(), expected);
+    }
+
+    // A caption narrower than the tab texts leaves the buttons alone.
+    auto *narrow = new RibbonContextCategoryPanelAction(Qt::yellow, Qt::red, Qt::black, f.window.get());
+    narrow->setText(QStringLiteral("T"));
+    RibbonCategoriesPanelAction *wide = f.tab(QStringLiteral("Wide Tab"));
+    narrow->addPanelAction(wide);
+    f.bar().ribbonContextCategoryPanel().addContextPanelAction(narrow);
+    f.bar().showContextPanelAction(narrow);
+    QCOMPARE(f.bar().menuBarButton(wide)->minimumWidth(), 0);
+}
+
+void tst_RibbonMenuBar::unregisteringHidesSet()
+{
+    Fixture f;
+    f.bar().addAction(f.tab(QStringLiteral("Home")));
+    auto *set = new RibbonContextCategoryPanelAction(Qt::yellow, Qt::red, Qt::black, f.window.get());
+    RibbonCategoriesPanelAction *design = f.tab(QStringLiteral("Design"));
+    set->addPanelAction(design);
+    RibbonContextCategoryPanel &registry = f.bar().ribbonContextCategoryPanel();
+    registry.addContextPanelAction(set);
+    f.bar().showContextPanelAction(set);
+    QVERIFY(f.bar().menuBarButton(design));
+
+    // The registry reaches the bar's slot through the meta-object.
+    registry.removeContextPanelAction(set);
+    QVERIFY(!registry.containsAction(set));
+    QVERIFY(!f.bar().displayedContextPanel());
+    QVERIFY(!f.bar().menuBarButton(design));
+}
+
+void tst_RibbonMenuBar::helpAndFindButtons()
+{
+    Fixture f;
+    f.bar().addAction(f.tab(QStringLiteral("Home")));
+    f.show();
+    QWidget *collapseButton = rowWidgets(f.bar()).last();
+
+    auto *help = new RibbonSimpleAction(QStringLiteral("Help"), f.window.get());
+    f.bar().setHelpAction(help);
+    QCOMPARE(f.bar().helpAction(), help);
+    f.bar().layout()->activate();
+    QList<QWidget *> right = rowWidgets(f.bar());
+    QCOMPARE(right.size(), 2);
+    QCOMPARE(right.at(0), collapseButton);
+    QVERIFY(qobject_cast<RibbonButtonNormal *>(right.at(1)));
+    QCOMPARE(right.at(1)->size(), QSize(20, 20));
+    QVERIFY(right.at(1)->actions().contains(help));
+
+    // Replacing the help action replaces its button.
+    auto *help2 = new RibbonSimpleAction(QStringLiteral("Help 2"), f.window.get());
+    f.bar().setHelpAction(help2);
+    f.bar().layout()->activate();
+    right = rowWidgets(f.bar());
+    QCOMPARE(right.size(), 2);
+    QVERIFY(right.at(1)->actions().contains(help2));
+    QVERIFY(!f.bar().actions().contains(help));
+
+    // The find button appears only beside a find combo, both before the collapse button.
+    auto *find = new RibbonCatMenuAction(QStringLiteral("Find"), RibbonCatMenuAction::MenuTypeButton,
+                                         RibbonCatMenuAction::MenuSizeSmall, RibbonCatMenuAction::PopupMenu,
+                                         f.window.get());
+    f.bar().setFindAction(find);
+    QCOMPARE(f.bar().findAction(), find);
+    QVERIFY(!f.bar().actions().contains(find));
+    auto *combo = new RibbonCatComboAction(f.window.get());
+    f.bar().setFindComboAction(combo);
+    QCOMPARE(f.bar().findComboAction(), combo);
+    f.bar().layout()->activate();
+    right = rowWidgets(f.bar());
+    QCOMPARE(right.size(), 4);
+    QVERIFY(qobject_cast<RibbonCatComboComboBox *>(right.at(0)));
+    QVERIFY(qobject_cast<RibbonCatMenuButton *>(right.at(1)));
+    QCOMPARE(right.at(2), collapseButton);
+
+    f.bar().setFindComboAction(nullptr);
+    f.bar().layout()->activate();
+    right = rowWidgets(f.bar());
+    QCOMPARE(right.size(), 2);
+    QCOMPARE(right.at(0), collapseButton);
+
+    // A help action destroyed by its owner takes its button along.
+    delete help2;
+    QVERIFY(!f.bar().helpAction());
+    QCOMPARE(rowWidgets(f.bar()).size(), 1);
+}
+
+void tst_RibbonMenuBar::lifetimeWhileShown()
+{
+    Fixture f;
+    RibbonCategoriesPanelAction *home = f.tab(QStringLiteral("Home"));
+    RibbonCategoriesPanelAction *view = f.tab(QStringLiteral("View"));
+    f.bar().addAction(home);
+    f.bar().addAction(view);
+    f.show();
+
+    // Commands and groups come and go under the shown page.
+    RibbonCategoryAction *group = home->categories().first();
+    auto *extra = new RibbonCatSimpleAction(QStringLiteral("Extra"), RibbonCatSimpleAction::SizeLarge, f.window.get());
+    group->addAction(extra, -1);
+    QTest::qWait(10);
+    delete extra;
+    auto *second = new RibbonCategoryAction(QStringLiteral("Second"), f.window.get());
+    second->addAction(new RibbonCatSimpleAction(QStringLiteral("S"), RibbonCatSimpleAction::SizeSmall, f.window.get()), -1);
+    home->addCategory(second);
+    QVERIFY(f.panels()->panel(home)->wrapper(second));
+    home->removeCategory(second);
+    QVERIFY(!f.panels()->panel(home)->wrapper(second));
+    home->addCategory(second);
+    delete second;
+    QTest::qWait(10);
+
+    // A current tab destroyed while shown hands the current state on.
+    QPointer<RibbonMenuBarButton> button = f.bar().menuBarButton(home);
+    QPointer<RibbonCategoryPanel> page = f.panels()->panel(home);
+    delete home;
+    QVERIFY(!button);
+    QVERIFY(!page);
+    QVERIFY(view->isChecked());
+    QCOMPARE(f.row(), QStringList({QStringLiteral("VIEW")}));
+    QCOMPARE(f.panels()->count(), 1);
+
+    // A tab of a displayed contextual set destroyed while shown.
+    auto *set = new RibbonContextCategoryPanelAction(Qt::yellow, Qt::red, Qt::black, f.window.get());
+    RibbonCategoriesPanelAction *design = f.tab(QStringLiteral("Design"));
+    set->addPanelAction(design);
+    f.bar().ribbonContextCategoryPanel().addContextPanelAction(set);
+    f.bar().showContextPanelAction(set);
+    delete design;
+    QRect band;
+    f.bar().displayedContextPanelRect(band);
+    QVERIFY(band.isNull());
+    delete set;
+    QVERIFY(!f.bar().displayedContextPanel());
+    QTest::qWait(10);
+}
+
+void tst_RibbonMenuBar::deleteTabsBeforeWindow()
+{
+    Fixture f;
+    QObject owner;
+    RibbonCategoriesPanelAction *home = f.tab(QStringLiteral("Home"), &owner);
+    RibbonCategoriesPanelAction *view = f.tab(QStringLiteral("View"), &owner);
+    f.bar().addAction(home);
+    f.bar().addAction(view);
+    f.show();
+    f.bar().setMinimizeRibbon(true);
+    view->setChecked(true);
+    QVERIFY(f.panels()->isVisible());
+    // Groups, commands and tabs all go while the popup panel is open.
+    qDeleteAll(owner.children());
+    QCOMPARE(f.panels()->count(), 0);
+    QCOMPARE(f.row(), QStringList());
+    f.window.reset();
+}
+
+void tst_RibbonMenuBar::deleteWindowBeforeTabs()
+{
+    QObject owner;
+    QPointer<RibbonCategoriesPanelAction> home;
+    {
+        Fixture f;
+        home = f.tab(QStringLiteral("Home"), &owner);
+        f.bar().addAction(home);
+        f.bar().addAction(f.tab(QStringLiteral("View"), &owner));
+        f.show();
+    }
+    QVERIFY(home);
+    QVERIFY(home->associatedWidgets().isEmpty());
+    // The actions live on, and can go to another bar.
+    Fixture g;
+    g.bar().addAction(home);
+    QVERIFY(g.bar().menuBarButton(home));
+    QVERIFY(home->isChecked());
+}
+
+ZEL_TEST_MAIN(tst_RibbonMenuBar)
+#include "tst_ribbonmenubar.moc"
