@@ -97,6 +97,11 @@ public:
             bar.addAction(tab);
         m_window->show();
         settle();
+        if (qEnvironmentVariableIsSet("BENCH_DEBUG")) {
+            qWarning("window min %d, bar min %d, panels min %d, panels hint %d", m_window->minimumSizeHint().width(),
+                     bar.minimumSizeHint().width(), bar.categoryPanels()->minimumSizeHint().width(),
+                     bar.categoryPanels()->sizeHint().width());
+        }
     }
 
     QWidget *window() const override { return m_window; }

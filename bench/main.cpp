@@ -55,14 +55,14 @@ double median(QVector<double> v)
 
 // Kept out of line so a profiler can collect exactly these two phases
 // (valgrind --toggle-collect='*benchResizeSteps*').
-Q_NEVER_INLINE QVector<double> benchResizeSteps(Kind &kind, int repetitions)
+Q_NEVER_INLINE QVector<double> benchResizeSteps(Kind &kind, int repetitions, int narrow, int wide)
 {
     QVector<double> times;
     QWidget *w = kind.window();
     for (int i = 0; i < repetitions; ++i) {
         QElapsedTimer t;
         t.start();
-        w->resize(i % 2 ? 1600 : 600, w->height());
+        w->resize(i % 2 ? wide : narrow, w->height());
         settle();
         times << ms(t);
     }
@@ -91,7 +91,7 @@ void quietHandler(QtMsgType type, const QMessageLogContext &, const QString &msg
     std::fprintf(stderr, "%s\n", qPrintable(msg));
 }
 
-int child(const QString &workloadName, const QString &kindName, const QString &only)
+int child(const QString &workloadName, const QString &kindName, const QString &only, int narrow, int wide)
 {
     const Workload w = workload(workloadName);
     if (!w.tabs) {
@@ -125,14 +125,26 @@ int child(const QString &workloadName, const QString &kindName, const QString &o
     out[QStringLiteral("widgets")] = QApplication::allWidgets().size() - widgetsStart;
     out[QStringLiteral("rss_per_button_kb")] = double(rssShown - rssStart) / buttons;
 
-    // One unmeasured round trip so that the first fold is not counted as a step.
-    kind->window()->resize(600, kind->window()->height());
+    // The resize step runs between a narrow and a wide width. The ribbon window cannot
+    // be narrower than its tab row, which grows with the number of tabs: the narrow width
+    // is then the narrowest the window takes, and the floor (which accepts any width) is
+    // given the same pair by the parent.
+    QWidget *win = kind->window();
+    if (narrow <= 0) {
+        win->resize(600, win->height());
+        settle();
+        narrow = qMax(600, win->width());
+        wide = qMax(1600, narrow + 1000);
+    }
+    out[QStringLiteral("narrow_px")] = narrow;
+    out[QStringLiteral("wide_px")] = wide;
+    win->resize(narrow, win->height());
     settle();
-    kind->window()->resize(1600, kind->window()->height());
+    win->resize(wide, win->height());
     settle();
 
     if (only.isEmpty() || only == QLatin1String("resize"))
-        out[QStringLiteral("resize_ms")] = median(benchResizeSteps(*kind, w.repetitions));
+        out[QStringLiteral("resize_ms")] = median(benchResizeSteps(*kind, w.repetitions, narrow, wide));
     if (only.isEmpty() || only == QLatin1String("switch")) {
         kind->switchTab(1); kind->switchTab(2); kind->switchTab(3); kind->switchTab(0);
         out[QStringLiteral("switch_ms")] = median(benchTabSwitches(*kind, w.repetitions));
@@ -140,9 +152,9 @@ int child(const QString &workloadName, const QString &kindName, const QString &o
 
     if (only.isEmpty()) {
         kind->switchTab(0);
-        kind->window()->resize(600, kind->window()->height());
+        kind->window()->resize(narrow, kind->window()->height());
         settle();
-        out[QStringLiteral("folded_at_600")] = kind->foldedCount();
+        out[QStringLiteral("folded_at_narrow")] = kind->foldedCount();
         QVector<double> open, close;
         for (int i = 0; i < w.popupRepetitions; ++i) {
             t.start();
@@ -156,7 +168,7 @@ int child(const QString &workloadName, const QString &kindName, const QString &o
         out[QStringLiteral("folded_popup_open_ms")] = median(open);
         out[QStringLiteral("folded_popup_close_ms")] = median(close);
 
-        kind->window()->resize(1600, kind->window()->height());
+        kind->window()->resize(wide, kind->window()->height());
         settle();
         kind->prepareMinimised();
         open.clear();
@@ -190,7 +202,7 @@ struct Metric
 const Metric metrics[] = {
     {"build_ms", "build action tree (ms)", true},
     {"show_ms", "create + add tabs + show to first paint (ms)", true},
-    {"resize_ms", "resize step 1600<->600, median (ms)", true},
+    {"resize_ms", "resize step wide<->narrow, median (ms)", true},
     {"switch_ms", "tab switch, median (ms)", true},
     {"folded_popup_open_ms", "folded group popup open, median (ms)", true},
     {"folded_popup_close_ms", "folded group popup close, median (ms)", true},
@@ -199,14 +211,20 @@ const Metric metrics[] = {
     {"peak_rss_mb", "peak resident memory (MB)", false},
     {"rss_per_button_kb", "resident memory per button (KB)", false},
     {"widgets", "widgets created", false},
-    {"folded_at_600", "groups folded at 600 px", false},
+    {"folded_at_narrow", "groups folded at the narrow width", false},
+    {"narrow_px", "narrow width of the resize step (px)", false},
+    {"wide_px", "wide width of the resize step (px)", false},
 };
 
-QMap<QString, double> runChild(const QString &self, const QString &wl, const QString &kind)
+QMap<QString, double> runChild(const QString &self, const QString &wl, const QString &kind, int narrow = 0,
+                               int wide = 0)
 {
     QProcess p;
     p.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    p.start(self, {QStringLiteral("--workload"), wl, QStringLiteral("--kind"), kind});
+    QStringList args{QStringLiteral("--workload"), wl, QStringLiteral("--kind"), kind};
+    if (narrow > 0)
+        args << QStringLiteral("--narrow") << QString::number(narrow) << QStringLiteral("--wide") << QString::number(wide);
+    p.start(self, args);
     p.waitForFinished(-1);
     QMap<QString, double> r;
     for (const QByteArray &line : p.readAllStandardOutput().split('\n')) {
@@ -243,7 +261,8 @@ int parent(const QStringList &workloads, const QString &csvPath)
     for (const QString &wl : workloads) {
         std::fprintf(stderr, "running %s ...\n", qPrintable(wl));
         ribbon[wl] = runChild(self, wl, QStringLiteral("ribbon"));
-        floor[wl] = runChild(self, wl, QStringLiteral("floor"));
+        floor[wl] = runChild(self, wl, QStringLiteral("floor"), int(ribbon[wl].value(QStringLiteral("narrow_px"))),
+                             int(ribbon[wl].value(QStringLiteral("wide_px"))));
     }
 
     QFile csv(csvPath);
@@ -303,6 +322,8 @@ int main(int argc, char *argv[])
     parser.addOption({QStringLiteral("kind"), QStringLiteral("Child: ribbon or floor."), QStringLiteral("K")});
     parser.addOption({QStringLiteral("only"), QStringLiteral("Child: only the resize or switch measure (profiling)."),
                       QStringLiteral("M")});
+    parser.addOption({QStringLiteral("narrow"), QStringLiteral("Child: narrow width of the resize step."), QStringLiteral("PX")});
+    parser.addOption({QStringLiteral("wide"), QStringLiteral("Child: wide width of the resize step."), QStringLiteral("PX")});
     parser.addOption({QStringLiteral("workloads"), QStringLiteral("Workloads to run, comma separated (S,M,L)."),
                       QStringLiteral("LIST"), QStringLiteral("S,M,L")});
     parser.addOption({QStringLiteral("csv"), QStringLiteral("CSV output file."), QStringLiteral("FILE"),
@@ -314,7 +335,8 @@ int main(int argc, char *argv[])
         qInstallMessageHandler(quietHandler);
         zel::RibbonApplication app(argc, argv);
         return child(parser.value(QStringLiteral("workload")), parser.value(QStringLiteral("kind")),
-                     parser.value(QStringLiteral("only")));
+                     parser.value(QStringLiteral("only")), parser.value(QStringLiteral("narrow")).toInt(),
+                     parser.value(QStringLiteral("wide")).toInt());
     }
     QCoreApplication app(argc, argv);
     return parent(parser.value(QStringLiteral("workloads")).split(QLatin1Char(',')), parser.value(QStringLiteral("csv")));
