@@ -1,6 +1,8 @@
 // The panel area below the tab row: one page per tab, groups folding into collapsed
 // buttons as the width runs short, and the popup panel of a minimised ribbon.
 
+// Heights follow the screen resolution: ZEL_TEST_DPI_SENSITIVE
+
 #include "ZelTest.h"
 
 #include "RibbonApplication.h"
@@ -236,9 +238,11 @@ void tst_CategoryPanels::foldsWithTheWindow()
 
     // A page width between "Wide open, Small folded" and "both open".
     const int wide = layout.categories().at(0)->sizeHint().width();
+    const int smallFolded = layout.categories().at(1)->minimumSizeHint().width();
+    QVERIFY(layout.categories().at(1)->sizeHint().width() > smallFolded + 1);
     QWidget *page = f.panels()->panel(tab);
     const int around = f.window->width() - page->width();
-    f.window->resize(wide + 70 + around, 300);
+    f.window->resize(wide + smallFolded + 1 + around, 300);
     QTRY_COMPARE(collapsedNames(layout), QStringLiteral("Small"));
     f.window->resize(400, 300);
     QTRY_COMPARE(collapsedNames(layout), QStringLiteral("Wide,Small"));

@@ -1,6 +1,8 @@
 // The collapsed-group button: its size, its look, and the popup it opens with the full
 // group below (or above) it.
 
+// Heights follow the screen resolution: ZEL_TEST_DPI_SENSITIVE
+
 #include "ZelTest.h"
 
 #include "RibbonCatSimpleAction.h"
@@ -28,7 +30,7 @@ namespace {
 // A main window with one tab holding one group of the given caption and buttons.
 struct Fixture
 {
-    explicit Fixture(const QString &caption, int buttons = 16)
+    explicit Fixture(const QString &caption, int buttons = 12)
     {
         window.reset(new RibbonMainWindow);
         tab = new RibbonCategoriesPanelAction(QStringLiteral("Home"), window.get());

@@ -2,6 +2,8 @@
 // tab buttons, minimise and pin, contextual tab sets, the command buttons at the right
 // end of the tab row, and the lifetimes of tabs, groups and commands.
 
+// Heights follow the screen resolution: ZEL_TEST_DPI_SENSITIVE
+
 #include "ZelTest.h"
 
 #include "RibbonButtonMain.h"
@@ -22,6 +24,7 @@
 #include "RibbonMainWindow.h"
 #include "RibbonMenuBar.h"
 #include "RibbonMenuBarButton.h"
+#include "RibbonScale_p.h"
 #include "RibbonSimpleAction.h"
 
 #include <QHBoxLayout>
@@ -130,11 +133,11 @@ void tst_RibbonMenuBar::emptyBar()
     QCOMPARE(right.size(), 1);
     QCOMPARE(right.first()->size(), QSize(16, 20));
     QVERIFY(right.first()->actions().contains(bar.collapseRibbonAction()));
-    QTRY_COMPARE(bar.height(), 20 + 92);
+    QTRY_COMPARE(bar.height(), 20 + scaled(92));
 
     RibbonCategoriesPanelAction *home = f.tab(QStringLiteral("Home"));
     bar.addAction(home);
-    QTRY_COMPARE(bar.height(), 24 + 92);
+    QTRY_COMPARE(bar.height(), 24 + scaled(92));
     QVERIFY(bar.mainMenuButton()->isVisible());
     QCOMPARE(bar.menuBarButton(home)->height(), 24);
     QVERIFY(!bar.menuBarButton(nullptr));
