@@ -289,6 +289,43 @@ QPixmap templatePreview(bool letter)
     return page;
 }
 
+// Whether the character at pos is a picture.
+bool isPictureAt(QTextDocument *doc, int pos)
+{
+    if (pos < 0 || pos >= doc->characterCount() - 1)
+        return false;
+    const QTextBlock block = doc->findBlock(pos);
+    for (QTextBlock::iterator it = block.begin(); !it.atEnd(); ++it) {
+        const QTextFragment fragment = it.fragment();
+        if (fragment.isValid() && fragment.contains(pos))
+            return fragment.charFormat().isImageFormat();
+    }
+    return false;
+}
+
+// The picture the cursor has selected or stands right before, as a cursor selecting it;
+// a null cursor when there is none.
+QTextCursor pictureAt(const QTextCursor &cursor)
+{
+    QTextDocument *doc = cursor.document();
+    QList<int> candidates;
+    if (cursor.hasSelection()) {
+        if (cursor.selectionEnd() - cursor.selectionStart() == 1)
+            candidates << cursor.selectionStart();
+    } else {
+        candidates << cursor.position() << cursor.position() - 1;
+    }
+    for (int pos : candidates) {
+        if (isPictureAt(doc, pos)) {
+            QTextCursor picture(doc);
+            picture.setPosition(pos);
+            picture.setPosition(pos + 1, QTextCursor::KeepAnchor);
+            return picture;
+        }
+    }
+    return QTextCursor();
+}
+
 } // namespace
 
 struct EditorDemo::Priv
@@ -470,6 +507,52 @@ EditorDemo::EditorDemo(QSettings &settings, QWidget *parent)
     paragraph->addAction(lists, 0);
     paragraph->addAction(align, 1);
     d->home->addCategory(paragraph);
+
+    auto *styles = new RibbonCategoryAction(editorIcon(EditorIcon::StyleHeading1), tr("Styles"), this);
+    struct StyleDef
+    {
+        EditorIcon icon;
+        QString name;
+        int heading;
+        qreal points;
+        QColor color;
+        bool italic;
+        int weight;
+    };
+    const QList<StyleDef> styleDefs = {
+        {EditorIcon::StyleNormal, tr("Normal"), 0, 0, QColor(), false, QFont::Normal},
+        {EditorIcon::StyleTitle, tr("Title"), 1, 26, QColor(0x26, 0x26, 0x26), false, QFont::Light},
+        {EditorIcon::StyleHeading1, tr("Heading 1"), 1, 20, EditorColors::Accent, false, QFont::Normal},
+        {EditorIcon::StyleHeading2, tr("Heading 2"), 2, 15, EditorColors::Accent, false, QFont::Normal},
+        {EditorIcon::StyleQuote, tr("Quote"), 0, 0, QColor(0x66, 0x66, 0x66), true, QFont::Normal}};
+    for (const StyleDef &style : styleDefs) {
+        RibbonCatSimpleAction *a = simple(style.icon, style.name, S::SizeLarge);
+        a->setToolTip(tr("Format the paragraph as %1").arg(style.name));
+        styles->addAction(a, -1);
+        connect(a, &QAction::triggered, this, [this, style] {
+            QTextCursor cursor = d->edit->textCursor();
+            cursor.beginEditBlock();
+            QTextBlockFormat block = cursor.blockFormat();
+            block.setHeadingLevel(style.heading);
+            cursor.setBlockFormat(block);
+            QTextCharFormat chars;
+            if (style.points > 0)
+                chars.setFontPointSize(style.points);
+            if (style.color.isValid())
+                chars.setForeground(style.color);
+            chars.setFontItalic(style.italic);
+            chars.setFontWeight(style.weight);
+            // The whole paragraph takes the style, as in any word processor.
+            QTextCursor whole = cursor;
+            whole.setPosition(cursor.block().position());
+            whole.setPosition(cursor.block().position() + cursor.block().length() - 1, QTextCursor::KeepAnchor);
+            whole.setCharFormat(chars);
+            cursor.endEditBlock();
+            d->edit->mergeCurrentCharFormat(chars);
+            d->edit->setFocus();
+        });
+    }
+    d->home->addCategory(styles);
 
     auto *editing = new RibbonCategoryAction(editorIcon(EditorIcon::Find), tr("Editing"), this);
     auto *find = simple(EditorIcon::Find, tr("Find"), S::SizeLarge);
@@ -788,35 +871,50 @@ EditorDemo::EditorDemo(QSettings &settings, QWidget *parent)
         auto *a = new RibbonCatSimpleAction(editorIcon(icon), text, RibbonCatSimpleAction::SizeLarge, this);
         sizeCategory->addAction(a, -1);
         connect(a, &QAction::triggered, this, [this, factor] {
-            QTextCursor cursor = d->edit->textCursor();
-            const int at = cursor.selectionStart();
-            for (int pos : {at, cursor.position(), cursor.position() - 1}) {
-                QTextCursor probe(d->edit->document());
-                probe.setPosition(qMax(0, pos));
-                probe.setPosition(qMax(0, pos) + 1, QTextCursor::KeepAnchor);
-                if (!probe.charFormat().isImageFormat())
-                    continue;
-                QTextImageFormat f = probe.charFormat().toImageFormat();
-                const QImage original = d->edit->document()->resource(QTextDocument::ImageResource, QUrl(f.name())).value<QImage>();
-                const QSizeF base = original.isNull() ? QSizeF(240, 150) : QSizeF(original.size());
-                if (factor <= 0) {
-                    f.setWidth(base.width());
-                    f.setHeight(base.height());
-                } else {
-                    f.setWidth(qBound(24.0, f.width() * factor, 1200.0));
-                    f.setHeight(qBound(15.0, f.height() * factor, 750.0));
-                }
-                probe.setCharFormat(f);
-                d->edit->setTextCursor(probe);
-                break;
+            QTextCursor probe = pictureAt(d->edit->textCursor());
+            if (probe.isNull())
+                return;
+            QTextImageFormat f = probe.charFormat().toImageFormat();
+            const QImage original = d->edit->document()->resource(QTextDocument::ImageResource, QUrl(f.name())).value<QImage>();
+            const QSizeF base = original.isNull() ? QSizeF(240, 150) : QSizeF(original.size());
+            if (factor <= 0) {
+                f.setWidth(base.width());
+                f.setHeight(base.height());
+            } else {
+                f.setWidth(qBound(24.0, f.width() * factor, 1200.0));
+                f.setHeight(qBound(15.0, f.height() * factor, 750.0));
             }
+            probe.setCharFormat(f);
+            d->edit->setTextCursor(probe);
         });
     };
     pictureCommand(EditorIcon::PictureLarger, tr("Larger"), 1.25);
     pictureCommand(EditorIcon::PictureSmaller, tr("Smaller"), 0.8);
     pictureCommand(EditorIcon::PictureReset, tr("Original Size"), 0);
     formatTab->addCategory(sizeCategory);
+    auto *arrangeTab = new RibbonCategoriesPanelAction(tr("Arrange"), this);
+    auto *position = new RibbonCategoryAction(editorIcon(EditorIcon::AlignCenter), tr("Position"), this);
+    const QList<QPair<EditorIcon, QPair<QString, Qt::Alignment>>> positions = {
+        {EditorIcon::AlignLeft, {tr("Left"), Qt::AlignLeft | Qt::AlignAbsolute}},
+        {EditorIcon::AlignCenter, {tr("Centre"), Qt::AlignHCenter}},
+        {EditorIcon::AlignRight, {tr("Right"), Qt::AlignRight | Qt::AlignAbsolute}}};
+    for (const auto &entry : positions) {
+        auto *a = new RibbonCatSimpleAction(editorIcon(entry.first), entry.second.first, RibbonCatSimpleAction::SizeLarge, this);
+        a->setToolTip(tr("Place the picture's paragraph: %1").arg(entry.second.first));
+        position->addAction(a, -1);
+        const Qt::Alignment alignment = entry.second.second;
+        connect(a, &QAction::triggered, this, [this, alignment] {
+            QTextCursor picture = pictureAt(d->edit->textCursor());
+            if (picture.isNull())
+                return;
+            QTextBlockFormat f = picture.blockFormat();
+            f.setAlignment(alignment);
+            picture.setBlockFormat(f);
+        });
+    }
+    arrangeTab->addCategory(position);
     d->pictureTools->addPanelAction(formatTab);
+    d->pictureTools->addPanelAction(arrangeTab);
     bar.ribbonContextCategoryPanel().addContextPanelAction(d->pictureTools);
 
     auto *help = new RibbonSimpleAction(editorIcon(EditorIcon::Help), tr("Help"), this);
@@ -1020,16 +1118,8 @@ EditorDemo::EditorDemo(QSettings &settings, QWidget *parent)
         RibbonContextCategoryPanelAction *wanted = nullptr;
         if (cursor.currentTable()) {
             wanted = d->tableTools;
-        } else {
-            for (int pos : {cursor.selectionStart(), cursor.position()}) {
-                QTextCursor probe(d->edit->document());
-                probe.setPosition(pos);
-                if (pos < d->edit->document()->characterCount() - 1) {
-                    probe.setPosition(pos + 1, QTextCursor::KeepAnchor);
-                    if (probe.charFormat().isImageFormat() && (cursor.hasSelection() || pos == cursor.position()))
-                        wanted = d->pictureTools;
-                }
-            }
+        } else if (!pictureAt(cursor).isNull()) {
+            wanted = d->pictureTools;
         }
         RibbonMenuBar &bar = ribbonMenuBar();
         RibbonContextCategoryPanelAction *shown = bar.displayedContextPanel();
@@ -1256,11 +1346,13 @@ void EditorDemo::loadSampleDocument()
     emit edit->document()->modificationChanged(false);
 }
 
-void EditorDemo::activateContextTab()
+void EditorDemo::activateContextTab(const QString &name)
 {
     RibbonContextCategoryPanelAction *shown = ribbonMenuBar().displayedContextPanel();
-    if (shown && !shown->panelActions().isEmpty())
-        shown->panelActions().constLast()->setChecked(true);
+    if (!shown)
+        return;
+    if (RibbonCategoriesPanelAction *tab = shown->panelAction(name))
+        tab->setChecked(true);
 }
 
 void EditorDemo::moveCursorIntoTable()
@@ -1278,11 +1370,11 @@ void EditorDemo::selectFirstPicture()
 {
     QTextDocument *doc = d->edit->document();
     for (int pos = 0; pos < doc->characterCount() - 1; ++pos) {
-        QTextCursor probe(doc);
-        probe.setPosition(pos);
-        probe.setPosition(pos + 1, QTextCursor::KeepAnchor);
-        if (probe.charFormat().isImageFormat()) {
-            d->edit->setTextCursor(probe);
+        if (isPictureAt(doc, pos)) {
+            QTextCursor picture(doc);
+            picture.setPosition(pos);
+            picture.setPosition(pos + 1, QTextCursor::KeepAnchor);
+            d->edit->setTextCursor(picture);
             return;
         }
     }

@@ -33,8 +33,8 @@ public:
     // Places the cursor in the first table / selects the first picture, if any.
     void moveCursorIntoTable();
     void selectFirstPicture();
-    // Makes the last tab of the contextual set on display the current tab.
-    void activateContextTab();
+    // Makes the named tab of the contextual set on display the current tab.
+    void activateContextTab(const QString &name);
 
     // Shows the File page on the named entry.
     void showBackstagePage(const QString &name);

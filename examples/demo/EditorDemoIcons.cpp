@@ -266,6 +266,38 @@ void drawGlyph(GlyphPainter &g, EditorIcon icon)
         p.setPen(QPen(g.c(Accent), 5, Qt::SolidLine, Qt::RoundCap));
         p.drawLine(QPointF(19, 19), QPointF(27, 27));
         break;
+    case EditorIcon::StyleNormal:
+    case EditorIcon::StyleHeading1:
+    case EditorIcon::StyleHeading2:
+    case EditorIcon::StyleTitle:
+    case EditorIcon::StyleQuote: {
+        // A sample of the style on a small card.
+        p.setPen(QPen(g.c(QColor(0xC8, 0xC8, 0xC8)), g.thin()));
+        p.setBrush(g.c(Paper));
+        p.drawRect(QRectF(1.5, 3.5, 29, 25));
+        QFont font(QStringLiteral("DejaVu Sans"));
+        QColor ink = Ink;
+        int px = 14;
+        if (icon == EditorIcon::StyleHeading1) {
+            px = 17;
+            ink = Accent;
+        } else if (icon == EditorIcon::StyleHeading2) {
+            px = 14;
+            ink = Accent;
+            font.setBold(true);
+        } else if (icon == EditorIcon::StyleTitle) {
+            px = 20;
+            font.setWeight(QFont::Light);
+        } else if (icon == EditorIcon::StyleQuote) {
+            font.setItalic(true);
+            ink = QColor(0x70, 0x70, 0x70);
+        }
+        font.setPixelSize(px);
+        p.setFont(font);
+        p.setPen(g.c(ink));
+        p.drawText(QRectF(1, 3, 30, 26), Qt::AlignCenter, QStringLiteral("Aa"));
+        break;
+    }
     case EditorIcon::Table:
         g.grid(QRectF(3.5, 5.5, 25, 21), 4, 3, Accent);
         break;

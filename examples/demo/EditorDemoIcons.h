@@ -10,6 +10,7 @@ enum class EditorIcon {
     Bold, Italic, Underline, Strikethrough, Grow, Shrink, ClearFormat,
     AlignLeft, AlignCenter, AlignRight, Justify, Bullets, Numbering,
     SelectAll, Find,
+    StyleNormal, StyleHeading1, StyleHeading2, StyleTitle, StyleQuote,
     Table, Picture, DateTime, Line,
     ZoomIn, ZoomOut, Zoom100, MinimiseRibbon,
     Save, Undo, Redo, NewDocument, OpenFolder,

@@ -92,13 +92,13 @@ int writeEditorScreenshots(const QDir &dir)
         {QStringLiteral("editor-contextual"), QSize(1280, 800), [](EditorDemo &w) {
              w.showMainView();
              w.moveCursorIntoTable();
-             w.activateContextTab();
+             w.activateContextTab(QStringLiteral("Layout"));
          }},
         {QStringLiteral("editor-picture-tools"), QSize(1280, 800), [](EditorDemo &w) {
              w.showMainView();
              w.selectFirstPicture();
              w.editor()->ensureCursorVisible();
-             w.activateContextTab();
+             w.activateContextTab(QStringLiteral("Format"));
          }},
     };
 
