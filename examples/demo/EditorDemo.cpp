@@ -749,7 +749,7 @@ EditorDemo::EditorDemo(QSettings &settings, QWidget *parent)
     insert->addCategory(illustrations);
 
     auto *text = new RibbonCategoryAction(editorIcon(EditorIcon::DateTime), tr("Text"), this);
-    auto *date = new RibbonCatMenuAction(editorIcon(EditorIcon::DateTime), tr("Date & Time"), RibbonCatMenuAction::MenuTypeButton,
+    auto *date = new RibbonCatMenuAction(editorIcon(EditorIcon::DateTime), tr("Date"), RibbonCatMenuAction::MenuTypeButton,
                                          RibbonCatMenuAction::MenuSizeLarge, RibbonCatMenuAction::PopupMenu, this);
     const QList<QPair<QString, QLocale::FormatType>> dateFormats = {{tr("Date and Time"), QLocale::LongFormat},
                                                                      {tr("Short Date"), QLocale::ShortFormat},
@@ -772,14 +772,15 @@ EditorDemo::EditorDemo(QSettings &settings, QWidget *parent)
     // ---- VIEW
     auto *viewTab = new RibbonCategoriesPanelAction(tr("View"), this);
     auto *zoomCategory = new RibbonCategoryAction(editorIcon(EditorIcon::ZoomIn), tr("Zoom"), this);
-    auto *zoomIn = simple(EditorIcon::ZoomIn, tr("Zoom In"), S::SizeLarge);
-    auto *zoomOut = simple(EditorIcon::ZoomOut, tr("Zoom Out"), S::SizeLarge);
+    auto *zoomIn = simple(EditorIcon::ZoomIn, tr("Zoom In"), S::SizeMedium);
+    auto *zoomOut = simple(EditorIcon::ZoomOut, tr("Zoom Out"), S::SizeMedium);
     auto *zoom100 = simple(EditorIcon::Zoom100, tr("100%"), S::SizeLarge);
+    zoom100->setToolTip(tr("Zoom to 100%"));
+    zoomCategory->addAction(zoom100, -1);
     zoomCategory->addAction(zoomIn, -1);
     zoomCategory->addAction(zoomOut, -1);
-    zoomCategory->addAction(zoom100, -1);
     viewTab->addCategory(zoomCategory);
-    auto *ribbonCategory = new RibbonCategoryAction(editorIcon(EditorIcon::MinimiseRibbon), tr("Ribbon"), this);
+    auto *ribbonCategory = new RibbonCategoryAction(editorIcon(EditorIcon::MinimiseRibbon), tr("Window"), this);
     d->minimise = simple(EditorIcon::MinimiseRibbon, tr("Minimise Ribbon"), S::SizeLarge);
     d->minimise->setCheckable(true);
     d->minimise->setToolTip(tr("Show only the tab names (Ctrl+F1)"));
@@ -1351,8 +1352,11 @@ void EditorDemo::activateContextTab(const QString &name)
     RibbonContextCategoryPanelAction *shown = ribbonMenuBar().displayedContextPanel();
     if (!shown)
         return;
-    if (RibbonCategoriesPanelAction *tab = shown->panelAction(name))
-        tab->setChecked(true);
+    // The bar may show (and store) tab names in capitals.
+    for (RibbonCategoriesPanelAction *tab : shown->panelActions()) {
+        if (tab->text().compare(name, Qt::CaseInsensitive) == 0)
+            tab->setChecked(true);
+    }
 }
 
 void EditorDemo::moveCursorIntoTable()

@@ -7,6 +7,7 @@
 #include "RibbonButtonMain.h"
 #include "RibbonMenuBar.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QImage>
@@ -51,6 +52,14 @@ void seedSettings(QSettings &settings)
     settings.sync();
 }
 
+void showTab(EditorDemo &w, const QString &name)
+{
+    for (QAction *tab : w.ribbonMenuBar().actions()) {
+        if (tab->text().compare(name, Qt::CaseInsensitive) == 0) // the bar shows tab names in capitals
+            tab->setChecked(true);
+    }
+}
+
 } // namespace
 
 int writeEditorScreenshots(const QDir &dir)
@@ -93,6 +102,14 @@ int writeEditorScreenshots(const QDir &dir)
              w.showMainView();
              w.moveCursorIntoTable();
              w.activateContextTab(QStringLiteral("Layout"));
+         }},
+        {QStringLiteral("editor-insert"), QSize(1000, 420), [](EditorDemo &w) {
+             w.showMainView();
+             showTab(w, QStringLiteral("Insert"));
+         }},
+        {QStringLiteral("editor-view"), QSize(1000, 420), [](EditorDemo &w) {
+             w.showMainView();
+             showTab(w, QStringLiteral("View"));
          }},
         {QStringLiteral("editor-picture-tools"), QSize(1280, 800), [](EditorDemo &w) {
              w.showMainView();
