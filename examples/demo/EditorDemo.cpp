@@ -289,6 +289,13 @@ QPixmap templatePreview(bool letter)
     return page;
 }
 
+RibbonCatSimpleAction *command(QObject *owner, EditorIcon icon, const QString &text, RibbonCatSimpleAction::eSize size)
+{
+    auto *a = new RibbonCatSimpleAction(editorIcon(icon), text, size, owner);
+    a->setToolTip(text);
+    return a;
+}
+
 // Whether the character at pos is a picture.
 bool isPictureAt(QTextDocument *doc, int pos)
 {
@@ -383,15 +390,46 @@ EditorDemo::EditorDemo(QSettings &settings, QWidget *parent)
     d->edit->setFont(textFont);
     d->edit->setBaseSize(11);
     setCentralWidget(d->edit);
-    QTextEdit *edit = d->edit;
 
     // Recent documents, restored with their pins.
     d->recent = new BackstageListModel(this, 12);
     d->recent->restoreState(settings.value(KeyRecent).toList());
 
-    // ---- Quick-access toolbar: the hidden list first, then the commands.
+    buildQuickAccess();
+    buildStatusBar();
+    RibbonMenuBar &bar = ribbonMenuBar();
+    for (RibbonCategoriesPanelAction *tab : {buildHomeTab(), buildInsertTab(), buildViewTab()})
+        bar.addAction(tab);
+    d->home->setChecked(true);
+    buildContextTabs();
+
+    auto *help = new RibbonSimpleAction(editorIcon(EditorIcon::Help), tr("Help"), this);
+    connect(help, &QAction::triggered, this, [this] {
+        QMessageBox::about(this, AppName,
+                           tr("A small rich-text editor built on the zelRibbon library: every command of "
+                              "its ribbon works on the document."));
+    });
+    bar.setHelpAction(help);
+
+    buildFilePage();
+    buildWelcomeScreen();
+    followEditor();
+
+    if (settings.value(KeyMinimised, false).toBool()) {
+        d->minimise->setChecked(true);
+        ribbonMenuBar().setMinimizeRibbon(true);
+    }
+
+    newDocument();
+    setActiveView(WelcomeScreen);
+}
+
+// The hidden list is restored before the commands arrive, so hidden ones never show.
+void EditorDemo::buildQuickAccess()
+{
+    QTextEdit *edit = d->edit;
     RibbonQuickAccessBar &quick = quickAccessBar();
-    quick.setQuickAccessBarItems(settings.value(KeyHiddenQuick).toStringList());
+    quick.setQuickAccessBarItems(d->settings->value(KeyHiddenQuick).toStringList());
     auto quickCommand = [&](EditorIcon icon, const QString &text, const QString &name, const QString &shortcut) {
         auto *a = new RibbonSimpleAction(editorIcon(icon), text, this);
         a->setData(name);
@@ -409,16 +447,12 @@ EditorDemo::EditorDemo(QSettings &settings, QWidget *parent)
     d->quickRedo->setEnabled(false);
     connect(edit, &QTextEdit::undoAvailable, d->quickUndo, &QAction::setEnabled);
     connect(edit, &QTextEdit::redoAvailable, d->quickRedo, &QAction::setEnabled);
+}
 
-    RibbonMenuBar &bar = ribbonMenuBar();
-    auto simple = [this](EditorIcon icon, const QString &text, RibbonCatSimpleAction::eSize size) {
-        auto *a = new RibbonCatSimpleAction(editorIcon(icon), text, size, this);
-        a->setToolTip(text);
-        return a;
-    };
+RibbonCategoriesPanelAction *EditorDemo::buildHomeTab()
+{
+    QTextEdit *edit = d->edit;
     using S = RibbonCatSimpleAction;
-
-    // ---- HOME
     d->home = new RibbonCategoriesPanelAction(tr("Home"), this);
 
     auto *clipboard = new RibbonCategoryAction(editorIcon(EditorIcon::Paste), tr("Clipboard"), this);
@@ -433,15 +467,15 @@ EditorDemo::EditorDemo(QSettings &settings, QWidget *parent)
     connect(pasteText, &QAction::triggered, this, [edit] {
         edit->textCursor().insertText(QApplication::clipboard()->text());
     });
-    d->cut = simple(EditorIcon::Cut, tr("Cut"), S::SizeMedium);
-    d->copy = simple(EditorIcon::Copy, tr("Copy"), S::SizeMedium);
+    d->cut = command(this, EditorIcon::Cut, tr("Cut"), S::SizeMedium);
+    d->copy = command(this, EditorIcon::Copy, tr("Copy"), S::SizeMedium);
     connect(d->cut, &QAction::triggered, edit, &QTextEdit::cut);
     connect(d->copy, &QAction::triggered, edit, &QTextEdit::copy);
     d->cut->setEnabled(false);
     d->copy->setEnabled(false);
     connect(edit, &QTextEdit::copyAvailable, d->cut, &QAction::setEnabled);
     connect(edit, &QTextEdit::copyAvailable, d->copy, &QAction::setEnabled);
-    auto *selectAll = simple(EditorIcon::SelectAll, tr("Select All"), S::SizeMedium);
+    auto *selectAll = command(this, EditorIcon::SelectAll, tr("Select All"), S::SizeMedium);
     connect(selectAll, &QAction::triggered, edit, &QTextEdit::selectAll);
     clipboard->addAction(paste, -1);
     clipboard->addAction(d->cut, -1);
@@ -450,7 +484,7 @@ EditorDemo::EditorDemo(QSettings &settings, QWidget *parent)
     d->home->addCategory(clipboard);
 
     auto *fontCategory = new RibbonCategoryAction(editorIcon(EditorIcon::Bold), tr("Font"), this);
-    d->family = new RibbonCatFontFamilyAction(textFont, this);
+    d->family = new RibbonCatFontFamilyAction(d->edit->font(), this);
     d->family->setToolTip(tr("Font"));
     d->size = new RibbonCatComboAction(this);
     for (int s : FontSizes)
@@ -459,15 +493,15 @@ EditorDemo::EditorDemo(QSettings &settings, QWidget *parent)
     d->size->setToolTip(tr("Font Size"));
     d->size->setSelectionText(QStringLiteral("11"));
     auto *growShrink = new RibbonCatActionGroup(this);
-    auto *grow = simple(EditorIcon::Grow, tr("Grow Font"), S::SizeSmall);
-    auto *shrink = simple(EditorIcon::Shrink, tr("Shrink Font"), S::SizeSmall);
+    auto *grow = command(this, EditorIcon::Grow, tr("Grow Font"), S::SizeSmall);
+    auto *shrink = command(this, EditorIcon::Shrink, tr("Shrink Font"), S::SizeSmall);
     growShrink->addAction(grow, false);
     growShrink->addAction(shrink, false);
     auto *styleGroup = new RibbonCatActionGroup(this);
-    d->bold = simple(EditorIcon::Bold, tr("Bold"), S::SizeSmall);
-    d->italic = simple(EditorIcon::Italic, tr("Italic"), S::SizeSmall);
-    d->underline = simple(EditorIcon::Underline, tr("Underline"), S::SizeSmall);
-    d->strike = simple(EditorIcon::Strikethrough, tr("Strikethrough"), S::SizeSmall);
+    d->bold = command(this, EditorIcon::Bold, tr("Bold"), S::SizeSmall);
+    d->italic = command(this, EditorIcon::Italic, tr("Italic"), S::SizeSmall);
+    d->underline = command(this, EditorIcon::Underline, tr("Underline"), S::SizeSmall);
+    d->strike = command(this, EditorIcon::Strikethrough, tr("Strikethrough"), S::SizeSmall);
     d->bold->setToolTip(tr("Bold (Ctrl+B)"));
     d->italic->setToolTip(tr("Italic (Ctrl+I)"));
     d->underline->setToolTip(tr("Underline (Ctrl+U)"));
@@ -475,7 +509,7 @@ EditorDemo::EditorDemo(QSettings &settings, QWidget *parent)
         a->setCheckable(true);
         styleGroup->addAction(a, false);
     }
-    auto *clear = simple(EditorIcon::ClearFormat, tr("Clear Formatting"), S::SizeSmall);
+    auto *clear = command(this, EditorIcon::ClearFormat, tr("Clear Formatting"), S::SizeSmall);
     auto *clearGroup = new RibbonCatActionGroup(this);
     clearGroup->addAction(clear, false);
     fontCategory->addAction(d->family, 0);
@@ -487,18 +521,18 @@ EditorDemo::EditorDemo(QSettings &settings, QWidget *parent)
 
     auto *paragraph = new RibbonCategoryAction(editorIcon(EditorIcon::AlignLeft), tr("Paragraph"), this);
     auto *lists = new RibbonCatActionGroup(this);
-    d->bullets = simple(EditorIcon::Bullets, tr("Bullets"), S::SizeSmall);
-    d->numbering = simple(EditorIcon::Numbering, tr("Numbering"), S::SizeSmall);
+    d->bullets = command(this, EditorIcon::Bullets, tr("Bullets"), S::SizeSmall);
+    d->numbering = command(this, EditorIcon::Numbering, tr("Numbering"), S::SizeSmall);
     for (RibbonCatSimpleAction *a : {d->bullets, d->numbering}) {
         a->setCheckable(true);
         lists->addAction(a, false);
     }
     auto *align = new RibbonCatActionGroup(this);
     align->setExclusive(true);
-    d->alignLeft = simple(EditorIcon::AlignLeft, tr("Align Left"), S::SizeSmall);
-    d->alignCenter = simple(EditorIcon::AlignCenter, tr("Center"), S::SizeSmall);
-    d->alignRight = simple(EditorIcon::AlignRight, tr("Align Right"), S::SizeSmall);
-    d->justify = simple(EditorIcon::Justify, tr("Justify"), S::SizeSmall);
+    d->alignLeft = command(this, EditorIcon::AlignLeft, tr("Align Left"), S::SizeSmall);
+    d->alignCenter = command(this, EditorIcon::AlignCenter, tr("Center"), S::SizeSmall);
+    d->alignRight = command(this, EditorIcon::AlignRight, tr("Align Right"), S::SizeSmall);
+    d->justify = command(this, EditorIcon::Justify, tr("Justify"), S::SizeSmall);
     for (RibbonCatSimpleAction *a : {d->alignLeft, d->alignCenter, d->alignRight, d->justify}) {
         a->setCheckable(true);
         align->addAction(a, false);
@@ -526,7 +560,7 @@ EditorDemo::EditorDemo(QSettings &settings, QWidget *parent)
         {EditorIcon::StyleHeading2, tr("Heading 2"), 2, 15, EditorColors::Accent, false, QFont::Normal},
         {EditorIcon::StyleQuote, tr("Quote"), 0, 0, QColor(0x66, 0x66, 0x66), true, QFont::Normal}};
     for (const StyleDef &style : styleDefs) {
-        RibbonCatSimpleAction *a = simple(style.icon, style.name, S::SizeLarge);
+        RibbonCatSimpleAction *a = command(this, style.icon, style.name, S::SizeLarge);
         a->setToolTip(tr("Format the paragraph as %1").arg(style.name));
         styles->addAction(a, -1);
         connect(a, &QAction::triggered, this, [this, style] {
@@ -555,7 +589,7 @@ EditorDemo::EditorDemo(QSettings &settings, QWidget *parent)
     d->home->addCategory(styles);
 
     auto *editing = new RibbonCategoryAction(editorIcon(EditorIcon::Find), tr("Editing"), this);
-    auto *find = simple(EditorIcon::Find, tr("Find"), S::SizeLarge);
+    auto *find = command(this, EditorIcon::Find, tr("Find"), S::SizeLarge);
     find->setToolTip(tr("Find text in the document"));
     connect(find, &QAction::triggered, this, [this, edit] {
         bool ok = false;
@@ -679,8 +713,12 @@ EditorDemo::EditorDemo(QSettings &settings, QWidget *parent)
     };
     connect(d->bullets, &QAction::triggered, this, [setList](bool on) { setList(QTextListFormat::ListDisc, on); });
     connect(d->numbering, &QAction::triggered, this, [setList](bool on) { setList(QTextListFormat::ListDecimal, on); });
+    return d->home;
+}
 
-    // ---- INSERT
+RibbonCategoriesPanelAction *EditorDemo::buildInsertTab()
+{
+    using S = RibbonCatSimpleAction;
     auto *insert = new RibbonCategoriesPanelAction(tr("Insert"), this);
     auto *tables = new RibbonCategoryAction(editorIcon(EditorIcon::Table), tr("Tables"), this);
     auto *table = new RibbonCatMenuAction(editorIcon(EditorIcon::Table), tr("Table"), RibbonCatMenuAction::MenuTypeButton,
@@ -724,7 +762,7 @@ EditorDemo::EditorDemo(QSettings &settings, QWidget *parent)
     insert->addCategory(tables);
 
     auto *illustrations = new RibbonCategoryAction(editorIcon(EditorIcon::Picture), tr("Illustrations"), this);
-    auto *picture = simple(EditorIcon::Picture, tr("Picture"), S::SizeLarge);
+    auto *picture = command(this, EditorIcon::Picture, tr("Picture"), S::SizeLarge);
     picture->setToolTip(tr("Insert a generated chart picture"));
     connect(picture, &QAction::triggered, this, [this] {
         const QImage image = makeChartPicture(d->pictures++);
@@ -742,7 +780,7 @@ EditorDemo::EditorDemo(QSettings &settings, QWidget *parent)
         d->edit->textCursor().insertImage(f);
         d->edit->setFocus();
     });
-    auto *line = simple(EditorIcon::Line, tr("Horizontal Line"), S::SizeLarge);
+    auto *line = command(this, EditorIcon::Line, tr("Horizontal Line"), S::SizeLarge);
     connect(line, &QAction::triggered, this, [this] { d->edit->textCursor().insertHtml(QStringLiteral("<hr/>")); });
     illustrations->addAction(picture, -1);
     illustrations->addAction(line, -1);
@@ -768,31 +806,40 @@ EditorDemo::EditorDemo(QSettings &settings, QWidget *parent)
     }
     text->addAction(date, -1);
     insert->addCategory(text);
+    return insert;
+}
 
-    // ---- VIEW
+RibbonCategoriesPanelAction *EditorDemo::buildViewTab()
+{
+    using S = RibbonCatSimpleAction;
     auto *viewTab = new RibbonCategoriesPanelAction(tr("View"), this);
     auto *zoomCategory = new RibbonCategoryAction(editorIcon(EditorIcon::ZoomIn), tr("Zoom"), this);
-    auto *zoomIn = simple(EditorIcon::ZoomIn, tr("Zoom In"), S::SizeMedium);
-    auto *zoomOut = simple(EditorIcon::ZoomOut, tr("Zoom Out"), S::SizeMedium);
-    auto *zoom100 = simple(EditorIcon::Zoom100, tr("100%"), S::SizeLarge);
+    auto *zoomIn = command(this, EditorIcon::ZoomIn, tr("Zoom In"), S::SizeMedium);
+    auto *zoomOut = command(this, EditorIcon::ZoomOut, tr("Zoom Out"), S::SizeMedium);
+    auto *zoom100 = command(this, EditorIcon::Zoom100, tr("100%"), S::SizeLarge);
     zoom100->setToolTip(tr("Zoom to 100%"));
     zoomCategory->addAction(zoom100, -1);
     zoomCategory->addAction(zoomIn, -1);
     zoomCategory->addAction(zoomOut, -1);
     viewTab->addCategory(zoomCategory);
     auto *ribbonCategory = new RibbonCategoryAction(editorIcon(EditorIcon::MinimiseRibbon), tr("Window"), this);
-    d->minimise = simple(EditorIcon::MinimiseRibbon, tr("Minimise Ribbon"), S::SizeLarge);
+    d->minimise = command(this, EditorIcon::MinimiseRibbon, tr("Minimise Ribbon"), S::SizeLarge);
     d->minimise->setCheckable(true);
     d->minimise->setToolTip(tr("Show only the tab names (Ctrl+F1)"));
     connect(d->minimise, &QAction::triggered, this, [this](bool on) { ribbonMenuBar().setMinimizeRibbon(on); });
     ribbonCategory->addAction(d->minimise, -1);
     viewTab->addCategory(ribbonCategory);
+    connect(zoomIn, &QAction::triggered, this, [this] { zoomStep(1); });
+    connect(zoomOut, &QAction::triggered, this, [this] { zoomStep(-1); });
+    connect(zoom100, &QAction::triggered, this, [this] { zoomTo(100); });
+    return viewTab;
+}
 
-    for (RibbonCategoriesPanelAction *tab : {d->home, insert, viewTab})
-        bar.addAction(tab);
-    d->home->setChecked(true);
-
-    // ---- Contextual tab sets
+// Tab sets shown while the cursor is in a table or on a picture.
+void EditorDemo::buildContextTabs()
+{
+    RibbonMenuBar &bar = ribbonMenuBar();
+    using S = RibbonCatSimpleAction;
     d->tableTools = new RibbonContextCategoryPanelAction(QColor(0xEF, 0xE8, 0xF7), EditorColors::TableTools,
                                                          EditorColors::TableTools.darker(120), this);
     d->tableTools->setText(tr("Table Tools"));
@@ -917,16 +964,11 @@ EditorDemo::EditorDemo(QSettings &settings, QWidget *parent)
     d->pictureTools->addPanelAction(formatTab);
     d->pictureTools->addPanelAction(arrangeTab);
     bar.ribbonContextCategoryPanel().addContextPanelAction(d->pictureTools);
+}
 
-    auto *help = new RibbonSimpleAction(editorIcon(EditorIcon::Help), tr("Help"), this);
-    connect(help, &QAction::triggered, this, [this] {
-        QMessageBox::about(this, AppName,
-                           tr("A small rich-text editor built on the zelRibbon library: every command of "
-                              "its ribbon works on the document."));
-    });
-    bar.setHelpAction(help);
-
-    // ---- Status bar
+void EditorDemo::buildStatusBar()
+{
+    QTextEdit *edit = d->edit;
     RibbonStatusBar &status = ribbonStatusBar();
     d->pageStatus = new RibbonCatMenuAction(editorIcon(EditorIcon::Page, Qt::white), tr("Page 1 of 1"),
                                             RibbonCatMenuAction::MenuTypeButton, RibbonCatMenuAction::MenuSizeMedium,
@@ -957,21 +999,10 @@ EditorDemo::EditorDemo(QSettings &settings, QWidget *parent)
     d->zoom = new RibbonPercAction(10, 400, 100, this);
     status.addAction(d->zoom);
     connect(d->zoom, &RibbonPercAction::percentageChanged, this, [this](int p) { d->edit->setZoom(p); });
-    auto zoomBy = [this](int step) {
-        const int now = d->edit->zoom();
-        int next = step > 0 ? (now / 10 + 1) * 10 : ((now + 9) / 10 - 1) * 10;
-        next = qBound(d->zoom->minimum(), next, d->zoom->maximum());
-        d->zoom->setPercentage(next);
-        d->edit->setZoom(next);
-    };
-    connect(zoomIn, &QAction::triggered, this, [zoomBy] { zoomBy(1); });
-    connect(zoomOut, &QAction::triggered, this, [zoomBy] { zoomBy(-1); });
-    connect(zoom100, &QAction::triggered, this, [this] {
-        d->zoom->setPercentage(100);
-        d->edit->setZoom(100);
-    });
+}
 
-    // ---- File page
+void EditorDemo::buildFilePage()
+{
     BackstageView &backstage = backstageView();
     QVBoxLayout *body = nullptr;
     QWidget *newPane = titledPane(tr("New"), body);
@@ -1046,8 +1077,10 @@ EditorDemo::EditorDemo(QSettings &settings, QWidget *parent)
             close();
         }
     });
+}
 
-    // ---- Welcome screen
+void EditorDemo::buildWelcomeScreen()
+{
     BackstageWelcomeScreen &welcome = welcomeScreen();
     welcome.setTitle(AppName);
     welcome.setRecentModel(d->recent);
@@ -1068,8 +1101,13 @@ EditorDemo::EditorDemo(QSettings &settings, QWidget *parent)
             d->edit->setHtml(tr("<p>Dear reader,</p><p></p><p>Kind regards,</p>"));
         showMainView();
     });
+}
 
-    // ---- Editor state into the ribbon and the status bar
+// Keeps the ribbon, the contextual tabs and the status bar in step with the cursor.
+void EditorDemo::followEditor()
+{
+    QTextEdit *edit = d->edit;
+    RibbonMenuBar &bar = ribbonMenuBar();
     auto updateWords = [this] {
         const QString plain = d->edit->toPlainText();
         const int words = plain.split(QRegExp(QStringLiteral("\\s+")), Qt::SkipEmptyParts).size();
@@ -1142,14 +1180,20 @@ EditorDemo::EditorDemo(QSettings &settings, QWidget *parent)
         const QString name = d->path.isEmpty() ? tr("Document%1").arg(d->untitled) : QFileInfo(d->path).fileName();
         setWindowTitle(QStringLiteral("%1%2 - %3").arg(name, d->edit->document()->isModified() ? QStringLiteral("*") : QString(), AppName));
     });
+}
 
-    if (settings.value(KeyMinimised, false).toBool()) {
-        d->minimise->setChecked(true);
-        ribbonMenuBar().setMinimizeRibbon(true);
-    }
+void EditorDemo::zoomTo(int percent)
+{
+    percent = qBound(d->zoom->minimum(), percent, d->zoom->maximum());
+    d->zoom->setPercentage(percent);
+    d->edit->setZoom(percent);
+}
 
-    newDocument();
-    setActiveView(WelcomeScreen);
+void EditorDemo::zoomStep(int direction)
+{
+    // To the next multiple of ten in the given direction.
+    const int now = d->edit->zoom();
+    zoomTo(direction > 0 ? (now / 10 + 1) * 10 : ((now + 9) / 10 - 1) * 10);
 }
 
 EditorDemo::~EditorDemo()

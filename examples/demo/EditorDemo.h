@@ -9,6 +9,10 @@
 class QSettings;
 class QTextEdit;
 
+namespace zel {
+class RibbonCategoriesPanelAction;
+}
+
 // A small rich-text editor hosted in a ribbon main window: its Home, Insert and View
 // tabs, the File page, the quick-access toolbar, the status bar and the contextual tab
 // sets for tables and pictures all work on one QTextEdit.
@@ -51,6 +55,18 @@ protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
+    void buildQuickAccess();
+    zel::RibbonCategoriesPanelAction *buildHomeTab();
+    zel::RibbonCategoriesPanelAction *buildInsertTab();
+    zel::RibbonCategoriesPanelAction *buildViewTab();
+    void buildContextTabs();
+    void buildStatusBar();
+    void buildFilePage();
+    void buildWelcomeScreen();
+    void followEditor();
+    void zoomTo(int percent);
+    void zoomStep(int direction);
+
     struct Priv;
     std::unique_ptr<Priv> d;
     Q_DISABLE_COPY(EditorDemo)
