@@ -232,7 +232,10 @@ QToolButton *tileButton(const QString &text, const QIcon &icon, QWidget *parent)
     tile->setIconSize(QSize(32, 32));
     tile->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     tile->setAutoRaise(true);
-    tile->setFixedSize(120, 96);
+    QFont caption = QApplication::font();
+    caption.setPointSize(10);
+    tile->setFont(caption);
+    tile->setFixedSize(qMax(132, QFontMetrics(caption).horizontalAdvance(text) + 28), 96);
     tile->setStyleSheet(QStringLiteral(
         "QToolButton { border: 1px solid #D0D0D0; background: #FAFAFA; color: #262626; }"
         "QToolButton:hover { border-color: #7AB0E7; background: #D5E1F2; }"
