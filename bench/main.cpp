@@ -116,6 +116,8 @@ int child(const QString &workloadName, const QString &kindName, const QString &o
     t.start();
     kind->buildActions(w);
     out[QStringLiteral("build_ms")] = ms(t);
+    const qint64 rssBuilt = statusKb("VmRSS:");
+    out[QStringLiteral("rss_actions_per_button_kb")] = double(rssBuilt - rssStart) / buttons;
 
     t.start();
     kind->createAndShow(w);
@@ -210,6 +212,7 @@ const Metric metrics[] = {
     {"minimised_popup_close_ms", "minimised ribbon popup close, median (ms)", true},
     {"peak_rss_mb", "peak resident memory (MB)", false},
     {"rss_per_button_kb", "resident memory per button (KB)", false},
+    {"rss_actions_per_button_kb", "  of which the action tree (KB)", false},
     {"widgets", "widgets created", false},
     {"folded_at_narrow", "groups folded at the narrow width", false},
     {"narrow_px", "narrow width of the resize step (px)", false},
@@ -254,15 +257,37 @@ double exponent(const QVector<double> &x, const QVector<double> &y)
     return (n * sxy - sx * sy) / (n * sxx - sx * sx);
 }
 
-int parent(const QStringList &workloads, const QString &csvPath)
+// Per figure, the median over several runs: a single show or build is one sample only
+// and the machine may be shared.
+QMap<QString, double> medianOf(const QList<QMap<QString, double>> &runs)
+{
+    QMap<QString, double> out;
+    if (runs.isEmpty())
+        return out;
+    for (auto it = runs.first().cbegin(); it != runs.first().cend(); ++it) {
+        QVector<double> values;
+        for (const auto &r : runs)
+            values << r.value(it.key(), -1);
+        out[it.key()] = median(values);
+    }
+    return out;
+}
+
+int parent(const QStringList &workloads, const QString &csvPath, int runs)
 {
     const QString self = QCoreApplication::applicationFilePath();
     QMap<QString, QMap<QString, double>> ribbon, floor;
     for (const QString &wl : workloads) {
         std::fprintf(stderr, "running %s ...\n", qPrintable(wl));
-        ribbon[wl] = runChild(self, wl, QStringLiteral("ribbon"));
-        floor[wl] = runChild(self, wl, QStringLiteral("floor"), int(ribbon[wl].value(QStringLiteral("narrow_px"))),
-                             int(ribbon[wl].value(QStringLiteral("wide_px"))));
+        QList<QMap<QString, double>> r, f;
+        // Alternate the kinds so that a burst of load hits both alike.
+        for (int i = 0; i < runs; ++i) {
+            r << runChild(self, wl, QStringLiteral("ribbon"));
+            f << runChild(self, wl, QStringLiteral("floor"), int(r.last().value(QStringLiteral("narrow_px"))),
+                          int(r.last().value(QStringLiteral("wide_px"))));
+        }
+        ribbon[wl] = medianOf(r);
+        floor[wl] = medianOf(f);
     }
 
     QFile csv(csvPath);
@@ -271,9 +296,10 @@ int parent(const QStringList &workloads, const QString &csvPath)
     cs << "workload,buttons,metric,zelRibbon,floor,ratio\n";
     for (const QString &wl : workloads) {
         const Workload w = workload(wl);
-        std::printf("\nWorkload %s: %d tabs x %d groups x %d commands = %.0f buttons (repetitions %d, popups %d)\n",
+        std::printf("\nWorkload %s: %d tabs x %d groups x %d commands = %.0f buttons (repetitions %d, popups %d,"
+                    " median of %d processes)\n",
                     qPrintable(wl), w.tabs, w.groups, w.commands, ribbon[wl].value(QStringLiteral("buttons")),
-                    w.repetitions, w.popupRepetitions);
+                    w.repetitions, w.popupRepetitions, runs);
         std::printf("  %-46s %12s %12s %8s\n", "measure", "zelRibbon", "floor", "ratio");
         for (const Metric &m : metrics) {
             const QString key = QString::fromLatin1(m.key);
@@ -328,6 +354,8 @@ int main(int argc, char *argv[])
                       QStringLiteral("LIST"), QStringLiteral("S,M,L")});
     parser.addOption({QStringLiteral("csv"), QStringLiteral("CSV output file."), QStringLiteral("FILE"),
                       QStringLiteral("bench-results.csv")});
+    parser.addOption({QStringLiteral("runs"), QStringLiteral("Fresh processes per workload and kind."),
+                      QStringLiteral("N"), QStringLiteral("3")});
     parser.addHelpOption();
     parser.process(args);
 
@@ -339,5 +367,6 @@ int main(int argc, char *argv[])
                      parser.value(QStringLiteral("wide")).toInt());
     }
     QCoreApplication app(argc, argv);
-    return parent(parser.value(QStringLiteral("workloads")).split(QLatin1Char(',')), parser.value(QStringLiteral("csv")));
+    return parent(parser.value(QStringLiteral("workloads")).split(QLatin1Char(',')), parser.value(QStringLiteral("csv")),
+                  qMax(1, parser.value(QStringLiteral("runs")).toInt()));
 }
