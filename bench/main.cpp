@@ -53,6 +53,20 @@ double median(QVector<double> v)
     return n % 2 ? v.at(n / 2) : (v.at(n / 2 - 1) + v.at(n / 2)) / 2;
 }
 
+// Counts paint events while debugging the measures (BENCH_DEBUG set): every measured
+// step must end with its paint done.
+class PaintCounter : public QObject
+{
+public:
+    int paints = 0;
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint)
+            ++paints;
+        return false;
+    }
+};
+
 // Kept out of line so a profiler can collect exactly these two phases
 // (valgrind --toggle-collect='*benchResizeSteps*').
 Q_NEVER_INLINE QVector<double> benchResizeSteps(Kind &kind, int repetitions, int narrow, int wide)
@@ -158,6 +172,9 @@ int child(const QString &workloadName, const QString &kindName, const QString &o
         settle();
         out[QStringLiteral("folded_at_narrow")] = kind->foldedCount();
         QVector<double> open, close;
+        PaintCounter counter;
+        if (qEnvironmentVariableIsSet("BENCH_DEBUG"))
+            qApp->installEventFilter(&counter);
         for (int i = 0; i < w.popupRepetitions; ++i) {
             t.start();
             if (!kind->openFoldedPopup())
@@ -167,6 +184,8 @@ int child(const QString &workloadName, const QString &kindName, const QString &o
             kind->closeFoldedPopup();
             close << ms(t);
         }
+        if (qEnvironmentVariableIsSet("BENCH_DEBUG"))
+            qWarning("paint events during %d folded popups: %d", int(open.size()), counter.paints);
         out[QStringLiteral("folded_popup_open_ms")] = median(open);
         out[QStringLiteral("folded_popup_close_ms")] = median(close);
 
