@@ -32,6 +32,11 @@ struct RibbonCategoryWrapper::Priv
     bool myChecked = false;
     RibbonCategory *category = nullptr;
     QPointer<RibbonCategoryWrapperPopup> popup;
+    // The folded width wraps the caption by trial layouts; layouts ask for it on every
+    // pass over every page, so it is kept for the caption and font it was found for.
+    QString colapsedText;
+    QFont colapsedFont;
+    QSize colapsedSize;
 };
 
 RibbonCategoryWrapper::RibbonCategoryWrapper(RibbonCategoryPanel &panel, RibbonCategoryAction &action)
@@ -119,8 +124,11 @@ QSize RibbonCategoryWrapper::normalSize() const
 
 QSize RibbonCategoryWrapper::colapsedSize() const
 {
-    const QFontMetrics fm = fontMetrics();
     const QString text = d->action.text();
+    if (d->colapsedSize.isValid() && text == d->colapsedText && font() == d->colapsedFont)
+        return d->colapsedSize;
+
+    const QFontMetrics fm = fontMetrics();
     const int textWidth = fm.horizontalAdvance(text);
     const int lineHeight = fm.height();
 
@@ -145,7 +153,10 @@ QSize RibbonCategoryWrapper::colapsedSize() const
         } while (step != 0);
         width = qMax(best, 38);
     }
-    return QSize(width + 12, scaled(85));
+    d->colapsedText = text;
+    d->colapsedFont = font();
+    d->colapsedSize = QSize(width + 12, scaled(85));
+    return d->colapsedSize;
 }
 
 QSize RibbonCategoryWrapper::sizeHint() const
