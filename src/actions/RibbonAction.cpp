@@ -264,14 +264,14 @@ bool RibbonAction::isForbidden() const
 void RibbonAction::connectNotify(const QMetaMethod &signal)
 {
     QWidgetAction::connectNotify(signal);
-    if (m_inConnectNotify)
+    // Every connection to an action passes here; the forbidden check comes first as it
+    // is free while no action is forbidden, unlike building the signal's signature.
+    if (m_inConnectNotify || !isForbidden())
         return;
     // Connections through SIGNAL(triggered()) arrive here as the original
     // triggered(bool); both spellings are checked by their normalised signature.
     const QByteArray signature = signal.methodSignature();
     if (signature != "triggered()" && signature != "triggered(bool)")
-        return;
-    if (!isForbidden())
         return;
 
     // Cut every receiver, including the one just connected, so the only effect of a
