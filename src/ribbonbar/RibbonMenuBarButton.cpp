@@ -8,6 +8,7 @@
 #include "RibbonStyle.h"
 
 #include <QActionEvent>
+#include <QButtonGroup>
 #include <QCoreApplication>
 #include <QCursor>
 #include <QMouseEvent>
@@ -30,6 +31,10 @@ struct RibbonMenuBarButton::Priv
 
     RibbonMenuBar &bar;
     QTimer timer;
+    // Unchecking a button outside a group makes Qt search the parent's whole subtree for
+    // sibling buttons, and the bar's subtree holds every control of every tab. The tab
+    // buttons follow their actions' exclusive group; this group only spares the search.
+    QButtonGroup ownGroup;
 };
 
 RibbonMenuBarButton::RibbonMenuBarButton(RibbonMenuBar &menuBar)
@@ -41,6 +46,8 @@ RibbonMenuBarButton::RibbonMenuBarButton(RibbonMenuBar &menuBar)
     setCheckable(true);
     setFocusPolicy(Qt::NoFocus);
     setMouseTracking(true);
+    d->ownGroup.setExclusive(false);
+    d->ownGroup.addButton(this);
 
     d->timer.setInterval(200);
     d->timer.setSingleShot(true);
