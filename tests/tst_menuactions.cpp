@@ -1,5 +1,5 @@
 // Simple, string and menu actions: activation relay, default and checked items,
-// enabling of items, filling menus and view popups, and lifetimes of items.
+// enabling, filling menus and view popups, and lifetimes of items.
 
 #include "ZelTest.h"
 
@@ -49,23 +49,19 @@ class tst_MenuActions : public QObject
 private slots:
     void simpleActionsRelayActivation_data();
     void simpleActionsRelayActivation();
-    void catSimpleActionMakesNoWidgetOutsideToolBars();
-    void catSimpleActionMakesButtonInToolBar();
+    void catSimpleActionMakesButtonOnlyInToolBar();
     void menuItemsIgnoreNullAndDuplicates();
     void defaultAction();
-    void aliasDefaultActionFollows();
-    void removeDefaultEmitsNothing();
-    void exclusiveMenu();
-    void exclusiveCatMenu();
+    void exclusive_data();
+    void exclusive();
     void checkedActionAndToBeToggled_data();
     void checkedActionAndToBeToggled();
     void autoChangeEnableSubActions_data();
     void autoChangeEnableSubActions();
     void itemTriggerAndActivation();
     void insertAction();
-    void catMenuSettersAndLists();
-    void textActionCopiesAliasAtOnce();
-    void catMenuEnablesPopupCommands();
+    void catMenuGroupsAndLists();
+    void aliases();
     void fillMenuSkipsStringsAndRecurses();
     void fillMenuSurvivesCycles();
     void viewPopup();
@@ -104,23 +100,17 @@ void tst_MenuActions::simpleActionsRelayActivation()
 }
 
 
-
-void tst_MenuActions::catSimpleActionMakesNoWidgetOutsideToolBars()
+void tst_MenuActions::catSimpleActionMakesButtonOnlyInToolBar()
 {
-    RibbonCatSimpleAction action(RibbonCatSimpleAction::SizeLarge, nullptr);
+    RibbonCatSimpleAction action(QStringLiteral("toolbar command"), RibbonCatSimpleAction::SizeSmall, nullptr);
     QWidget plain;
     plain.addAction(&action);
     QVERIFY(!action.requestWidget(&plain));
-}
 
-void tst_MenuActions::catSimpleActionMakesButtonInToolBar()
-{
-    RibbonCatSimpleAction action(QStringLiteral("toolbar command"), RibbonCatSimpleAction::SizeSmall, nullptr);
     QToolBar bar;
     bar.addAction(&action);
     QWidget *widget = bar.widgetForAction(&action);
     QVERIFY(qobject_cast<RibbonCatSimpleButton *>(widget));
-
     QSignalSpy triggered(&action, SIGNAL(triggered()));
     QTest::mouseClick(widget, Qt::LeftButton);
     QCOMPARE(triggered.count(), 1);
@@ -172,93 +162,70 @@ void tst_MenuActions::defaultAction()
     QCOMPARE(defaultChanged.count(), 2);
     QVERIFY(!static_cast<const RibbonMenuAction &>(menu).defaultAction());
     QVERIFY(menu.toolTip().isEmpty());
-}
 
-void tst_MenuActions::aliasDefaultActionFollows()
-{
-    RibbonMenuAction host(nullptr);
-    RibbonSimpleAction item(nullptr);
-    host.addAction(&item, false);
-    RibbonMenuAction mirror(QPointer<QAction>(&host), nullptr);
-    host.setDefaultAction(&item);
-    QCOMPARE(mirror.defaultAction(), &item);
-}
-
-void tst_MenuActions::removeDefaultEmitsNothing()
-{
-    RibbonMenuAction menu(nullptr);
-    RibbonSimpleAction a(nullptr);
-    menu.addAction(&a, true);
-    QSignalSpy defaultChanged(&menu, &RibbonMenuAction::defaultActionChanged);
+    // Removing the default item clears it silently and disconnects the item.
+    menu.setDefaultAction(&a);
+    defaultChanged.clear();
     QSignalSpy changed(&menu, &QAction::changed);
+    QSignalSpy triggered(&menu, qOverload<RibbonAction *>(&RibbonMenuAction::triggered));
     menu.removeAction(&a);
     QVERIFY(!menu.defaultAction());
     QCOMPARE(defaultChanged.count(), 0);
     QCOMPARE(changed.count(), 1);
-    QVERIFY(menu.menuActions().isEmpty());
-
-    // Removed items are disconnected.
-    QSignalSpy triggered(&menu, qOverload<RibbonAction *>(&RibbonMenuAction::triggered));
+    QCOMPARE(menu.menuActions(), QList<RibbonAction *>{&b});
     a.trigger();
     QCOMPARE(triggered.count(), 0);
 }
 
-void tst_MenuActions::exclusiveMenu()
+void tst_MenuActions::exclusive_data()
 {
+    // The category menu has a slot of the same name as the item slot; its items must
+    // still reach the item rules.
+    QTest::addColumn<bool>("catMenu");
+    QTest::newRow("RibbonMenuAction") << false;
+    QTest::newRow("RibbonCatMenuAction") << true;
+}
+
+void tst_MenuActions::exclusive()
+{
+    QFETCH(bool, catMenu);
     QObject owner;
-    RibbonMenuAction menu(nullptr);
+    QScopedPointer<RibbonMenuAction> menu(catMenu
+        ? new RibbonCatMenuAction(RibbonCatMenuAction::MenuTypeButton, RibbonCatMenuAction::MenuSizeSmall,
+                                  RibbonCatMenuAction::PopupMenu, nullptr)
+        : new RibbonMenuAction(nullptr));
     RibbonSimpleAction *a = checkableItem(QStringLiteral("A"), &owner);
     RibbonSimpleAction *b = checkableItem(QStringLiteral("B"), &owner);
     RibbonSimpleAction *c = checkableItem(QStringLiteral("C"), &owner);
-    menu.addAction(a, false);
-    menu.addAction(b, false);
-    menu.addAction(c, false);
-    menu.setExclusive(true);
-    QVERIFY(menu.isExclusive());
+    menu->addAction(a, false);
+    menu->addAction(b, false);
+    menu->addAction(c, false);
+    menu->setExclusive(true);
 
     a->setChecked(true);
-    QCOMPARE(menu.checkedAction(), a);
+    QCOMPARE(menu->checkedAction(), a);
     b->setChecked(true);
     QVERIFY(!a->isChecked());
-    QCOMPARE(menu.checkedAction(), b);
+    QCOMPARE(menu->checkedAction(), b);
 
     // Another change of an unchecked item leaves the checked one alone.
     c->setText(QStringLiteral("C renamed"));
     QVERIFY(b->isChecked());
-    QCOMPARE(menu.checkedAction(), b);
+    QCOMPARE(menu->checkedAction(), b);
 
-    b->setChecked(false);
-    QVERIFY(!menu.checkedAction());
+    menu->removeAction(b);
+    QVERIFY(!menu->checkedAction());
+    a->setChecked(true);
+    QVERIFY(b->isChecked()); // b is no longer an item
+    a->setChecked(false);
+    QVERIFY(!menu->checkedAction());
 
     c->setChecked(true);
-    menu.setExclusive(false);
-    QVERIFY(!menu.checkedAction());
+    menu->setExclusive(false);
+    QVERIFY(!menu->checkedAction());
     QVERIFY(c->isChecked());
     a->setChecked(true);
     QVERIFY(c->isChecked()); // no longer exclusive
-}
-
-void tst_MenuActions::exclusiveCatMenu()
-{
-    // The category menu has a slot of the same name as the item slot; the items must
-    // still reach the item rules.
-    QObject owner;
-    RibbonCatMenuAction menu(RibbonCatMenuAction::MenuTypeButton, RibbonCatMenuAction::MenuSizeSmall,
-                             RibbonCatMenuAction::PopupMenu, nullptr);
-    RibbonSimpleAction *a = checkableItem(QStringLiteral("A"), &owner);
-    RibbonSimpleAction *b = checkableItem(QStringLiteral("B"), &owner);
-    menu.addAction(a, false);
-    menu.addAction(b, false);
-    menu.setExclusive(true);
-    a->setChecked(true);
-    b->setChecked(true);
-    QVERIFY(!a->isChecked());
-    QCOMPARE(menu.checkedAction(), b);
-
-    menu.removeAction(b);
-    QVERIFY(!menu.checkedAction());
-    a->setChecked(true);
-    QVERIFY(b->isChecked()); // b is no longer an item
 }
 
 void tst_MenuActions::checkedActionAndToBeToggled_data()
@@ -392,12 +359,27 @@ void tst_MenuActions::insertAction()
     QCOMPARE(triggered.count(), 0);
 }
 
-void tst_MenuActions::catMenuSettersAndLists()
+void tst_MenuActions::catMenuGroupsAndLists()
 {
     RibbonCatMenuAction menu;
     QActionGroup *own = menu.iconActionGroup();
     QVERIFY(own);
     QCOMPARE(own->parent(), &menu);
+
+    RibbonSimpleAction top(nullptr), bottom(nullptr), tile(nullptr);
+    menu.addTopAction(&top);
+    menu.addTopAction(&top);
+    menu.addTopAction(nullptr);
+    menu.addBottomAction(&bottom);
+    QCOMPARE(menu.topActions(), QList<RibbonSimpleAction *>{&top});
+    QCOMPARE(menu.bottomActions(), QList<RibbonSimpleAction *>{&bottom});
+
+    // Enabling is pushed to the popup commands, tiles included.
+    own->addAction(&tile);
+    menu.setEnabled(false);
+    QVERIFY(!top.isEnabled() && !bottom.isEnabled() && !tile.isEnabled());
+    menu.setEnabled(true);
+    QVERIFY(top.isEnabled() && bottom.isEnabled() && tile.isEnabled());
 
     // A replaced group: the own one stays a child; a destroyed host group reads null.
     QPointer<QActionGroup> other = new QActionGroup(nullptr);
@@ -407,17 +389,9 @@ void tst_MenuActions::catMenuSettersAndLists()
     delete other.data();
     QVERIFY(!menu.iconActionGroup());
     menu.setEnabled(false); // no dangling group is touched
-
-    RibbonSimpleAction top(nullptr), bottom(nullptr);
-    menu.addTopAction(&top);
-    menu.addTopAction(&top);
-    menu.addTopAction(nullptr);
-    menu.addBottomAction(&bottom);
-    QCOMPARE(menu.topActions(), QList<RibbonSimpleAction *>{&top});
-    QCOMPARE(menu.bottomActions(), QList<RibbonSimpleAction *>{&bottom});
 }
 
-void tst_MenuActions::textActionCopiesAliasAtOnce()
+void tst_MenuActions::aliases()
 {
     RibbonAction source(nullptr);
     source.setText(QStringLiteral("Zoom"));
@@ -425,22 +399,13 @@ void tst_MenuActions::textActionCopiesAliasAtOnce()
     QCOMPARE(text.text(), QStringLiteral("Zoom"));
     RibbonSimpleAction simple(QPointer<RibbonAction>(&source), nullptr);
     QVERIFY(simple.text().isEmpty()); // a simple action waits for the next change
-}
 
-void tst_MenuActions::catMenuEnablesPopupCommands()
-{
-    RibbonCatMenuAction menu;
-    RibbonSimpleAction top(nullptr), bottom(nullptr), tile(nullptr);
-    menu.addTopAction(&top);
-    menu.addBottomAction(&bottom);
-    menu.iconActionGroup()->addAction(&tile);
-
-    menu.setEnabled(false);
-    QVERIFY(!top.isEnabled());
-    QVERIFY(!bottom.isEnabled());
-    QVERIFY(!tile.isEnabled());
-    menu.setEnabled(true);
-    QVERIFY(top.isEnabled() && bottom.isEnabled() && tile.isEnabled());
+    RibbonMenuAction host(nullptr);
+    RibbonSimpleAction item(nullptr);
+    host.addAction(&item, false);
+    RibbonMenuAction mirror(QPointer<QAction>(&host), nullptr);
+    host.setDefaultAction(&item);
+    QCOMPARE(mirror.defaultAction(), &item);
 }
 
 void tst_MenuActions::fillMenuSkipsStringsAndRecurses()
