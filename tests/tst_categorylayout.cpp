@@ -56,11 +56,8 @@ private slots:
 
     void emptyCategory_data();
     void emptyCategory();
-    void singleShortControlIsCentred();
-    void twoShortControlsTakeFirstRows();
-    void sevenShortControlsFillColumns();
-    void tallControlSplitsRuns();
-    void explicitRows();
+    void placement_data();
+    void placement();
     void shortThreshold();
     void comboCountsAsShort();
     void layoutOverrides();
@@ -131,99 +128,73 @@ void tst_CategoryLayout::emptyCategory()
     QCOMPARE(category.categoryLayout()->sizeHint(), QSize(3 + 4, round85()));
 }
 
-void tst_CategoryLayout::singleShortControlIsCentred()
+void tst_CategoryLayout::placement_data()
 {
-    RibbonCategoryAction group(QStringLiteral("G"), m_owner.get());
-    RibbonCatSimpleAction *a = small();
-    group.addAction(a, -1);
-    RibbonCategory category(nullptr, group);
-    const int h = smallHeight();
-    QCOMPARE(rectOf(category, a), QRect(3, 2 + (usable() - h) / 2, 22, h));
-    QCOMPARE(category.categoryLayout()->sizeHint(), QSize(3 + 22 + 4, round85()));
-}
+    // Each control: x = width of a small button (negative: a large one of that minimal
+    // width), y = its row (-1: automatic). Expected rectangles in the same order.
+    QTest::addColumn<QList<QPoint>>("controls");
+    QTest::addColumn<QList<QRect>>("rects");
+    QTest::addColumn<int>("width");
 
-void tst_CategoryLayout::twoShortControlsTakeFirstRows()
-{
-    RibbonCategoryAction group(QStringLiteral("G"), m_owner.get());
-    RibbonCatSimpleAction *a = small(30);
-    RibbonCatSimpleAction *b = small();
-    group.addAction(a, -1);
-    group.addAction(b, -1);
-    RibbonCategory category(nullptr, group);
     const int h = smallHeight();
     const int r = usable() / 3;
-    QCOMPARE(rectOf(category, a), QRect(3, 2 + (r - h) / 2, 30, h));
-    QCOMPARE(rectOf(category, b), QRect(3, 2 + r + (r - h) / 2, 22, h));
-    QCOMPARE(category.categoryLayout()->sizeHint().width(), 3 + 30 + 4);
-}
+    const auto row = [h](int rowHeight, int n) { return 2 + n * rowHeight + (rowHeight - h) / 2; };
 
-void tst_CategoryLayout::sevenShortControlsFillColumns()
-{
-    RibbonCategoryAction group(QStringLiteral("G"), m_owner.get());
-    const int widths[7] = {22, 30, 26, 40, 22, 22, 24};
-    QList<RibbonCatSimpleAction *> actions;
-    for (int w : widths) {
-        actions.append(small(w));
-        group.addAction(actions.last(), -1);
-    }
-    RibbonCategory category(nullptr, group);
-    const int h = smallHeight();
-    const int r = usable() / 3;
+    QTest::newRow("single short control is centred")
+        << QList<QPoint>{{22, -1}} << QList<QRect>{{3, 2 + (usable() - h) / 2, 22, h}} << 3 + 22 + 4;
+    QTest::newRow("two short controls take the first rows")
+        << QList<QPoint>{{30, -1}, {22, -1}} << QList<QRect>{{3, row(r, 0), 30, h}, {3, row(r, 1), 22, h}}
+        << 3 + 30 + 4;
+
     // Columns of 3, 3 and 1, each as wide as its widest control, 2 pixels apart.
+    const int widths[7] = {22, 30, 26, 40, 22, 22, 24};
     const int columnX[3] = {3, 3 + 30 + 2, 3 + 30 + 2 + 40 + 2};
+    QList<QPoint> seven;
+    QList<QRect> sevenRects;
     for (int i = 0; i < 7; ++i) {
-        const int row = i % 3;
-        QCOMPARE(rectOf(category, actions.at(i)),
-                 QRect(columnX[i / 3], 2 + row * r + (r - h) / 2, widths[i], h));
+        seven << QPoint(widths[i], -1);
+        sevenRects << QRect(columnX[i / 3], row(r, i % 3), widths[i], h);
     }
-    QCOMPARE(category.categoryLayout()->sizeHint().width(), 3 + 30 + 2 + 40 + 2 + 24 + 4);
-}
+    QTest::newRow("seven short controls fill columns") << seven << sevenRects << 3 + 30 + 2 + 40 + 2 + 24 + 4;
 
-void tst_CategoryLayout::tallControlSplitsRuns()
-{
-    RibbonCategoryAction group(QStringLiteral("G"), m_owner.get());
-    RibbonCatSimpleAction *a = small(25);
-    RibbonCatSimpleAction *b = small();
-    auto *tall = new RibbonCatSimpleAction(QStringLiteral("Go"), RibbonCatSimpleAction::SizeLarge, m_owner.get());
-    tall->setMinimalWidth(50);
-    RibbonCatSimpleAction *c = small();
-    RibbonCatSimpleAction *e = small(28);
-    for (RibbonAction *x : {static_cast<RibbonAction *>(a), static_cast<RibbonAction *>(b),
-                            static_cast<RibbonAction *>(tall), static_cast<RibbonAction *>(c),
-                            static_cast<RibbonAction *>(e)})
-        group.addAction(x, -1);
-    RibbonCategory category(nullptr, group);
-
-    const int h = smallHeight();
-    const int r = usable() / 3;
+    // The run after a tall control starts over in the first row.
     const int secondRun = 3 + 25 + 3 + 50 + 3;
-    QCOMPARE(rectOf(category, a), QRect(3, 2 + (r - h) / 2, 25, h));
-    QCOMPARE(rectOf(category, b), QRect(3, 2 + r + (r - h) / 2, 22, h));
-    QCOMPARE(rectOf(category, tall), QRect(3 + 25 + 3, 2 + (usable() - largeHeight()) / 2, 50, largeHeight()));
-    // The second run starts over in the first row.
-    QCOMPARE(rectOf(category, c), QRect(secondRun, 2 + (r - h) / 2, 22, h));
-    QCOMPARE(rectOf(category, e), QRect(secondRun, 2 + r + (r - h) / 2, 28, h));
-    QCOMPARE(category.categoryLayout()->sizeHint().width(), secondRun + 28 + 4);
+    QTest::newRow("tall control splits runs")
+        << QList<QPoint>{{25, -1}, {22, -1}, {-50, -1}, {22, -1}, {28, -1}}
+        << QList<QRect>{{3, row(r, 0), 25, h}, {3, row(r, 1), 22, h},
+                        {3 + 25 + 3, 2 + (usable() - largeHeight()) / 2, 50, largeHeight()},
+                        {secondRun, row(r, 0), 22, h}, {secondRun, row(r, 1), 28, h}}
+        << secondRun + 28 + 4;
+    // The widest row decides the width.
+    const int r2 = usable() / 2;
+    QTest::newRow("explicit rows")
+        << QList<QPoint>{{30, 0}, {60, 1}, {24, 0}}
+        << QList<QRect>{{3, row(r2, 0), 30, h}, {3, row(r2, 1), 60, h}, {3 + 30 + 2, row(r2, 0), 24, h}}
+        << 3 + 60 + 4;
 }
 
-void tst_CategoryLayout::explicitRows()
+void tst_CategoryLayout::placement()
 {
-    RibbonCategoryAction group(QStringLiteral("G"), m_owner.get());
-    RibbonCatSimpleAction *a = small(30);
-    RibbonCatSimpleAction *b = small(60);
-    RibbonCatSimpleAction *c = small(24);
-    group.addAction(a, 0);
-    group.addAction(b, 1);
-    group.addAction(c, 0);
-    RibbonCategory category(nullptr, group);
+    QFETCH(QList<QPoint>, controls);
+    QFETCH(QList<QRect>, rects);
+    QFETCH(int, width);
 
-    const int h = smallHeight();
-    const int r = usable() / 2;
-    QCOMPARE(rectOf(category, a), QRect(3, 2 + (r - h) / 2, 30, h));
-    QCOMPARE(rectOf(category, c), QRect(3 + 30 + 2, 2 + (r - h) / 2, 24, h));
-    QCOMPARE(rectOf(category, b), QRect(3, 2 + r + (r - h) / 2, 60, h));
-    // The widest row decides the width.
-    QCOMPARE(category.categoryLayout()->sizeHint().width(), 3 + 60 + 4);
+    RibbonCategoryAction group(QStringLiteral("G"), m_owner.get());
+    QList<RibbonCatSimpleAction *> actions;
+    for (const QPoint &c : controls) {
+        if (c.x() < 0) {
+            actions << new RibbonCatSimpleAction(QStringLiteral("Go"), RibbonCatSimpleAction::SizeLarge,
+                                                 m_owner.get());
+            actions.last()->setMinimalWidth(-c.x());
+        } else {
+            actions << small(c.x() == 22 ? -1 : c.x());
+        }
+        group.addAction(actions.last(), c.y());
+    }
+    RibbonCategory category(nullptr, group);
+    for (int i = 0; i < actions.size(); ++i)
+        QCOMPARE(rectOf(category, actions.at(i)), rects.at(i));
+    QCOMPARE(category.categoryLayout()->sizeHint(), QSize(width, round85()));
 }
 
 void tst_CategoryLayout::shortThreshold()
@@ -285,8 +256,7 @@ void tst_CategoryLayout::layoutOverrides()
     QCOMPARE(layout->expandingDirections(), Qt::Orientations());
     QCOMPARE(layout->minimumSize(), layout->sizeHint());
     QVERIFY(layout->hasHeightForWidth());
-    const QMargins margins = layout->contentsMargins();
-    QCOMPARE(margins, QMargins(3, 2, 4, 15));
+    QCOMPARE(layout->contentsMargins(), QMargins(3, 2, 4, 15));
 
     // Rectangles are translated by the layout's origin.
     layout->setGeometry(QRect(10, 20, 100, round85()));
