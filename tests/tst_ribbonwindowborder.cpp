@@ -26,18 +26,6 @@ QList<QWidget *> borderItems()
     return items;
 }
 
-QList<QRect> geometries(const QList<QWidget *> &widgets)
-{
-    QList<QRect> result;
-    for (const QWidget *widget : widgets)
-        result.append(widget->geometry());
-    std::sort(result.begin(), result.end(), [](const QRect &a, const QRect &b) {
-        return std::make_tuple(a.x(), a.y(), a.width(), a.height())
-            < std::make_tuple(b.x(), b.y(), b.width(), b.height());
-    });
-    return result;
-}
-
 // The eight item rectangles, in position order from the left side clockwise, around a
 // window geometry with the given contents margin.
 QList<QRect> expectedItems(const QRect &geometry, int margin)
@@ -63,6 +51,14 @@ QList<QRect> sorted(QList<QRect> rects)
             < std::make_tuple(b.x(), b.y(), b.width(), b.height());
     });
     return rects;
+}
+
+QList<QRect> geometries(const QList<QWidget *> &widgets)
+{
+    QList<QRect> result;
+    for (const QWidget *widget : widgets)
+        result.append(widget->geometry());
+    return sorted(result);
 }
 
 QWidget *itemWithGeometry(const QRect &geometry)
@@ -104,7 +100,6 @@ private slots:
 
     void placement_data();
     void placement();
-    void itemsFollowVisibility();
     void dragKeepsOppositeEdgeAtMinimum_data();
     void dragKeepsOppositeEdgeAtMinimum();
     void fixedSizeWindowDoesNotResize();
@@ -119,7 +114,8 @@ private slots:
     void itemsDeletedElsewhereAreSkipped();
 
 private:
-    void makeWindow(int margin = 0);
+    void makeWindow(int margin = 0, bool stayOnTop = false);
+    bool showWindow(bool activate = false);
 
     std::unique_ptr<QWidget> m_window;
     QPointer<RibbonWindowBorder> m_border;
@@ -137,15 +133,24 @@ void tst_RibbonWindowBorder::cleanup()
     QVERIFY(borderItems().isEmpty());
 }
 
-void tst_RibbonWindowBorder::makeWindow(int margin)
+void tst_RibbonWindowBorder::makeWindow(int margin, bool stayOnTop)
 {
     m_window.reset(new QWidget(nullptr, Qt::FramelessWindowHint));
     m_window->setContentsMargins(margin, margin, margin, margin);
     m_window->setGeometry(kGeometry);
-    m_border = new RibbonWindowBorder(m_window.get(), false);
+    m_border = new RibbonWindowBorder(m_window.get(), stayOnTop);
     QCOMPARE(m_border->parent(), m_window.get());
     QCOMPARE(borderItems().size(), 8);
     QVERIFY(allVisible(false));
+}
+
+bool tst_RibbonWindowBorder::showWindow(bool activate)
+{
+    m_window->show();
+    if (!activate)
+        return QTest::qWaitForWindowExposed(m_window.get());
+    QApplication::setActiveWindow(m_window.get());
+    return QTest::qWaitForWindowActive(m_window.get());
 }
 
 void tst_RibbonWindowBorder::placement_data()
@@ -161,8 +166,11 @@ void tst_RibbonWindowBorder::placement()
     makeWindow(margin);
     QCOMPARE(geometries(borderItems()), sorted(expectedItems(kGeometry, margin)));
 
+    QVERIFY(showWindow());
+    QVERIFY(allVisible(true));
+    m_window->hide();
+    QVERIFY(allVisible(false));
     m_window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
     QVERIFY(allVisible(true));
 
     const QRect moved(150, 80, 300, 200);
@@ -184,18 +192,6 @@ void tst_RibbonWindowBorder::placement()
         QCOMPARE(expected.at(0).right(), resized.left() - 1);
         QCOMPARE(expected.at(2).bottom(), resized.top() - 1);
     }
-}
-
-void tst_RibbonWindowBorder::itemsFollowVisibility()
-{
-    makeWindow();
-    m_window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
-    QVERIFY(allVisible(true));
-    m_window->hide();
-    QVERIFY(allVisible(false));
-    m_window->show();
-    QVERIFY(allVisible(true));
 }
 
 void tst_RibbonWindowBorder::dragKeepsOppositeEdgeAtMinimum_data()
@@ -228,8 +224,7 @@ void tst_RibbonWindowBorder::dragKeepsOppositeEdgeAtMinimum()
 
     makeWindow();
     m_window->setMinimumSize(150, 100);
-    m_window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    QVERIFY(showWindow());
 
     QWidget *item = itemWithGeometry(expectedItems(kGeometry, 0).at(position));
     QVERIFY(item);
@@ -255,12 +250,12 @@ void tst_RibbonWindowBorder::dragKeepsOppositeEdgeAtMinimum()
 
 void tst_RibbonWindowBorder::fixedSizeWindowDoesNotResize()
 {
+    // The size policy is read when the border is made.
     m_window.reset(new QWidget(nullptr, Qt::FramelessWindowHint));
     m_window->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     m_window->setGeometry(kGeometry);
     m_border = new RibbonWindowBorder(m_window.get(), false);
-    m_window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    QVERIFY(showWindow());
 
     const QList<QWidget *> items = borderItems();
     QCOMPARE(items.size(), 8);
@@ -277,10 +272,7 @@ void tst_RibbonWindowBorder::fixedSizeWindowDoesNotResize()
 void tst_RibbonWindowBorder::minimizeHidesAtOnceAndRestoreShows()
 {
     makeWindow();
-    m_window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
-    QVERIFY(allVisible(true));
-
+    QVERIFY(showWindow());
     m_window->showMinimized();
     QVERIFY(allVisible(false));
     // Qt sends the restored window a show event, which brings the items back at once;
@@ -301,10 +293,7 @@ void tst_RibbonWindowBorder::minimizeHidesAtOnceAndRestoreShows()
 void tst_RibbonWindowBorder::closeHidesForGood()
 {
     makeWindow();
-    m_window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
-    QVERIFY(allVisible(true));
-
+    QVERIFY(showWindow());
     QVERIFY(m_window->close());
     QVERIFY(allVisible(false));
     m_window->show();
@@ -319,8 +308,7 @@ void tst_RibbonWindowBorder::closeHidesForGood()
 void tst_RibbonWindowBorder::releaseActivatesWindow()
 {
     makeWindow();
-    m_window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    QVERIFY(showWindow());
 
     QWidget other;
     other.setGeometry(500, 400, 100, 100);
@@ -342,9 +330,7 @@ void tst_RibbonWindowBorder::releaseActivatesWindow()
 void tst_RibbonWindowBorder::maskLeavesOutOtherWindows()
 {
     makeWindow();
-    m_window->show();
-    QApplication::setActiveWindow(m_window.get());
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    QVERIFY(showWindow(true));
 
     QWidget *left = itemWithGeometry(expectedItems(kGeometry, 0).at(0));
     QVERIFY(left);
@@ -407,9 +393,7 @@ void tst_RibbonWindowBorder::shadowFadesAwayFromWindow()
     QFETCH(QPoint, away);
 
     makeWindow();
-    m_window->show();
-    QApplication::setActiveWindow(m_window.get());
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    QVERIFY(showWindow(true));
 
     QWidget *item = itemWithGeometry(expectedItems(kGeometry, 0).at(position));
     QVERIFY(item);
@@ -431,14 +415,10 @@ void tst_RibbonWindowBorder::shadowFadesAwayFromWindow()
 
 void tst_RibbonWindowBorder::stayOnTopShadowNeedsActiveApplication()
 {
-    m_window.reset(new QWidget(nullptr, Qt::FramelessWindowHint));
-    m_window->setGeometry(kGeometry);
-    m_border = new RibbonWindowBorder(m_window.get(), true);
+    makeWindow(0, true);
     for (const QWidget *item : borderItems())
         QVERIFY(item->windowFlags() & Qt::WindowStaysOnTopHint);
-    m_window->show();
-    QApplication::setActiveWindow(m_window.get());
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    QVERIFY(showWindow(true));
 
     QWidget *left = itemWithGeometry(expectedItems(kGeometry, 0).at(0));
     QVERIFY(left);
@@ -453,11 +433,7 @@ void tst_RibbonWindowBorder::stayOnTopShadowNeedsActiveApplication()
 void tst_RibbonWindowBorder::deletingWindowDeletesItems()
 {
     makeWindow();
-    m_window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
-    QApplication::setActiveWindow(m_window.get());
-    QVERIFY(allVisible(true));
-
+    QVERIFY(showWindow(true));
     QList<QPointer<QWidget>> items;
     for (QWidget *item : borderItems())
         items.append(item);
@@ -470,8 +446,7 @@ void tst_RibbonWindowBorder::deletingWindowDeletesItems()
 
     // The border may also go first; the window lives on undecorated.
     makeWindow();
-    m_window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    QVERIFY(showWindow());
     delete m_border;
     QVERIFY(borderItems().isEmpty());
     m_window->move(10, 10);
@@ -482,8 +457,7 @@ void tst_RibbonWindowBorder::itemsDeletedElsewhereAreSkipped()
 {
     // A host tearing down every top-level widget may delete the items before the border.
     makeWindow();
-    m_window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    QVERIFY(showWindow());
     qDeleteAll(borderItems());
     QVERIFY(borderItems().isEmpty());
     m_window->move(20, 20);
