@@ -76,11 +76,6 @@ const RibbonStyle &style()
     return RibbonApplication::theApp().ribbonStyle();
 }
 
-QImage part(const QImage &image, const QRect &rect)
-{
-    return image.copy(rect);
-}
-
 } // namespace
 
 class tst_RibbonWindow : public QObject
@@ -97,7 +92,6 @@ private slots:
     void maximizeButtonRestores();
     void otherButtonsStayIdle_data();
     void otherButtonsStayIdle();
-    void otherButtonReleaseKeepsButtonPressed();
     void captionDragMoves();
     void borderResize_data();
     void borderResize();
@@ -176,6 +170,11 @@ void tst_RibbonWindow::systemButtons()
     QVERIFY(!m_window->isMinimized());
     QCOMPARE(m_window->geometry(), kStartGeometry);
 
+    // A release of another button leaves the press in place.
+    mouse.release(global(target.center()), Qt::RightButton);
+    QVERIFY(m_window->isVisible());
+    QCOMPARE(m_window->geometry(), kStartGeometry);
+
     // Outside every button, over the client area.
     const QPoint outside = releaseInside ? target.center() : QPoint(150, 120);
     mouse.release(global(outside));
@@ -232,17 +231,6 @@ void tst_RibbonWindow::otherButtonsStayIdle()
         QVERIFY(!m_window->isMinimized());
         QCOMPARE(m_window->geometry(), kStartGeometry);
     }
-}
-
-void tst_RibbonWindow::otherButtonReleaseKeepsButtonPressed()
-{
-    Mouse mouse(m_window.get());
-    const QPoint close = global(closeRect(m_window.get()).center());
-    mouse.press(close);
-    mouse.release(close, Qt::RightButton);
-    QVERIFY(m_window->isVisible());
-    mouse.release(close);
-    QVERIFY(!m_window->isVisible());
 }
 
 void tst_RibbonWindow::captionDragMoves()
@@ -436,11 +424,9 @@ void tst_RibbonWindow::maskCutsCornersSymmetrically()
         const int w = size.width();
         const int h = size.height();
         QCOMPARE(mask.boundingRect(), QRect(0, 0, w, h));
-        QVERIFY(mask.contains(QPoint(w / 2, h / 2)));
-        QVERIFY(mask.contains(QPoint(w / 2, 0)));
-        QVERIFY(mask.contains(QPoint(0, h / 2)));
-        QVERIFY(mask.contains(QPoint(w - 1, h / 2)));
-        QVERIFY(mask.contains(QPoint(w / 2, h - 1)));
+        for (const QPoint &kept : {QPoint(w / 2, h / 2), QPoint(w / 2, 0), QPoint(0, h / 2), QPoint(w - 1, h / 2),
+                                   QPoint(w / 2, h - 1), QPoint(4, 0), QPoint(2, 2)})
+            QVERIFY(mask.contains(kept));
 
         int cut = 0;
         for (int y = 0; y < 5; ++y) {
@@ -458,8 +444,6 @@ void tst_RibbonWindow::maskCutsCornersSymmetrically()
         }
         QVERIFY(!mask.contains(QPoint(0, 0)));
         QVERIFY(!mask.contains(QPoint(1, 1)));
-        QVERIFY(mask.contains(QPoint(4, 0)));
-        QVERIFY(mask.contains(QPoint(2, 2)));
         // Four pixels of the first row, two of the second, and their mirrors in the
         // first column: (0,0) (1,0) (2,0) (3,0) (1,1) (0,1) (0,2) (0,3).
         QCOMPARE(cut, 8);
@@ -485,7 +469,7 @@ void tst_RibbonWindow::titleAndIconPaintOnlyTheirPlace()
     m_window->setWindowTitle(QStringLiteral("Find and replace"));
     const QImage titled = m_window->grab().toImage();
     const QRect caption = m_window->captionRect();
-    QVERIFY(part(titled, caption) != part(blank, caption));
+    QVERIFY(titled.copy(caption) != blank.copy(caption));
     QImage outside = titled;
     QImage outsideBlank = blank;
     for (QImage *image : {&outside, &outsideBlank}) {
@@ -502,13 +486,13 @@ void tst_RibbonWindow::titleAndIconPaintOnlyTheirPlace()
     const int lineHeight = qMax(m_window->fontMetrics().height(), 16);
     const QRect iconRect(7, 10 + (lineHeight - 16) / 2, 16, 16);
     QCOMPARE(withIcon.pixelColor(iconRect.center()), QColor(Qt::magenta));
-    QCOMPARE(part(withIcon, caption), part(titled, caption));
-    QVERIFY(part(titled, iconRect) != part(withIcon, iconRect));
+    QCOMPARE(withIcon.copy(caption), titled.copy(caption));
+    QVERIFY(titled.copy(iconRect) != withIcon.copy(iconRect));
 
     // A title too long for the caption is elided, never drawn over the buttons.
     const QRect buttons(minimizeRect(m_window.get()).left(), 0, 67, 30);
     m_window->setWindowTitle(QString(200, QLatin1Char('W')));
-    QCOMPARE(part(m_window->grab().toImage(), buttons), part(titled, buttons));
+    QCOMPARE(m_window->grab().toImage().copy(buttons), titled.copy(buttons));
 }
 
 void tst_RibbonWindow::inactiveWindowUsesInactiveColours()
@@ -525,14 +509,14 @@ void tst_RibbonWindow::inactiveWindowUsesInactiveColours()
     const QImage inactive = m_window->grab().toImage();
 
     const QRect caption = m_window->captionRect();
-    QVERIFY(part(active, caption) != part(inactive, caption));
+    QVERIFY(active.copy(caption) != inactive.copy(caption));
     if (style().mainBorder().isNull() || style().mainBorderCaption().isNull())
         QSKIP("The palette has no frame images in this build");
     const int c = m_window->captionHeight();
     const QRect leftSide(0, c, 7, m_window->height() - 7 - c);
     const QRect bottom(7, m_window->height() - 7, m_window->width() - 14, 7);
-    QVERIFY(part(active, leftSide) != part(inactive, leftSide));
-    QVERIFY(part(active, bottom) != part(inactive, bottom));
+    QVERIFY(active.copy(leftSide) != inactive.copy(leftSide));
+    QVERIFY(active.copy(bottom) != inactive.copy(bottom));
 }
 
 void tst_RibbonWindow::pressedButtonIsDrawnUntilRelease()
@@ -542,14 +526,14 @@ void tst_RibbonWindow::pressedButtonIsDrawnUntilRelease()
 
     const QRect close = closeRect(m_window.get());
     QCursor::setPos(global(QPoint(150, 120)));
-    const QImage normal = part(m_window->grab().toImage(), close);
+    const QImage normal = m_window->grab().toImage().copy(close);
     QCursor::setPos(global(close.center()));
-    const QImage hovered = part(m_window->grab().toImage(), close);
+    const QImage hovered = m_window->grab().toImage().copy(close);
     QVERIFY(hovered != normal);
 
     Mouse mouse(m_window.get());
     mouse.press(global(close.center()));
-    const QImage pressed = part(m_window->grab().toImage(), close);
+    const QImage pressed = m_window->grab().toImage().copy(close);
     QVERIFY(pressed != hovered);
     QVERIFY(pressed != normal);
 
@@ -557,7 +541,7 @@ void tst_RibbonWindow::pressedButtonIsDrawnUntilRelease()
     QCursor::setPos(global(QPoint(150, 120)));
     mouse.release(global(QPoint(150, 120)));
     QVERIFY(m_window->isVisible());
-    QCOMPARE(part(m_window->grab().toImage(), close), normal);
+    QCOMPARE(m_window->grab().toImage().copy(close), normal);
 }
 
 ZEL_TEST_MAIN(tst_RibbonWindow)
