@@ -71,19 +71,15 @@ private slots:
     void tabTextInCapitalsAndCheckable();
     void emptyCategoryRefused();
     void addAndRemoveCategory();
-    void categoryLookupByText();
     void memberChangesClimbToTab();
     void categoryMembersAndRows();
-    void actionRow_data();
-    void actionRow();
-    void categoryRelaysActivationOnce_data();
-    void categoryRelaysActivationOnce();
+    void containerRelaysActivationOnce_data();
+    void containerRelaysActivationOnce();
     void exclusiveGroup();
     void exclusiveGroupAddCheckedMember();
     void groupRemoveCheckedMember();
     void groupWideFollowsLatestAddition();
     void groupNotifiesItsWidgets();
-    void groupRelaysActivation();
     void contextSet();
     void contextPanelRegistry();
     void deleteMemberInsideContainers();
@@ -143,6 +139,8 @@ void tst_StructureActions::addAndRemoveCategory()
 {
     RibbonCategoriesPanelAction tab(nullptr);
     RibbonCategoryAction first(nullptr), second(nullptr), stranger(nullptr);
+    first.setText(QStringLiteral("Clipboard"));
+    second.setText(QStringLiteral("Clipboard"));
     RibbonSimpleAction a(nullptr), b(nullptr);
     first.addAction(&a, 0);
     second.addAction(&b, 0);
@@ -160,6 +158,10 @@ void tst_StructureActions::addAndRemoveCategory()
     QCOMPARE(tab.categories(), (QList<RibbonCategoryAction *>{&first, &second}));
     QCOMPARE(log, (QStringList{QStringLiteral("changed"), QStringLiteral("added"),
                                QStringLiteral("changed"), QStringLiteral("added")}));
+    // Lookup by exact text; the first of equal names wins.
+    QCOMPARE(tab.category(QStringLiteral("Clipboard")), &first);
+    QVERIFY(!tab.category(QStringLiteral("clipboard")));
+    QVERIFY(!tab.category(QString()));
 
     log.clear();
     tab.removeCategory(&stranger);
@@ -174,22 +176,6 @@ void tst_StructureActions::addAndRemoveCategory()
     log.clear();
     first.setText(QStringLiteral("Elsewhere"));
     QVERIFY(log.isEmpty());
-}
-
-void tst_StructureActions::categoryLookupByText()
-{
-    RibbonCategoriesPanelAction tab(nullptr);
-    RibbonCategoryAction first(nullptr), second(nullptr);
-    first.setText(QStringLiteral("Clipboard"));
-    second.setText(QStringLiteral("Clipboard"));
-    RibbonSimpleAction a(nullptr);
-    first.addAction(&a, 0);
-    second.addAction(&a, 0);
-    tab.addCategory(&first);
-    tab.addCategory(&second);
-    QCOMPARE(tab.category(QStringLiteral("Clipboard")), &first);
-    QVERIFY(!tab.category(QStringLiteral("clipboard")));
-    QVERIFY(!tab.category(QString()));
 }
 
 void tst_StructureActions::memberChangesClimbToTab()
@@ -219,6 +205,9 @@ void tst_StructureActions::categoryMembersAndRows()
     connect(&category, &RibbonCategoryAction::actionRemoved, this,
             [&log](RibbonAction *) { log << QStringLiteral("removed"); });
     connect(&category, &QAction::changed, this, [&log] { log << QStringLiteral("changed"); });
+    // An empty category answers -1, a category with members 0 for a stranger.
+    QCOMPARE(category.actionRow(&a), -1);
+    QCOMPARE(category.actionRow(nullptr), -1);
 
     category.addAction(&a, 2);
     category.addAction(&b, 1);
@@ -227,6 +216,7 @@ void tst_StructureActions::categoryMembersAndRows()
     QCOMPARE(category.actions(), (QList<RibbonAction *>{&a, &b}));
     QCOMPARE(category.actionRow(&a), 2);
     QCOMPARE(category.actionRow(&b), 1);
+    QCOMPARE(category.actionRow(nullptr), 0);
     QCOMPARE(log, (QStringList{QStringLiteral("added"), QStringLiteral("changed"),
                                QStringLiteral("added"), QStringLiteral("changed")}));
 
@@ -241,37 +231,20 @@ void tst_StructureActions::categoryMembersAndRows()
     QVERIFY(log.isEmpty());
 }
 
-void tst_StructureActions::actionRow_data()
+void tst_StructureActions::containerRelaysActivationOnce_data()
 {
-    QTest::addColumn<bool>("otherMembers");
-    QTest::addColumn<int>("expected");
-    QTest::newRow("empty category") << false << -1;
-    QTest::newRow("not a member") << true << 0;
-}
-
-void tst_StructureActions::actionRow()
-{
-    QFETCH(bool, otherMembers);
-    QFETCH(int, expected);
-    RibbonCategoryAction category(nullptr);
-    RibbonSimpleAction member(nullptr), outsider(nullptr);
-    if (otherMembers)
-        category.addAction(&member, 3);
-    QCOMPARE(category.actionRow(&outsider), expected);
-    QCOMPARE(category.actionRow(nullptr), expected);
-}
-
-void tst_StructureActions::categoryRelaysActivationOnce_data()
-{
+    QTest::addColumn<bool>("inGroup");
     QTest::addColumn<int>("kind");
     QTest::addColumn<int>("expected");
-    QTest::newRow("simple action") << 0 << 1;
-    QTest::newRow("category command") << 1 << 1;
-    QTest::newRow("string action") << 2 << 0;
+    QTest::newRow("category: simple action") << false << 0 << 1;
+    QTest::newRow("category: category command") << false << 1 << 1;
+    QTest::newRow("category: string action") << false << 2 << 0;
+    QTest::newRow("group: simple action") << true << 0 << 1;
 }
 
-void tst_StructureActions::categoryRelaysActivationOnce()
+void tst_StructureActions::containerRelaysActivationOnce()
 {
+    QFETCH(bool, inGroup);
     QFETCH(int, kind);
     QFETCH(int, expected);
     QScopedPointer<RibbonAction> command;
@@ -281,11 +254,24 @@ void tst_StructureActions::categoryRelaysActivationOnce()
     case 2: command.reset(new RibbonStringAction(nullptr)); break;
     }
     RibbonCategoryAction category(nullptr);
-    category.addAction(command.data(), 0);
+    RibbonCatActionGroup group(nullptr);
+    RibbonAction *container = inGroup ? static_cast<RibbonAction *>(&group) : &category;
+    if (inGroup)
+        group.addAction(command.data(), false);
+    else
+        category.addAction(command.data(), 0);
     QSignalSpy ownActivated(command.data(), &RibbonAction::ribbonActionActivated);
-    QSignalSpy activated(&category, &RibbonAction::ribbonActionActivated);
+    QSignalSpy activated(container, &RibbonAction::ribbonActionActivated);
     command->trigger();
     QCOMPARE(ownActivated.count(), expected);
+    QCOMPARE(activated.count(), expected);
+
+    // A removed member relays nothing.
+    if (inGroup)
+        group.removeAction(command.data());
+    else
+        category.removeAction(command.data());
+    command->trigger();
     QCOMPARE(activated.count(), expected);
 }
 
@@ -307,7 +293,6 @@ void tst_StructureActions::exclusiveGroup()
 
     b.setChecked(false);
     group.setExclusive(true);
-    QVERIFY(group.isExclusive());
     a.setChecked(false);
     a.setChecked(true);
     QCOMPARE(group.checkedAction(), &a);
@@ -391,21 +376,6 @@ void tst_StructureActions::groupNotifiesItsWidgets()
     QCOMPARE(strip.changes, 2);
     group.removeAction(&a);
     QCOMPARE(strip.changes, 3);
-}
-
-void tst_StructureActions::groupRelaysActivation()
-{
-    // A colour menu member must not relay its activation; that class is built
-    // elsewhere and tested with it.
-    RibbonCatActionGroup group(nullptr);
-    RibbonSimpleAction a(nullptr);
-    group.addAction(&a, false);
-    QSignalSpy activated(&group, &RibbonAction::ribbonActionActivated);
-    a.trigger();
-    QCOMPARE(activated.count(), 1);
-    group.removeAction(&a);
-    a.trigger();
-    QCOMPARE(activated.count(), 1);
 }
 
 void tst_StructureActions::contextSet()
