@@ -31,6 +31,13 @@ RibbonSimpleAction *checkableItem(const QString &text, QObject *parent)
     return item;
 }
 
+template <class T>
+T *named(T *action, const QString &text)
+{
+    action->setText(text);
+    return action;
+}
+
 QStringList entryTexts(const QMenu &menu)
 {
     QStringList texts;
@@ -412,24 +419,16 @@ void tst_MenuActions::fillMenuSkipsStringsAndRecurses()
 {
     QObject owner;
     RibbonCatMenuAction menu;
-    auto *simple = new RibbonSimpleAction(&owner);
-    simple->setText(QStringLiteral("Copy"));
-    auto *text = new RibbonStringAction(&owner);
-    text->setText(QStringLiteral("Hidden string"));
-    auto *sub = new RibbonMenuAction(&owner);
-    sub->setText(QStringLiteral("More"));
-    auto *subItem = new RibbonSimpleAction(&owner);
-    subItem->setText(QStringLiteral("Copy format"));
-    auto *deeper = new RibbonMenuAction(&owner);
-    deeper->setText(QStringLiteral("Deeper"));
-    auto *deepItem = new RibbonCatSimpleAction(RibbonCatSimpleAction::SizeSmall, &owner);
-    deepItem->setText(QStringLiteral("Deep"));
-    deeper->addAction(deepItem, false);
-    sub->addAction(subItem, false);
+    auto *simple = named(new RibbonSimpleAction(&owner), QStringLiteral("Copy"));
+    auto *sub = named(new RibbonMenuAction(&owner), QStringLiteral("More"));
+    auto *deeper = named(new RibbonMenuAction(&owner), QStringLiteral("Deeper"));
+    deeper->addAction(named(new RibbonCatSimpleAction(RibbonCatSimpleAction::SizeSmall, &owner),
+                            QStringLiteral("Deep")), false);
+    sub->addAction(named(new RibbonSimpleAction(&owner), QStringLiteral("Copy format")), false);
     sub->addAction(new RibbonStringAction(&owner), false);
     sub->addAction(deeper, false);
     menu.addAction(simple, false);
-    menu.addAction(text, false);
+    menu.addAction(named(new RibbonStringAction(&owner), QStringLiteral("Hidden string")), false);
     menu.addAction(sub, false);
 
     QMenu qmenu;
@@ -466,18 +465,14 @@ void tst_MenuActions::fillMenuSurvivesCycles()
 void tst_MenuActions::viewPopup()
 {
     RibbonCatMenuAction menu;
-    RibbonSimpleAction top(nullptr), bottom(nullptr), tileA(nullptr), tileB(nullptr), disabled(nullptr);
-    top.setText(QStringLiteral("Top"));
-    bottom.setText(QStringLiteral("Bottom"));
-    tileA.setText(QStringLiteral("Tile A"));
-    tileB.setText(QStringLiteral("Tile B"));
-    disabled.setText(QStringLiteral("Off"));
-    disabled.setEnabled(false);
-    menu.addTopAction(&top);
-    menu.addBottomAction(&bottom);
-    menu.iconActionGroup()->addAction(&tileA);
-    menu.iconActionGroup()->addAction(&disabled);
-    menu.iconActionGroup()->addAction(&tileB);
+    QObject owner;
+    RibbonSimpleAction *disabled = named(new RibbonSimpleAction(&owner), QStringLiteral("Off"));
+    disabled->setEnabled(false);
+    menu.addTopAction(named(new RibbonSimpleAction(&owner), QStringLiteral("Top")));
+    menu.addBottomAction(named(new RibbonSimpleAction(&owner), QStringLiteral("Bottom")));
+    menu.iconActionGroup()->addAction(named(new RibbonSimpleAction(&owner), QStringLiteral("Tile A")));
+    menu.iconActionGroup()->addAction(disabled);
+    menu.iconActionGroup()->addAction(named(new RibbonSimpleAction(&owner), QStringLiteral("Tile B")));
 
     QScopedPointer<RibbonViewPopup> popup(menu.fillMenu());
     QVERIFY(popup);
