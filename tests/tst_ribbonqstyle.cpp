@@ -147,8 +147,6 @@ private slots:
     void pushButtonPanel();
     void comboBoxRows_data();
     void comboBoxRows();
-    void comboBoxFallback_data();
-    void comboBoxFallback();
     void spinBoxButtons();
     void scrollBarThumb_data();
     void scrollBarThumb();
@@ -230,8 +228,7 @@ void TestRibbonQStyle::menuItemHeight()
 
 void TestRibbonQStyle::comboPopupItemHeight()
 {
-    // A combo box's popup asks for menu item sizes with its whole item rectangle as the
-    // contents; rows must still be one line high.
+    // The popup asks for item sizes with the whole item rectangle as contents; rows stay one line high.
     QWidget window;
     auto *combo = new QComboBox(&window);
     combo->setStyle(m_style.data());
@@ -314,53 +311,34 @@ void TestRibbonQStyle::comboBoxRows_data()
 {
     QTest::addColumn<int>("state");
     QTest::addColumn<int>("row");
+    QTest::addColumn<QColor>("flatOutline");
     const int enabled = QStyle::State_Enabled;
-    QTest::newRow("normal") << enabled << 0;
-    QTest::newRow("hover") << (enabled | int(QStyle::State_MouseOver)) << 1;
-    QTest::newRow("open") << (enabled | int(QStyle::State_On)) << 2;
-    QTest::newRow("disabled") << int(QStyle::State_None) << 3;
+    const FlatPalette p;
+    QTest::newRow("normal") << enabled << 0 << p.backstageGrayBorderColor();
+    QTest::newRow("hover") << (enabled | int(QStyle::State_MouseOver)) << 1 << p.backstageBlueBorderHoverColor();
+    QTest::newRow("open") << (enabled | int(QStyle::State_On)) << 2 << p.frameBorderColor();
+    QTest::newRow("disabled") << int(QStyle::State_None) << 3 << p.separatorColor();
 }
 
 void TestRibbonQStyle::comboBoxRows()
 {
     QFETCH(int, state);
     QFETCH(int, row);
+    QFETCH(QColor, flatOutline);
     const QPixmap &sheet = appPalette().comboBox();
     QComboBox combo;
     QStyleOptionComboBox option;
     option.initFrom(&combo);
     option.rect = QRect(0, 0, 120, 22);
     option.state = QStyle::State(state);
-    const QImage image = drawComplex(m_style.data(), QStyle::CC_ComboBox, option, &combo);
-    // Left edge and inside of the frame come from the state's row of the sheet.
+    // Left edge and inside of the frame come from the state's row of the sheet ...
+    QImage image = drawComplex(m_style.data(), QStyle::CC_ComboBox, option, &combo);
     QCOMPARE(image.pixel(0, 11), sheetPixel(sheet, 0, 22 * row + 11));
     QCOMPARE(image.pixel(40, 11), sheetPixel(sheet, 20, 22 * row + 11));
-}
-
-void TestRibbonQStyle::comboBoxFallback_data()
-{
-    QTest::addColumn<int>("state");
-    QTest::addColumn<QColor>("outline");
-    const int enabled = QStyle::State_Enabled;
-    const FlatPalette p;
-    QTest::newRow("normal") << enabled << p.backstageGrayBorderColor();
-    QTest::newRow("hover") << (enabled | int(QStyle::State_MouseOver)) << p.backstageBlueBorderHoverColor();
-    QTest::newRow("open") << (enabled | int(QStyle::State_On)) << p.frameBorderColor();
-    QTest::newRow("disabled") << int(QStyle::State_None) << p.separatorColor();
-}
-
-void TestRibbonQStyle::comboBoxFallback()
-{
-    QFETCH(int, state);
-    QFETCH(QColor, outline);
-    QComboBox combo;
-    QStyleOptionComboBox option;
-    option.initFrom(&combo);
-    option.rect = QRect(0, 0, 120, 22);
-    option.state = QStyle::State(state);
-    const QImage image = drawComplex(m_flatStyle.data(), QStyle::CC_ComboBox, option, &combo);
-    QCOMPARE(image.pixel(0, 11), outline.rgb());
-    QCOMPARE(image.pixel(119, 11), outline.rgb());
+    // ... or, without images, the outline from the state's colour.
+    image = drawComplex(m_flatStyle.data(), QStyle::CC_ComboBox, option, &combo);
+    QCOMPARE(image.pixel(0, 11), flatOutline.rgb());
+    QCOMPARE(image.pixel(119, 11), flatOutline.rgb());
 }
 
 void TestRibbonQStyle::spinBoxButtons()
@@ -425,25 +403,23 @@ void TestRibbonQStyle::scrollBarThumb()
 
 void TestRibbonQStyle::toolTipPanel()
 {
-    const QPixmap &sheet = appPalette().tooltipBack();
     QStyleOption option;
     option.rect = QRect(0, 0, 60, 20);
     option.state = QStyle::State_Enabled;
-    for (RibbonQStyle *style : {m_style.data(), m_flatStyle.data()}) {
+    const auto paint = [&](RibbonQStyle *style) {
         QImage image(option.rect.size(), QImage::Format_RGB32);
         image.fill(Qt::black);
-        {
-            QPainter painter(&image);
-            style->drawPrimitive(QStyle::PE_PanelTipLabel, &option, &painter);
-        }
-        if (style == m_style.data()) {
-            QCOMPARE(image.pixel(0, 10), sheetPixel(sheet, 0, 3));
-            QCOMPARE(image.pixel(30, 10), sheetPixel(sheet, 3, 3));
-        } else {
-            QCOMPARE(image.pixel(0, 10), m_flat->backstageGrayBorderColor().rgb());
-            QCOMPARE(image.pixel(30, 10), m_flat->mainMenuBgColor().rgb());
-        }
-    }
+        QPainter painter(&image);
+        style->drawPrimitive(QStyle::PE_PanelTipLabel, &option, &painter);
+        return image;
+    };
+    const QPixmap &sheet = appPalette().tooltipBack();
+    QImage image = paint(m_style.data());
+    QCOMPARE(image.pixel(0, 10), sheetPixel(sheet, 0, 3));
+    QCOMPARE(image.pixel(30, 10), sheetPixel(sheet, 3, 3));
+    image = paint(m_flatStyle.data());
+    QCOMPARE(image.pixel(0, 10), m_flat->backstageGrayBorderColor().rgb());
+    QCOMPARE(image.pixel(30, 10), m_flat->mainMenuBgColor().rgb());
 }
 
 void TestRibbonQStyle::tabShapes()
@@ -481,19 +457,15 @@ void TestRibbonQStyle::toolBoxTabs()
     const QPixmap &sheet = appPalette().toolBoxTabBack();
     QStyleOptionToolBox option;
     option.rect = QRect(0, 0, 100, 24);
-    const QList<QPair<QStyle::State, int>> states = {
-        {QStyle::State_Enabled, 0},
-        {QStyle::State_Enabled | QStyle::State_MouseOver, 1},
-        {QStyle::State_Enabled | QStyle::State_Selected, 2},
-    };
-    for (const auto &state : states) {
-        option.state = state.first;
+    // Rows of 24: normal, hovered, current.
+    int row = 0;
+    for (QStyle::State state : {QStyle::State(QStyle::State_Enabled), QStyle::State_Enabled | QStyle::State_MouseOver,
+                                QStyle::State_Enabled | QStyle::State_Selected}) {
+        option.state = state;
         QImage image(option.rect.size(), QImage::Format_RGB32);
-        {
-            QPainter painter(&image);
-            m_style->drawControl(QStyle::CE_ToolBoxTabShape, &option, &painter);
-        }
-        QCOMPARE(image.pixel(50, 12), sheetPixel(sheet, 20, 24 * state.second + 12));
+        QPainter painter(&image);
+        m_style->drawControl(QStyle::CE_ToolBoxTabShape, &option, &painter);
+        QCOMPARE(image.pixel(50, 12), sheetPixel(sheet, 20, 24 * row++ + 12));
     }
 }
 
