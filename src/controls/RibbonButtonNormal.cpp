@@ -1,9 +1,7 @@
 #include "RibbonButtonNormal.h"
 
 #include "RibbonAction.h"
-#include "RibbonApplication.h"
 #include "RibbonPaint_p.h"
-#include "RibbonStyle.h"
 
 #include <QActionEvent>
 #include <QPainter>
@@ -70,13 +68,7 @@ void RibbonButtonNormal::leaveEvent(QEvent *event)
 void RibbonButtonNormal::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    const int state = RibbonPaint::smallButtonRow(*this);
-    if (state >= 0) {
-        const QPixmap &sheet = RibbonApplication::theApp().ribbonStyle().normalButtonSmall();
-        d->background.set(rect(), QRect(0, 0, sheet.width(), RibbonPaint::SmallRowHeight),
-                          QMargins(2, 2, 2, 2));
-        d->background.draw(painter, sheet, state * RibbonPaint::SmallRowHeight);
-    }
+    RibbonPaint::drawSmallButtonBackground(painter, *this, d->background);
     if (icon().isNull())
         return;
     const int extent = qMin(width() - 4, height() - 4);

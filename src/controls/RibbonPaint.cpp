@@ -73,6 +73,17 @@ int smallButtonRow(const QAbstractButton &button)
     return button.underMouse() ? 1 : -1;
 }
 
+void drawSmallButtonBackground(QPainter &painter, const QAbstractButton &button,
+                               RibbonSlices &slices)
+{
+    const int state = smallButtonRow(button);
+    if (state < 0)
+        return;
+    const QPixmap &sheet = RibbonApplication::theApp().ribbonStyle().normalButtonSmall();
+    slices.set(button.rect(), QRect(0, 0, sheet.width(), SmallRowHeight), QMargins(2, 2, 2, 2));
+    slices.draw(painter, sheet, state * SmallRowHeight);
+}
+
 QPixmap iconPixmap(const QIcon &icon, int extent, bool enabled)
 {
     if (icon.isNull())

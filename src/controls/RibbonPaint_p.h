@@ -57,6 +57,11 @@ const int SmallRowHeight = 22;
 // Row of normalButtonSmall for a small tool button's state, -1 for no background.
 int smallButtonRow(const QAbstractButton &button);
 
+// Paints a small tool button's state background (its normalButtonSmall row, nothing when
+// the state has none) over the whole button; slices keeps the geometry between paints.
+void drawSmallButtonBackground(QPainter &painter, const QAbstractButton &button,
+                               RibbonSlices &slices);
+
 // A pixmap of at most extent x extent pixels in the mode of the enabled state.
 QPixmap iconPixmap(const QIcon &icon, int extent, bool enabled);
 

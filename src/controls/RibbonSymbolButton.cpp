@@ -66,13 +66,7 @@ void RibbonSymbolButton::mouseMoveEvent(QMouseEvent *event)
 void RibbonSymbolButton::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    const int state = RibbonPaint::smallButtonRow(*this);
-    if (state >= 0) {
-        const QPixmap &sheet = RibbonApplication::theApp().ribbonStyle().normalButtonSmall();
-        d->background.set(rect(), QRect(0, 0, sheet.width(), RibbonPaint::SmallRowHeight),
-                          QMargins(2, 2, 2, 2));
-        d->background.draw(painter, sheet, state * RibbonPaint::SmallRowHeight);
-    }
+    RibbonPaint::drawSmallButtonBackground(painter, *this, d->background);
     const QColor color = RibbonPaint::textColor(isEnabled());
     painter.setPen(color);
     painter.setBrush(color);
