@@ -512,6 +512,36 @@ void RibbonCatMenuButtonBPriv::paintEvent(QPaintEvent *event)
         paintRow(painter);
 }
 
+void RibbonCatMenuButtonBPriv::splitButtonStates(int &captionState, int &arrowState) const
+{
+    RibbonCatMenuAction *action = owner.action();
+    const RibbonAction *defaultAction = action->defaultAction();
+    const bool hover = action->isEnabled() && isHovered();
+    const bool hoverCaption = hover && onCaption(owner.mapFromGlobal(QCursor::pos()));
+    const bool hoverArrow = hover && !hoverCaption;
+    const bool checkMark = action->toBeToggled() && action->drawCheckedMarker();
+
+    captionState = NoState;
+    if ((hover || menuPressed) && !defaultAction->isEnabled())
+        captionState = 4;
+    else if (captionPressed)
+        captionState = 1;
+    else if (hoverCaption)
+        captionState = checkMark ? 3 : 0;
+    else if (menuPressed || hover)
+        captionState = checkMark ? 1 : 5;
+    else if (checkMark)
+        captionState = 1;
+
+    arrowState = NoState;
+    if (menuPressed)
+        arrowState = 2;
+    else if (hoverArrow)
+        arrowState = 0;
+    else if (captionPressed || hover)
+        arrowState = 4;
+}
+
 void RibbonCatMenuButtonBPriv::paintRow(QPainter &painter)
 {
     RibbonCatMenuAction *action = owner.action();
@@ -530,28 +560,7 @@ void RibbonCatMenuButtonBPriv::paintRow(QPainter &painter)
     int captionState = NoState;
     int arrowState = NoState;
     if (defaultAction) {
-        const QPoint cursor = owner.mapFromGlobal(QCursor::pos());
-        const bool hoverCaption = hover && cursor.x() < w - ArrowWidth;
-        const bool hoverArrow = hover && !hoverCaption;
-        const bool checkMark = action->toBeToggled() && action->drawCheckedMarker();
-        if ((hover || menuPressed) && !defaultAction->isEnabled())
-            captionState = 4;
-        else if (captionPressed)
-            captionState = 1;
-        else if (hoverCaption)
-            captionState = checkMark ? 3 : 0;
-        else if (menuPressed || hover)
-            captionState = checkMark ? 1 : 5;
-        else if (checkMark)
-            captionState = 1;
-
-        if (menuPressed)
-            arrowState = 2;
-        else if (hoverArrow)
-            arrowState = 0;
-        else if (captionPressed || hover)
-            arrowState = 4;
-
+        splitButtonStates(captionState, arrowState);
         if (enabled) {
             // Caption: 2-pixel left cap, stretched centre, 1-pixel right cap; the arrow
             // part keeps its width.
@@ -618,30 +627,9 @@ void RibbonCatMenuButtonBPriv::paintLarge(QPainter &painter)
     const int captionHeight = scaled(LargeCaptionHeight);
 
     if (defaultAction) {
-        const QPoint cursor = owner.mapFromGlobal(QCursor::pos());
-        const bool hoverCaption = hover && cursor.y() < scaled(LargeCaptionHit);
-        const bool hoverArrow = hover && !hoverCaption;
-        const bool checkMark = action->toBeToggled() && action->drawCheckedMarker();
         int captionState = NoState;
         int arrowState = NoState;
-        if ((hover || menuPressed) && !defaultAction->isEnabled())
-            captionState = 4;
-        else if (captionPressed)
-            captionState = 1;
-        else if (hoverCaption)
-            captionState = checkMark ? 3 : 0;
-        else if (menuPressed || hover)
-            captionState = checkMark ? 1 : 5;
-        else if (checkMark)
-            captionState = 1;
-
-        if (menuPressed)
-            arrowState = 2;
-        else if (hoverArrow)
-            arrowState = 0;
-        else if (captionPressed || hover)
-            arrowState = 4;
-
+        splitButtonStates(captionState, arrowState);
         if (enabled) {
             if (captionState != NoState)
                 drawVerticalRow(painter, captionImage, LargeCaptionHeight * captionState,

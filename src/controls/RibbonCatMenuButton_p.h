@@ -83,6 +83,9 @@ private:
     QWidget *openViewPopup();
     QWidget *openPalettePopup();
     void watchPopup(QWidget *popup);
+    // Sprite rows of a split button's caption and arrow parts from the hover and press
+    // state (NoState: the part is not drawn). Only for a button with a default action.
+    void splitButtonStates(int &captionState, int &arrowState) const;
     void paintLarge(QPainter &painter);
     void paintRow(QPainter &painter);
 
