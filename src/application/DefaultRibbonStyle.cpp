@@ -2,6 +2,8 @@
 
 #include "RibbonApplication.h"
 
+#include <initializer_list>
+
 namespace zel {
 
 namespace {
@@ -31,6 +33,36 @@ QString rowHeightText(double pixelsAt96Dpi)
     return QString::number(RibbonApplication::theApp().dpiFactor().second * pixelsAt96Dpi);
 }
 
+// A small triangle drawn with borders, the only way a style sheet can draw one: one
+// rule per state (appended to selector), all alike.
+enum ArrowDirection { ArrowLeft, ArrowRight, ArrowUp, ArrowDown };
+
+QString arrowRules(const char *selector, ArrowDirection direction, const QString &color,
+                   std::initializer_list<const char *> states = {"", ":hover", ":pressed"})
+{
+    const QLatin1String solid("4px solid ");
+    const QLatin1String clear("4px solid none");
+    QString borders;
+    switch (direction) {
+    case ArrowLeft:
+        borders = QLatin1String("border-right: ") + solid + color + QLatin1String("; border-top: ") + clear + QLatin1String("; border-bottom: ") + clear;
+        break;
+    case ArrowRight:
+        borders = QLatin1String("border-left: ") + solid + color + QLatin1String("; border-top: ") + clear + QLatin1String("; border-bottom: ") + clear;
+        break;
+    case ArrowUp:
+        borders = QLatin1String("border-left: ") + clear + QLatin1String("; border-right: ") + clear + QLatin1String("; border-bottom: ") + solid + color;
+        break;
+    case ArrowDown:
+        borders = QLatin1String("border-left: ") + clear + QLatin1String("; border-right: ") + clear + QLatin1String("; border-top: ") + solid + color;
+        break;
+    }
+    QString sheet;
+    for (const char *state : states)
+        sheet += QLatin1String(selector) + QLatin1String(state) + QLatin1String(" { ") + borders + QLatin1String("; width: 0px; height: 0px; }");
+    return sheet;
+}
+
 QString greyScrollBarSheet(const SheetColors &c)
 {
     QString sheet;
@@ -44,12 +76,8 @@ QString greyScrollBarSheet(const SheetColors &c)
     sheet += QLatin1String("QScrollBar::sub-line:horizontal { border: 1px solid; border-color: ") + c.grayHover + QLatin1String("; background-color: white; width: 15px; subcontrol-position: left; subcontrol-origin: margin; }");
     sheet += QLatin1String("QScrollBar::sub-line:horizontal:hover { border-color: ") + c.grayPressed + QLatin1String("; background-color: white; }");
     sheet += QLatin1String("QScrollBar::sub-line:horizontal:pressed { border-color: ") + c.grayPressed + QLatin1String("; background-color: ") + c.handleHover + QLatin1String("; }");
-    sheet += QLatin1String("QScrollBar::left-arrow { border-right: 4px solid ") + c.grayPressed + QLatin1String("; border-top: 4px solid none; border-bottom: 4px solid none; width: 0px; height: 0px; }");
-    sheet += QLatin1String("QScrollBar::left-arrow:hover { border-right: 4px solid ") + c.grayPressed + QLatin1String("; border-top: 4px solid none; border-bottom: 4px solid none; width: 0px; height: 0px; }");
-    sheet += QLatin1String("QScrollBar::left-arrow:pressed { border-right: 4px solid ") + c.grayPressed + QLatin1String("; border-top: 4px solid none; border-bottom: 4px solid none; width: 0px; height: 0px; }");
-    sheet += QLatin1String("QScrollBar::right-arrow { border-left: 4px solid ") + c.grayPressed + QLatin1String("; border-top: 4px solid none; border-bottom: 4px solid none; width: 0px; height: 0px; }");
-    sheet += QLatin1String("QScrollBar::right-arrow:hover { border-left: 4px solid ") + c.grayPressed + QLatin1String("; border-top: 4px solid none; border-bottom: 4px solid none; width: 0px; height: 0px; }");
-    sheet += QLatin1String("QScrollBar::right-arrow:pressed { border-left: 4px solid ") + c.grayPressed + QLatin1String("; border-top: 4px solid none; border-bottom: 4px solid none; width: 0px; height: 0px; }");
+    sheet += arrowRules("QScrollBar::left-arrow", ArrowLeft, c.grayPressed);
+    sheet += arrowRules("QScrollBar::right-arrow", ArrowRight, c.grayPressed);
     sheet += QLatin1String("QScrollBar::add-page:horizontal, QScrollBar::sub-page:horizontal { background: none; }");
     sheet += QLatin1String("QScrollBar:vertical { background-color: ") + c.groove + QLatin1String("; width: 15px; margin: 15px 0px 15px 0px; }");
     sheet += QLatin1String("QScrollBar::handle:vertical { border: 1px solid; border-color: ") + c.grayHover + QLatin1String("; background-color: white; min-height: 15px; }");
@@ -61,12 +89,8 @@ QString greyScrollBarSheet(const SheetColors &c)
     sheet += QLatin1String("QScrollBar::sub-line:vertical { border: 1px solid; border-color: ") + c.grayHover + QLatin1String("; background-color: white; height: 15px; subcontrol-position: top; subcontrol-origin: margin; }");
     sheet += QLatin1String("QScrollBar::sub-line:vertical:hover { border-color: ") + c.grayPressed + QLatin1String("; background-color: white; }");
     sheet += QLatin1String("QScrollBar::sub-line:vertical:pressed { border-color: ") + c.grayPressed + QLatin1String("; background-color: ") + c.handleHover + QLatin1String("; }");
-    sheet += QLatin1String("QScrollBar::up-arrow { border-left: 4px solid none; border-right: 4px solid none; border-bottom: 4px solid ") + c.grayPressed + QLatin1String("; width: 0px; height: 0px; }");
-    sheet += QLatin1String("QScrollBar::up-arrow:hover { border-left: 4px solid none; border-right: 4px solid none; border-bottom: 4px solid ") + c.grayPressed + QLatin1String("; width: 0px; height: 0px; }");
-    sheet += QLatin1String("QScrollBar::up-arrow:pressed { border-left: 4px solid none; border-right: 4px solid none; border-bottom: 4px solid ") + c.grayPressed + QLatin1String("; width: 0px; height: 0px; }");
-    sheet += QLatin1String("QScrollBar::down-arrow { border-left: 4px solid none; border-right: 4px solid none; border-top: 4px solid ") + c.grayPressed + QLatin1String("; width: 0px; height: 0px; }");
-    sheet += QLatin1String("QScrollBar::down-arrow:hover { border-left: 4px solid none; border-right: 4px solid none; border-top: 4px solid ") + c.grayPressed + QLatin1String("; width: 0px; height: 0px; }");
-    sheet += QLatin1String("QScrollBar::down-arrow:pressed { border-left: 4px solid none; border-right: 4px solid none; border-top: 4px solid ") + c.grayPressed + QLatin1String("; width: 0px; height: 0px; }");
+    sheet += arrowRules("QScrollBar::up-arrow", ArrowUp, c.grayPressed);
+    sheet += arrowRules("QScrollBar::down-arrow", ArrowDown, c.grayPressed);
     sheet += QLatin1String("QScrollBar::add-page:vertical, QScrollBar::sub-page:vertical { background: none; }");
     return sheet;
 }
@@ -84,12 +108,8 @@ QString blueScrollBarSheet(const SheetColors &c)
     sheet += QLatin1String("QScrollBar::sub-line:vertical { border: 1px solid; border-color: white; background-color: ") + c.accent + QLatin1String("; height: 15px; subcontrol-position: top; subcontrol-origin: margin; }");
     sheet += QLatin1String("QScrollBar::sub-line:vertical:hover { border-color: white; background-color: ") + c.accent + QLatin1String("; }");
     sheet += QLatin1String("QScrollBar::sub-line:vertical:pressed { border-color: white; background-color: ") + c.accent + QLatin1String("; }");
-    sheet += QLatin1String("QScrollBar::up-arrow { border-left: 4px solid none; border-right: 4px solid none; border-bottom: 4px solid white; width: 0px; height: 0px; }");
-    sheet += QLatin1String("QScrollBar::up-arrow:hover { border-left: 4px solid none; border-right: 4px solid none; border-bottom: 4px solid white; width: 0px; height: 0px; }");
-    sheet += QLatin1String("QScrollBar::up-arrow:pressed { border-left: 4px solid none; border-right: 4px solid none; border-bottom: 4px solid white; width: 0px; height: 0px; }");
-    sheet += QLatin1String("QScrollBar::down-arrow { border-left: 4px solid none; border-right: 4px solid none; border-top: 4px solid white; width: 0px; height: 0px; }");
-    sheet += QLatin1String("QScrollBar::down-arrow:hover { border-left: 4px solid none; border-right: 4px solid none; border-top: 4px solid white; width: 0px; height: 0px; }");
-    sheet += QLatin1String("QScrollBar::down-arrow:pressed { border-left: 4px solid none; border-right: 4px solid none; border-top: 4px solid white; width: 0px; height: 0px; }");
+    sheet += arrowRules("QScrollBar::up-arrow", ArrowUp, QStringLiteral("white"));
+    sheet += arrowRules("QScrollBar::down-arrow", ArrowDown, QStringLiteral("white"));
     sheet += QLatin1String("QScrollBar::add-page:vertical, QScrollBar::sub-page:vertical { background: none; }");
     return sheet;
 }
@@ -116,15 +136,11 @@ QString spinBoxSheet(const SheetColors &c)
     QString sheet;
     sheet += QLatin1String("QSpinBox { border: 1px solid; border-color: ") + c.grayBorder + QLatin1String("; background-color: white; }");
     sheet += QLatin1String("QSpinBox:hover { border-color: ") + c.blueBorder + QLatin1String("; }");
-    sheet += QLatin1String("QSpinBox::up-arrow { border-left: 4px solid none; border-right: 4px solid none; border-bottom: 4px solid ") + c.grayPressed + QLatin1String("; width: 0px; height: 0px; }");
-    sheet += QLatin1String("QSpinBox::up-arrow:hover { border-left: 4px solid none; border-right: 4px solid none; border-bottom: 4px solid ") + c.grayPressed + QLatin1String("; width: 0px; height: 0px; }");
-    sheet += QLatin1String("QSpinBox::up-arrow:pressed { border-left: 4px solid none; border-right: 4px solid none; border-bottom: 4px solid ") + c.grayPressed + QLatin1String("; width: 0px; height: 0px; }");
+    sheet += arrowRules("QSpinBox::up-arrow", ArrowUp, c.grayPressed);
     sheet += QLatin1String("QSpinBox::up-button { width: 16px; background-color: white; }");
     sheet += QLatin1String("QSpinBox::up-button:hover { border-left: 1px solid; border-bottom: 1px solid; border-color: ") + c.blueBorder + QLatin1String("; width: 15px; height: 10px; background-color: ") + c.blueHover + QLatin1String("; }");
     sheet += QLatin1String("QSpinBox::up-button:pressed { border-left: 1px solid; border-bottom: 1px solid; border-color: ") + c.blueBorder + QLatin1String("; width: 15px; height: 10px; background-color: ") + c.bluePressed + QLatin1String("; }");
-    sheet += QLatin1String("QSpinBox::down-arrow { border-left: 4px solid none; border-right: 4px solid none; border-top: 4px solid ") + c.grayPressed + QLatin1String("; width: 0px; height: 0px; }");
-    sheet += QLatin1String("QSpinBox::down-arrow:hover { border-left: 4px solid none; border-right: 4px solid none; border-top: 4px solid ") + c.grayPressed + QLatin1String("; width: 0px; height: 0px; }");
-    sheet += QLatin1String("QSpinBox::down-arrow:pressed { border-left: 4px solid none; border-right: 4px solid none; border-top: 4px solid ") + c.grayPressed + QLatin1String("; width: 0px; height: 0px; }");
+    sheet += arrowRules("QSpinBox::down-arrow", ArrowDown, c.grayPressed);
     sheet += QLatin1String("QSpinBox::down-button { width: 16px; background-color: white; }");
     sheet += QLatin1String("QSpinBox::down-button:hover { border-left: 1px solid; border-top: 1px solid; border-color: ") + c.blueBorder + QLatin1String("; width: 15px; height: 10px; background-color: ") + c.blueHover + QLatin1String("; }");
     sheet += QLatin1String("QSpinBox::down-button:pressed { border-left: 1px solid; border-top: 1px solid; border-color: ") + c.blueBorder + QLatin1String("; width: 15px; height: 10px; background-color: ") + c.bluePressed + QLatin1String("; }");
@@ -136,8 +152,7 @@ QString dateEditSheet(const SheetColors &c)
     QString sheet;
     sheet += QLatin1String("QDateEdit { border: 1px solid; border-color: ") + c.grayBorder + QLatin1String("; background-color: white; }");
     sheet += QLatin1String("QDateEdit:focus { border-color: ") + c.blueBorder + QLatin1String("; }");
-    sheet += QLatin1String("QDateEdit::down-arrow { border-left: 4px solid none; border-right: 4px solid none; border-top: 4px solid ") + c.text + QLatin1String("; width: 0px; height: 0px; }");
-    sheet += QLatin1String("QDateEdit::down-arrow:focus { border-left: 4px solid none; border-right: 4px solid none; border-top: 4px solid ") + c.text + QLatin1String("; width: 0px; height: 0px; }");
+    sheet += arrowRules("QDateEdit::down-arrow", ArrowDown, c.text, {"", ":focus"});
     sheet += QLatin1String("QDateEdit::drop-down { background-color: white; }");
     return sheet;
 }
@@ -167,9 +182,7 @@ QString comboBoxRules(const SheetColors &c)
     sheet += QLatin1String("QComboBox:hover { border-color: ") + c.blueBorder + QLatin1String("; background-color: ") + c.blueHover + QLatin1String("; }");
     sheet += QLatin1String("QComboBox:pressed { border-color: ") + c.blueBorder + QLatin1String("; background-color: ") + c.bluePressed + QLatin1String("; }");
     sheet += QLatin1String("QComboBox::drop-down { border-width: 0px; }");
-    sheet += QLatin1String("QComboBox::down-arrow { border-left: 4px solid none; border-right: 4px solid none; border-top: 4px solid ") + c.text + QLatin1String("; width: 0px; height: 0px; }");
-    sheet += QLatin1String("QComboBox::down-arrow::hover { border-left: 4px solid none; border-right: 4px solid none; border-top: 4px solid ") + c.text + QLatin1String("; width: 0px; height: 0px; }");
-    sheet += QLatin1String("QComboBox::down-arrow::pressed { border-left: 4px solid none; border-right: 4px solid none; border-top: 4px solid ") + c.text + QLatin1String("; width: 0px; height: 0px; }");
+    sheet += arrowRules("QComboBox::down-arrow", ArrowDown, c.text, {"", "::hover", "::pressed"});
     sheet += QLatin1String("QComboBox QAbstractItemView { font: 9pt \"Segoe UI\"; color: ") + c.text + QLatin1String("; outline: 0px; border: 1px solid ") + c.grayBorder + QLatin1String(";selection-color: ") + c.text + QLatin1String("; selection-background-color: ") + c.blueHover + QLatin1String("; }");
     sheet += QLatin1String("QComboBox QAbstractItemView::item { border: 1px solid white; }");
     return sheet;
