@@ -125,8 +125,6 @@ private slots:
     void styleSheets();
     void fonts_data();
     void fonts();
-    void welcomePressedColorIsBluePressed();
-    void ribbonStyleKind();
     void compiledInImages_data();
     void compiledInImages();
     void imagesLoadFromGivenDirectory();
@@ -134,8 +132,8 @@ private slots:
 
     void symbolsOutsideRangePaintNothing_data();
     void symbolsOutsideRangePaintNothing();
-    void symbolFirstInWideRect();
-    void symbolLastInWideRect();
+    void firstAndLastSymbols_data();
+    void firstAndLastSymbols();
     void arrowSymbols_data();
     void arrowSymbols();
     void symbolBarArrowDown();
@@ -161,6 +159,11 @@ void TestRibbonStyle::paletteIsSharedAndTyped()
     QVERIFY(qobject_cast<const DefaultRibbonStyle *>(&first));
     QCOMPARE(first.metaObject()->className(), "zel::DefaultRibbonStyle");
     QCOMPARE(RibbonStyle::staticMetaObject.className(), "zel::RibbonStyle");
+    QCOMPARE(int(RibbonApplication::theApp().getRibbonStyle()), 1);
+    // The welcome page's pressed colour is the blue pressed colour itself, not a copy.
+    QCOMPARE(&first.backstageWelcomeBluePressedColor(), &first.backstageBluePressedColor());
+    QCOMPARE(first.backstageWelcomeBluePressedColor(), QColor(163, 189, 227));
+    QVERIFY(!first.toolBarFillColor().isValid());
 }
 
 void TestRibbonStyle::emptyBasePalette()
@@ -201,28 +204,19 @@ void TestRibbonStyle::colors_data()
     QTest::addColumn<QColor>("expected");
 
     const RibbonStyle &s = RibbonApplication::theApp().ribbonStyle();
-    QTest::newRow("mainClientColor") << s.mainClientColor() << QColor(240, 240, 240);
-    QTest::newRow("mainMenuBgColor") << s.mainMenuBgColor() << QColor(250, 250, 250);
-    QTest::newRow("activeTextColor") << s.activeTextColor() << QColor(92, 98, 106);
-    QTest::newRow("activeTitleTextColor") << s.activeTitleTextColor() << QColor(53, 110, 170);
-    QTest::newRow("highlightedCategoryTextColor") << s.highlightedCategoryTextColor() << QColor(76, 83, 92);
-    QTest::newRow("disabledCategoryTextColor") << s.disabledCategoryTextColor() << QColor(167, 167, 167);
-    QTest::newRow("categoryCaptionTextColor") << s.categoryCaptionTextColor() << QColor(83, 84, 89);
-    QTest::newRow("frameOutlineColor") << s.frameOutlineColor() << QColor(0x82, 0x87, 0x90);
-    QTest::newRow("frameBorderColor") << s.frameBorderColor() << QColor(0x2b, 0x57, 0x9a);
-    QTest::newRow("frameHighlightedFillColor") << s.frameHighlightedFillColor() << QColor(240, 241, 242);
-    QTest::newRow("frameSunkenColor") << s.frameSunkenColor() << QColor(37, 37, 37);
-    QTest::newRow("frameRaiseColor") << s.frameRaiseColor() << QColor(204, 204, 204);
-    QTest::newRow("fileMenuBarTextColor") << s.fileMenuBarTextColor() << QColor(255, 255, 255);
-    QTest::newRow("separatorColor") << s.separatorColor() << QColor(229, 229, 229);
-    QTest::newRow("statusBarTextColor") << s.statusBarTextColor() << QColor(Qt::white);
-    QTest::newRow("categoryColorUnderButton") << s.categoryColorUnderButton() << QColor(250, 250, 250);
-    QTest::newRow("backstageSimpleButtonColor") << s.backstageSimpleButtonColor() << QColor(253, 253, 253);
-    QTest::newRow("backstageGrayBorderPressedColor") << s.backstageGrayBorderPressedColor() << QColor(118, 118, 118);
-    QTest::newRow("backstageBlueBorderPressedColor") << s.backstageBlueBorderPressedColor() << QColor(122, 176, 231);
-    QTest::newRow("backstageBlueHoverColor") << s.backstageBlueHoverColor() << QColor(213, 225, 242);
-    QTest::newRow("backstageSeparatorColor") << s.backstageSeparatorColor() << QColor(225, 225, 225);
-    QTest::newRow("backstagePrintPreviewBorderColor") << s.backstagePrintPreviewBorderColor() << QColor(192, 192, 192);
+#define COLOR(name, ...) QTest::newRow(#name) << s.name() << QColor(__VA_ARGS__)
+    COLOR(mainClientColor, 240, 240, 240); COLOR(mainMenuBgColor, 250, 250, 250); COLOR(activeTextColor, 92, 98, 106);
+    COLOR(activeTitleTextColor, 53, 110, 170); COLOR(highlightedCategoryTextColor, 76, 83, 92);
+    COLOR(disabledCategoryTextColor, 167, 167, 167); COLOR(categoryCaptionTextColor, 83, 84, 89);
+    COLOR(frameOutlineColor, 0x82, 0x87, 0x90); COLOR(frameBorderColor, 0x2b, 0x57, 0x9a);
+    COLOR(frameHighlightedFillColor, 240, 241, 242); COLOR(frameSunkenColor, 37, 37, 37);
+    COLOR(frameRaiseColor, 204, 204, 204); COLOR(fileMenuBarTextColor, 255, 255, 255);
+    COLOR(separatorColor, 229, 229, 229); COLOR(statusBarTextColor, Qt::white);
+    COLOR(categoryColorUnderButton, 250, 250, 250); COLOR(backstageSimpleButtonColor, 253, 253, 253);
+    COLOR(backstageGrayBorderPressedColor, 118, 118, 118); COLOR(backstageBlueBorderPressedColor, 122, 176, 231);
+    COLOR(backstageBlueHoverColor, 213, 225, 242); COLOR(backstageSeparatorColor, 225, 225, 225);
+    COLOR(backstagePrintPreviewBorderColor, 192, 192, 192);
+#undef COLOR
 }
 
 void TestRibbonStyle::colors()
@@ -349,77 +343,32 @@ void TestRibbonStyle::fonts()
     QVERIFY(!font.italic());
 }
 
-void TestRibbonStyle::welcomePressedColorIsBluePressed()
-{
-    const RibbonStyle &s = RibbonApplication::theApp().ribbonStyle();
-    QCOMPARE(&s.backstageWelcomeBluePressedColor(), &s.backstageBluePressedColor());
-    QCOMPARE(s.backstageWelcomeBluePressedColor(), QColor(163, 189, 227));
-    QVERIFY(!s.toolBarFillColor().isValid());
-}
-
-void TestRibbonStyle::ribbonStyleKind()
-{
-    QCOMPARE(int(RibbonApplication::theApp().getRibbonStyle()), 1);
-}
-
 void TestRibbonStyle::compiledInImages_data()
 {
     QTest::addColumn<bool>("isNull");
     QTest::addColumn<bool>("expectNull");
 
-    // Every image entry of the default palette; the palette-button images are not
-    // compiled in and stay null.
+    // Every image entry of the default palette; the palette-button images are not compiled in.
     const RibbonStyle &s = RibbonApplication::theApp().ribbonStyle();
-    QTest::newRow("mainBorder") << s.mainBorder().isNull() << false;
-    QTest::newRow("mainBorderCaption") << s.mainBorderCaption().isNull() << false;
-    QTest::newRow("statusBar") << s.statusBar().isNull() << false;
-    QTest::newRow("sysBtnBack") << s.sysBtnBack().isNull() << false;
-    QTest::newRow("toolBoxTabBack") << s.toolBoxTabBack().isNull() << false;
-    QTest::newRow("sysBtnClose") << s.sysBtnClose().isNull() << false;
-    QTest::newRow("sysBtnCloseSmall") << s.sysBtnCloseSmall().isNull() << false;
-    QTest::newRow("sysBtnMaximize") << s.sysBtnMaximize().isNull() << false;
-    QTest::newRow("sysBtnMaximizeSmall") << s.sysBtnMaximizeSmall().isNull() << false;
-    QTest::newRow("sysBtnMinimize") << s.sysBtnMinimize().isNull() << false;
-    QTest::newRow("sysBtnMinimizeSmall") << s.sysBtnMinimizeSmall().isNull() << false;
-    QTest::newRow("sysBtnRestore") << s.sysBtnRestore().isNull() << false;
-    QTest::newRow("sysBtnRestoreSmall") << s.sysBtnRestoreSmall().isNull() << false;
-    QTest::newRow("normalButtonSmall") << s.normalButtonSmall().isNull() << false;
-    QTest::newRow("menuBarButton") << s.menuBarButton().isNull() << false;
-    QTest::newRow("fileBarButton") << s.fileBarButton().isNull() << false;
-    QTest::newRow("categories") << s.categories().isNull() << false;
-    QTest::newRow("categoryTop") << s.categoryTop().isNull() << false;
-    QTest::newRow("categoryBottom") << s.categoryBottom().isNull() << false;
-    QTest::newRow("categoryWrapperBack") << s.categoryWrapperBack().isNull() << false;
-    QTest::newRow("categoryWrapperIcon") << s.categoryWrapperIcon().isNull() << false;
-    QTest::newRow("mainPanelBack") << s.mainPanelBack().isNull() << false;
-    QTest::newRow("horizontalMenuButtonCaption") << s.horizontalMenuButtonCaption().isNull() << false;
-    QTest::newRow("horizontalMenuButtonMenu") << s.horizontalMenuButtonMenu().isNull() << false;
-    QTest::newRow("verticalMenuButtonCaption") << s.verticalMenuButtonCaption().isNull() << false;
-    QTest::newRow("verticalMenuButtonMenu") << s.verticalMenuButtonMenu().isNull() << false;
-    QTest::newRow("mainPanelBorder") << s.mainPanelBorder().isNull() << false;
-    QTest::newRow("mainPanelSeparator") << s.mainPanelSeparator().isNull() << false;
-    QTest::newRow("mainPanelButton") << s.mainPanelButton().isNull() << false;
-    QTest::newRow("paletteBtnTop") << s.paletteBtnTop().isNull() << true;
-    QTest::newRow("paletteBtnMiddle") << s.paletteBtnMiddle().isNull() << true;
-    QTest::newRow("paletteBtnBottom") << s.paletteBtnBottom().isNull() << true;
-    QTest::newRow("paletteItemLarge") << s.paletteItemLarge().isNull() << false;
-    QTest::newRow("paletteItemSmall") << s.paletteItemSmall().isNull() << false;
-    QTest::newRow("popupBorder") << s.popupBorder().isNull() << false;
-    QTest::newRow("popupResizeBarBack") << s.popupResizeBarBack().isNull() << false;
-    QTest::newRow("popupResizeBarIconB") << s.popupResizeBarIconB().isNull() << false;
-    QTest::newRow("popupResizeBarIconBR") << s.popupResizeBarIconBR().isNull() << false;
-    QTest::newRow("popupResizeBarIconTR") << s.popupResizeBarIconTR().isNull() << false;
-    QTest::newRow("checkableMenuItemBack") << s.checkableMenuItemBack().isNull() << false;
-    QTest::newRow("tabBarTabs") << s.tabBarTabs().isNull() << false;
-    QTest::newRow("sliderPlus") << s.sliderPlus().isNull() << false;
-    QTest::newRow("sliderMinus") << s.sliderMinus().isNull() << false;
-    QTest::newRow("sliderThumb") << s.sliderThumb().isNull() << false;
-    QTest::newRow("btnGroupFirst") << s.btnGroupFirst().isNull() << false;
-    QTest::newRow("btnGroupMidle") << s.btnGroupMidle().isNull() << false;
-    QTest::newRow("btnGroupLast") << s.btnGroupLast().isNull() << false;
-    QTest::newRow("comboBox") << s.comboBox().isNull() << false;
-    QTest::newRow("tabBarTabShape") << s.tabBarTabShape().isNull() << false;
-    QTest::newRow("tooltipBack") << s.tooltipBack().isNull() << false;
+#define IMAGE(name, expectNull) QTest::newRow(#name) << s.name().isNull() << expectNull
+    IMAGE(mainBorder, false); IMAGE(mainBorderCaption, false); IMAGE(statusBar, false);
+    IMAGE(sysBtnBack, false); IMAGE(toolBoxTabBack, false); IMAGE(sysBtnClose, false);
+    IMAGE(sysBtnCloseSmall, false); IMAGE(sysBtnMaximize, false); IMAGE(sysBtnMaximizeSmall, false);
+    IMAGE(sysBtnMinimize, false); IMAGE(sysBtnMinimizeSmall, false); IMAGE(sysBtnRestore, false);
+    IMAGE(sysBtnRestoreSmall, false); IMAGE(normalButtonSmall, false); IMAGE(menuBarButton, false);
+    IMAGE(fileBarButton, false); IMAGE(categories, false); IMAGE(categoryTop, false);
+    IMAGE(categoryBottom, false); IMAGE(categoryWrapperBack, false); IMAGE(categoryWrapperIcon, false);
+    IMAGE(mainPanelBack, false); IMAGE(horizontalMenuButtonCaption, false); IMAGE(horizontalMenuButtonMenu, false);
+    IMAGE(verticalMenuButtonCaption, false); IMAGE(verticalMenuButtonMenu, false); IMAGE(mainPanelBorder, false);
+    IMAGE(mainPanelSeparator, false); IMAGE(mainPanelButton, false); IMAGE(paletteBtnTop, true);
+    IMAGE(paletteBtnMiddle, true); IMAGE(paletteBtnBottom, true); IMAGE(paletteItemLarge, false);
+    IMAGE(paletteItemSmall, false); IMAGE(popupBorder, false); IMAGE(popupResizeBarBack, false);
+    IMAGE(popupResizeBarIconB, false); IMAGE(popupResizeBarIconBR, false); IMAGE(popupResizeBarIconTR, false);
+    IMAGE(checkableMenuItemBack, false); IMAGE(tabBarTabs, false); IMAGE(sliderPlus, false);
+    IMAGE(sliderMinus, false); IMAGE(sliderThumb, false); IMAGE(btnGroupFirst, false);
+    IMAGE(btnGroupMidle, false); IMAGE(btnGroupLast, false); IMAGE(comboBox, false);
+    IMAGE(tabBarTabShape, false); IMAGE(tooltipBack, false);
+#undef IMAGE
 }
 
 void TestRibbonStyle::compiledInImages()
@@ -481,38 +430,38 @@ void TestRibbonStyle::symbolsOutsideRangePaintNothing()
     QVERIFY(isBlank(paintSymbol(QSize(16, 16), QRect(0, 0, 16, 16), symbol)));
 }
 
-void TestRibbonStyle::symbolFirstInWideRect()
+void TestRibbonStyle::firstAndLastSymbols_data()
 {
-    // In 16 x 10 the symbol uses a 10 x 10 square centred at (7, 4), i.e. columns 3 to
-    // 12: the arrow fills its right half (8 to 12), the bar is the one column before it.
-    // Polygons are filled without their right and bottom edge pixels.
-    const QImage image = paintSymbol(QSize(16, 10), QRect(0, 0, 16, 10), SymbolFirst);
-    for (int y = 0; y < 10; ++y) {
-        for (int x = 0; x < 16; ++x) {
-            if (x < 7 || x > 12)
+    QTest::addColumn<int>("symbol");
+    QTest::addColumn<int>("left");
+    QTest::addColumn<int>("right");
+    QTest::addColumn<QPoint>("arrow");
+    QTest::addColumn<QPoint>("aboveSlant");
+
+    // In 16 x 10 the symbol uses a 10 x 10 square at columns 3 to 12; the bar is column 7,
+    // the arrow fills the half beside it. Polygons are filled without their right and bottom edges.
+    QTest::newRow("first") << int(SymbolFirst) << 7 << 12 << QPoint(10, 4) << QPoint(9, 0);
+    QTest::newRow("last") << int(SymbolLast) << 3 << 7 << QPoint(4, 4) << QPoint(5, 0);
+}
+
+void TestRibbonStyle::firstAndLastSymbols()
+{
+    QFETCH(int, symbol);
+    QFETCH(int, left);
+    QFETCH(int, right);
+    QFETCH(QPoint, arrow);
+    QFETCH(QPoint, aboveSlant);
+    const QImage image = paintSymbol(QSize(16, 10), QRect(0, 0, 16, 10), symbol);
+    for (int y = 0; y < 10; ++y)
+        for (int x = 0; x < 16; ++x)
+            if (x < left || x > right)
                 QVERIFY2(image.pixel(x, y) == kWhite, qPrintable(QStringLiteral("%1,%2").arg(x).arg(y)));
-        }
-    }
     for (int y = 0; y < 9; ++y)
         QCOMPARE(image.pixel(7, y), kBlack);
     QCOMPARE(image.pixel(7, 9), kWhite); // the bar is one pixel shorter than the square
-    QCOMPARE(image.pixel(10, 4), kBlack);
-    QCOMPARE(image.pixel(11, 4), kBlack);
-    QCOMPARE(image.pixel(9, 0), kWhite); // above the arrow's slanted edge
-}
-
-void TestRibbonStyle::symbolLastInWideRect()
-{
-    // Mirror of the first symbol: the arrow fills columns 3 to 7, the bar starts at 7.
-    const QImage image = paintSymbol(QSize(16, 10), QRect(0, 0, 16, 10), SymbolLast);
-    for (int y = 0; y < 10; ++y)
-        for (int x = 0; x < 16; ++x)
-            if (x < 3 || x > 7)
-                QVERIFY2(image.pixel(x, y) == kWhite, qPrintable(QStringLiteral("%1,%2").arg(x).arg(y)));
-    QCOMPARE(image.pixel(4, 4), kBlack);
-    for (int y = 0; y < 9; ++y)
-        QCOMPARE(image.pixel(7, y), kBlack);
-    QCOMPARE(image.pixel(5, 0), kWhite);
+    QCOMPARE(image.pixel(arrow), kBlack);
+    QCOMPARE(image.pixel(arrow + QPoint(1, 0)), kBlack);
+    QCOMPARE(image.pixel(aboveSlant), kWhite);
 }
 
 void TestRibbonStyle::arrowSymbols_data()
