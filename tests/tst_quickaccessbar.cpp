@@ -22,7 +22,6 @@ private slots:
 
     void construction();
     void buttonsAndEntries();
-    void hideAndShowThroughMenu();
     void restoredList_data();
     void restoredList();
     void listOperations();
@@ -37,7 +36,8 @@ private slots:
 private:
     RibbonSimpleAction *command(const QString &name, const QString &text = QString());
     QList<QAction *> commandEntries() const;
-    RibbonButtonNormal *buttonFor(QAction *action) const;
+    QList<QAction *> addCommands(const QStringList &names, RibbonQuickAccessBar *bar = nullptr);
+    RibbonButtonNormal *buttonFor(QAction *action, RibbonQuickAccessBar *bar = nullptr) const;
     QAction *entryFor(const QString &name) const;
 
     RibbonMainWindow *m_window = nullptr;
@@ -58,9 +58,19 @@ QList<QAction *> tst_QuickAccessBar::commandEntries() const
     return entries.mid(0, entries.size() - 2);
 }
 
-RibbonButtonNormal *tst_QuickAccessBar::buttonFor(QAction *action) const
+QList<QAction *> tst_QuickAccessBar::addCommands(const QStringList &names, RibbonQuickAccessBar *bar)
 {
-    for (RibbonButtonNormal *button : m_bar->findChildren<RibbonButtonNormal *>()) {
+    QList<QAction *> actions;
+    for (const QString &name : names) {
+        actions << command(name, name.toUpper());
+        (bar ? bar : m_bar)->addAction(actions.last());
+    }
+    return actions;
+}
+
+RibbonButtonNormal *tst_QuickAccessBar::buttonFor(QAction *action, RibbonQuickAccessBar *bar) const
+{
+    for (RibbonButtonNormal *button : (bar ? bar : m_bar)->findChildren<RibbonButtonNormal *>()) {
         if (button->actions().value(0) == action)
             return button;
     }
@@ -118,11 +128,7 @@ void tst_QuickAccessBar::construction()
 void tst_QuickAccessBar::buttonsAndEntries()
 {
     const QStringList names = {QStringLiteral("save"), QStringLiteral("undo"), QStringLiteral("redo")};
-    QList<QAction *> actions;
-    for (const QString &name : names) {
-        actions << command(name, name.toUpper());
-        m_bar->addAction(actions.last());
-    }
+    const QList<QAction *> actions = addCommands(names);
     m_window->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_window));
 
@@ -140,32 +146,20 @@ void tst_QuickAccessBar::buttonsAndEntries()
     // Buttons in the order added, the customise button after them.
     QVERIFY(buttonFor(actions.at(0))->x() < buttonFor(actions.at(1))->x());
     QVERIFY(buttonFor(actions.at(1))->x() < buttonFor(actions.at(2))->x());
-
-    // A renamed command renames its entry.
     actions.at(1)->setText(QStringLiteral("Undo typing"));
     QCOMPARE(entryFor(QStringLiteral("undo"))->text(), QStringLiteral("Undo typing"));
-}
 
-void tst_QuickAccessBar::hideAndShowThroughMenu()
-{
-    RibbonSimpleAction *save = command(QStringLiteral("save"));
-    RibbonSimpleAction *print = command(QStringLiteral("print"));
-    m_bar->addAction(save);
-    m_bar->addAction(print);
-    m_window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_window));
+    // Unchecking an entry, as a click in the menu does, hides the button and names it.
     const int fullWidth = m_bar->sizeHint().width();
-
-    QAction *entry = entryFor(QStringLiteral("print"));
-    entry->trigger(); // unchecks it, as a click in the menu does
-    QVERIFY(!entry->isChecked());
-    QVERIFY(buttonFor(print)->isHidden());
-    QVERIFY(!buttonFor(save)->isHidden());
-    QCOMPARE(m_bar->disabledQuickAccessBarItems(), QStringList({QStringLiteral("print")}));
-    QTRY_VERIFY(m_bar->sizeHint().width() < fullWidth);
-
+    QAction *entry = entryFor(QStringLiteral("redo"));
     entry->trigger();
-    QVERIFY(!buttonFor(print)->isHidden());
+    QVERIFY(!entry->isChecked());
+    QVERIFY(buttonFor(actions.at(2))->isHidden());
+    QVERIFY(!buttonFor(actions.at(0))->isHidden());
+    QCOMPARE(m_bar->disabledQuickAccessBarItems(), QStringList({QStringLiteral("redo")}));
+    QTRY_VERIFY(m_bar->sizeHint().width() < fullWidth);
+    entry->trigger();
+    QVERIFY(!buttonFor(actions.at(2))->isHidden());
     QVERIFY(m_bar->disabledQuickAccessBarItems().isEmpty());
 }
 
@@ -192,11 +186,9 @@ void tst_QuickAccessBar::restoredList()
     QFETCH(QStringList, stored);
     QFETCH(QStringList, hidden);
 
-    m_bar->setQuickAccessBarItems(stored);
     const QStringList names = {QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")};
-    for (const QString &name : names)
-        m_bar->addAction(command(name));
-
+    m_bar->setQuickAccessBarItems(stored);
+    addCommands(names);
     for (QAction *action : m_bar->actions()) {
         const QString name = action->data().toString();
         QCOMPARE(buttonFor(action)->isHidden(), hidden.contains(name));
@@ -208,19 +200,8 @@ void tst_QuickAccessBar::restoredList()
     // The list read back restores the same state in a new bar.
     RibbonQuickAccessBar next(m_window);
     next.setQuickAccessBarItems(m_bar->disabledQuickAccessBarItems());
-    QList<QAction *> again;
-    for (const QString &name : names) {
-        again << command(name);
-        next.addAction(again.last());
-    }
-    for (QAction *action : again) {
-        bool shown = false;
-        for (RibbonButtonNormal *button : next.findChildren<RibbonButtonNormal *>()) {
-            if (button->actions().value(0) == action)
-                shown = !button->isHidden();
-        }
-        QCOMPARE(shown, !hidden.contains(action->data().toString()));
-    }
+    for (QAction *action : addCommands(names, &next))
+        QCOMPARE(buttonFor(action, &next)->isHidden(), hidden.contains(action->data().toString()));
     QCOMPARE(next.disabledQuickAccessBarItems(), stored);
 }
 
@@ -237,10 +218,9 @@ void tst_QuickAccessBar::listOperations()
     QCOMPARE(m_bar->disabledQuickAccessBarItems(), QStringList({QStringLiteral("print")}));
 
     // The list alone: an existing button keeps its visibility.
-    RibbonSimpleAction *print = command(QStringLiteral("print"));
-    RibbonSimpleAction *save = command(name);
-    m_bar->addAction(print);
-    m_bar->addAction(save);
+    const QList<QAction *> added = addCommands({QStringLiteral("print"), name});
+    QAction *print = added.at(0);
+    QAction *save = added.at(1);
     QVERIFY(buttonFor(print)->isHidden());
     m_bar->showQuickAccessBarItem(QStringLiteral("print"));
     m_bar->hideQuickAccessBarItem(name);
@@ -361,13 +341,9 @@ void tst_QuickAccessBar::lifetimes()
 {
     QFETCH(bool, actionsFirst);
 
-    QList<QAction *> actions;
-    for (const QString &name : {QStringLiteral("save"), QStringLiteral("undo")}) {
-        auto *action = new RibbonSimpleAction(name, nullptr);
-        action->setData(name);
-        actions << action;
-        m_bar->addAction(action);
-    }
+    QList<QAction *> actions = addCommands({QStringLiteral("save"), QStringLiteral("undo")});
+    for (QAction *action : actions)
+        action->setParent(nullptr);
     m_bar->hideQuickAccessBarItem(QStringLiteral("undo"));
     m_window->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_window));
