@@ -74,8 +74,7 @@ class tst_CategoryWrapper : public QObject
 private slots:
     void colapsedSize_data();
     void colapsedSize();
-    void colapseHidesGroup();
-    void clickOpensPopupOnlyWhenCollapsed();
+    void collapsingAndClicks();
     void popupPlacement_data();
     void popupPlacement();
     void closesPopup_data();
@@ -135,26 +134,22 @@ void tst_CategoryWrapper::colapsedSize()
         QVERIFY(size.width() - 12 < textWidth);
 }
 
-void tst_CategoryWrapper::colapseHidesGroup()
+void tst_CategoryWrapper::collapsingAndClicks()
 {
     Fixture f(QStringLiteral("Clipboard"));
     RibbonCategoryWrapper *wrapper = f.wrapper();
     QVERIFY(wrapper);
     QCOMPARE(wrapper->sizeHint(), wrapper->category()->sizeHint());
     QCOMPARE(wrapper->normalSize(), wrapper->category()->sizeHint());
+    // Collapsing hides the group, expanding shows it again.
     wrapper->setColapsed(true);
     QVERIFY(wrapper->category()->isHidden());
     wrapper->setColapsed(false);
     QVERIFY(!wrapper->category()->isHidden());
-}
 
-void tst_CategoryWrapper::clickOpensPopupOnlyWhenCollapsed()
-{
-    Fixture f(QStringLiteral("Clipboard"));
     f.window->resize(1400, 300);
     f.window->show();
     QVERIFY(QTest::qWaitForWindowExposed(f.window.get()));
-    RibbonCategoryWrapper *wrapper = f.wrapper();
     QTRY_VERIFY(!wrapper->isColapsed());
 
     // Expanded: the group handles clicks, the wrapper opens nothing.
