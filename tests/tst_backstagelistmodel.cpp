@@ -767,46 +767,25 @@ private slots:
             const int rows = model->rowCount();
             const QModelIndex anyRow = model->index(rows ? int(random.bounded(rows)) : 0, 0);
             const QString path = QString::number(random.bounded(12));
-            switch (random.bounded(20)) {
-            case 0:
-            case 1:
-            case 2:
-            case 3:
-            case 4:
+            const int op = int(random.bounded(20));
+            if (op < 5)
                 model->addItem(path, random.bounded(4) != 0);
-                break;
-            case 5:
+            else if (op == 5)
                 model->addItem(icon, QStringLiteral("F") + path, random.bounded(2) != 0);
-                break;
-            case 6:
-            case 7:
-            case 8:
+            else if (op < 9)
                 model->selectItem(anyRow);
-                break;
-            case 9:
-            case 10:
-            case 11:
-            case 12:
-            case 13:
+            else if (op < 14)
                 model->pinItem(anyRow);
-                break;
-            case 14:
+            else if (op == 14)
                 model->setMaxNumberOfItems(int(random.bounded(12)) - 1);
-                break;
-            case 15:
+            else if (op == 15)
                 model->restoreState({record(path, random.bounded(2) != 0), record(QString(path + path), false)});
-                break;
-            case 16:
-                if (random.bounded(4) == 0)
-                    model->clearList();
-                break;
-            case 17:
+            else if (op == 16 && random.bounded(4) == 0)
+                model->clearList();
+            else if (op == 17)
                 model->setUntranslatedText(anyRow, path);
-                break;
-            default:
+            else if (op > 17)
                 model->setData(anyRow, path);
-                break;
-            }
             const QString moved = tracker.verify();
             QVERIFY2(moved.isEmpty(), qPrintable(QStringLiteral("step %1: %2").arg(step).arg(moved)));
             const QString structure = checkRowStructure(*model);
