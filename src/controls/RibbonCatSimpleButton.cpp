@@ -7,6 +7,7 @@
 #include "RibbonStyle.h"
 
 #include <QActionEvent>
+#include <QHash>
 #include <QPainter>
 #include <QPointer>
 
@@ -45,6 +46,23 @@ int largeCaptionWidth(const QFontMetrics &fm, const QString &text)
         }
     }
     return best;
+}
+
+// The search above shapes the caption several times; remember its result per caption,
+// font and resolution so that rebuilding or re-syncing a button does not repeat it.
+int cachedLargeCaptionWidth(const QWidget &widget, const QString &text)
+{
+    static QHash<QString, int> cache;
+    const QString key = widget.font().key() % QLatin1Char('|')
+                        % QString::number(widget.logicalDpiY()) % QLatin1Char('|') % text;
+    const auto it = cache.constFind(key);
+    if (it != cache.constEnd())
+        return *it;
+    if (cache.size() >= 2048)
+        cache.clear();
+    const int width = largeCaptionWidth(widget.fontMetrics(), text);
+    cache.insert(key, width);
+    return width;
 }
 
 } // namespace
@@ -96,7 +114,7 @@ QSize RibbonCatSimpleButton::sizeHint() const
     int height = scaled(kSmallRow);
     switch (d->size) {
     case RibbonCatSimpleAction::SizeLarge:
-        width = qMax(largeCaptionWidth(fm, caption) + 10, 42);
+        width = qMax(cachedLargeCaptionWidth(*this, caption) + 10, 42);
         height = scaled(kLargeRow);
         break;
     case RibbonCatSimpleAction::SizeMedium:
