@@ -11,7 +11,6 @@
 #include <QAbstractButton>
 #include <QLabel>
 #include <QListView>
-#include <QPointer>
 #include <QSignalSpy>
 
 using zel::BackstageListModel;
@@ -26,10 +25,23 @@ private:
     {
         return s.findChild<QListView *>(QStringLiteral("welcomeRecentList"));
     }
-    static QRect pinArea(QListView *list, int row)
+    // Clicks a row of the recent list, on its pin button when onPin is set.
+    static void clickRow(QListView *list, int row, bool onPin = false)
     {
-        const QRect r = list->visualRect(list->model()->index(row, 0));
-        return QRect(r.right() - 20, r.top(), 10, r.height());
+        QRect r = list->visualRect(list->model()->index(row, 0));
+        if (onPin)
+            r = QRect(r.right() - 20, r.top(), 10, r.height());
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, r.center());
+    }
+    // Shows the screen with b.doc listed above a.doc.
+    static bool showTwoDocs(BackstageWelcomeScreen &screen, BackstageListModel &model)
+    {
+        model.addItem(QStringLiteral("/docs/a.doc"));
+        model.addItem(QStringLiteral("/docs/b.doc"));
+        screen.setRecentModel(&model);
+        screen.resize(1000, 600);
+        screen.show();
+        return QTest::qWaitForWindowExposed(&screen);
     }
 
 private slots:
@@ -46,18 +58,11 @@ void tst_WelcomeScreen::choosingRecentDocument()
 {
     BackstageWelcomeScreen screen;
     BackstageListModel model;
-    model.addItem(QStringLiteral("/docs/a.doc"));
-    model.addItem(QStringLiteral("/docs/b.doc"));
-    screen.setRecentModel(&model);
+    QVERIFY(showTwoDocs(screen, model));
     QCOMPARE(screen.recentModel(), &model);
-    screen.resize(1000, 600);
-    screen.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&screen));
 
     QSignalSpy spy(&screen, SIGNAL(recentDocumentSelected(QString)));
-    QListView *list = listOf(screen);
-    QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
-                      list->visualRect(model.index(1, 0)).center());
+    clickRow(listOf(screen), 1);
     QCOMPARE(spy.count(), 1);
     QCOMPARE(spy.at(0).at(0).toString(), QStringLiteral("/docs/a.doc"));
     // The chosen document moves to the top of the history.
@@ -68,27 +73,20 @@ void tst_WelcomeScreen::pinTogglesEntry()
 {
     BackstageWelcomeScreen screen;
     BackstageListModel model;
-    model.addItem(QStringLiteral("/docs/a.doc"));
-    model.addItem(QStringLiteral("/docs/b.doc"));
-    screen.setRecentModel(&model);
-    screen.resize(1000, 600);
-    screen.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&screen));
+    QVERIFY(showTwoDocs(screen, model));
 
     QSignalSpy spy(&screen, SIGNAL(recentDocumentSelected(QString)));
     QListView *list = listOf(screen);
-    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, pinArea(list, 1).center());
+    clickRow(list, 1, true);
     QCOMPARE(spy.count(), 0);
     // a.doc is pinned: first row, then the separator, then b.doc.
     QCOMPARE(model.rowCount(), 3);
     QCOMPARE(model.data(model.index(0, 0)).toString(), QStringLiteral("/docs/a.doc"));
 
-    // The separator row reports nothing.
-    QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
-                      list->visualRect(model.index(1, 0)).center());
+    clickRow(list, 1); // the separator reports nothing
     QCOMPARE(spy.count(), 0);
 
-    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, pinArea(list, 0).center());
+    clickRow(list, 0, true);
     QCOMPARE(model.rowCount(), 2);
     QCOMPARE(model.data(model.index(0, 0)).toString(), QStringLiteral("/docs/b.doc"));
 }
@@ -108,8 +106,7 @@ void tst_WelcomeScreen::blankDocumentAndTemplates()
     QCOMPARE(blank.count(), 1);
     QCOMPARE(templ.count(), 0);
 
-    const QList<QAbstractButton *> tiles = screen.findChildren<QAbstractButton *>();
-    for (QAbstractButton *tile : tiles) {
+    for (QAbstractButton *tile : screen.findChildren<QAbstractButton *>()) {
         if (tile->text() == QStringLiteral("Report"))
             tile->click();
     }
@@ -148,8 +145,7 @@ void tst_WelcomeScreen::paneRectsAndColours()
     QVERIFY(QTest::qWaitForWindowExposed(&screen));
     const QRect left = screen.leftPaneRect();
     const QRect right = screen.rightPaneRect();
-    QVERIFY(left.isValid());
-    QVERIFY(right.isValid());
+    QVERIFY(left.isValid() && right.isValid());
     QCOMPARE(left.topLeft(), screen.mapToGlobal(QPoint(0, 0)));
     QCOMPARE(right.left(), left.right());
     QCOMPARE(right.bottomRight(), screen.mapToGlobal(QPoint(999, 599)));
