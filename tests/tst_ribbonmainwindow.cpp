@@ -39,7 +39,7 @@ private slots:
 
     void setActiveView_data();
     void setActiveView();
-    void escapeReturnsToMainView();
+    void escapeAndHideReturnToMainView();
     void backstageBackReturnsToMainView();
     void titleOverBackstage_data();
     void titleOverBackstage();
@@ -48,7 +48,6 @@ private slots:
     void titleRowFollowsView();
     void frameCell_data();
     void frameCell();
-    void hideBackstagePanel();
     void hitTest();
     void captionDragMovesWindow();
     void doubleClickOnCaptionMaximizes();
@@ -172,7 +171,7 @@ void tst_RibbonMainWindow::setActiveView()
     QCOMPARE(m_window->ribbonMenuBar().isVisible(), m_window->activeView() == RibbonMainWindow::MainView);
 }
 
-void tst_RibbonMainWindow::escapeReturnsToMainView()
+void tst_RibbonMainWindow::escapeAndHideReturnToMainView()
 {
     buildWindow();
     m_window->activateWindow();
@@ -180,16 +179,22 @@ void tst_RibbonMainWindow::escapeReturnsToMainView()
     QSignalSpy spy(m_window.get(), SIGNAL(activeViewChanged(int)));
 
     QTest::keyClick(m_window.get(), Qt::Key_Escape);
+    m_window->hideBackstagePanel();
     QCOMPARE(m_window->activeView(), RibbonMainWindow::MainView);
     QCOMPARE(spy.count(), 0);
 
     for (RibbonMainWindow::View view : {RibbonMainWindow::BackstagePanel, RibbonMainWindow::WelcomeScreen}) {
-        m_window->setActiveView(view);
-        spy.clear();
-        QTest::keyClick(m_window.get(), Qt::Key_Escape);
-        QCOMPARE(m_window->activeView(), RibbonMainWindow::MainView);
-        QCOMPARE(spy.count(), 1);
-        QCOMPARE(spy.at(0).at(0).toInt(), int(view));
+        for (bool byKey : {true, false}) {
+            m_window->setActiveView(view);
+            spy.clear();
+            if (byKey)
+                QTest::keyClick(m_window.get(), Qt::Key_Escape);
+            else
+                m_window->hideBackstagePanel();
+            QCOMPARE(m_window->activeView(), RibbonMainWindow::MainView);
+            QCOMPARE(spy.count(), 1);
+            QCOMPARE(spy.at(0).at(0).toInt(), int(view));
+        }
     }
 
     // Back in the main view the key is free again for the host's widgets.
@@ -404,21 +409,6 @@ void tst_RibbonMainWindow::frameCell()
     RibbonPlatform::frameCell(frame, p, &r, &col);
     QCOMPARE(int(r), row);
     QCOMPARE(int(col), column);
-}
-
-void tst_RibbonMainWindow::hideBackstagePanel()
-{
-    buildWindow();
-    QSignalSpy spy(m_window.get(), SIGNAL(activeViewChanged(int)));
-    m_window->hideBackstagePanel();
-    QCOMPARE(spy.count(), 0);
-
-    m_window->setActiveView(RibbonMainWindow::WelcomeScreen);
-    spy.clear();
-    m_window->hideBackstagePanel();
-    QCOMPARE(m_window->activeView(), RibbonMainWindow::MainView);
-    QCOMPARE(spy.count(), 1);
-    QCOMPARE(spy.at(0).at(0).toInt(), int(RibbonMainWindow::WelcomeScreen));
 }
 
 void tst_RibbonMainWindow::hitTest()
