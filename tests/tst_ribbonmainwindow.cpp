@@ -45,7 +45,6 @@ private slots:
     void titleOverBackstage();
     void nullCentralWidgetLeavesStretchingArea();
     void showTitleBar();
-    void titleRowFollowsView();
     void frameCell_data();
     void frameCell();
     void hitTest();
@@ -347,22 +346,13 @@ void tst_RibbonMainWindow::showTitleBar()
     for (QWidget *w : titleWidgets)
         QVERIFY(w->isVisible());
     QTRY_COMPARE(m_window->ribbonMenuBar().mapTo(m_window.get(), QPoint()).y(), barTop);
-}
 
-void tst_RibbonMainWindow::titleRowFollowsView()
-{
-    buildWindow();
-    QWidget *sysMenu = m_window->findChild<QWidget *>(QStringLiteral("sysMenuButton"));
-    QWidget *close = m_window->findChild<QWidget *>(QStringLiteral("closeButton"));
-
+    // Over the backstage only the window buttons stay.
     m_window->setActiveView(RibbonMainWindow::BackstagePanel);
-    QVERIFY(!m_window->quickAccessBar().isVisible());
-    QVERIFY(!sysMenu->isVisible());
-    QVERIFY(close->isVisible());
-
+    QVERIFY(!titleWidgets[0]->isVisible() && !titleWidgets[1]->isVisible());
+    QVERIFY(titleWidgets[4]->isVisible());
     m_window->setActiveView(RibbonMainWindow::MainView);
-    QVERIFY(m_window->quickAccessBar().isVisible());
-    QVERIFY(sysMenu->isVisible());
+    QVERIFY(titleWidgets[0]->isVisible() && titleWidgets[1]->isVisible());
 }
 
 void tst_RibbonMainWindow::frameCell_data()
@@ -371,28 +361,19 @@ void tst_RibbonMainWindow::frameCell_data()
     QTest::addColumn<int>("row");
     QTest::addColumn<int>("column");
 
-    const int f = RibbonPlatform::sizingFrameThickness();
-    const int c = RibbonPlatform::captionHeight();
-    QTest::newRow("caption middle") << QPoint(300, f + 2) << int(RibbonPlatform::FrameTop)
-                                    << int(RibbonPlatform::FrameCentre);
-    QTest::newRow("top frame over the menu button") << QPoint(f + 5, 1) << int(RibbonPlatform::FrameTop)
-                                                    << int(RibbonPlatform::FrameCentre);
-    QTest::newRow("menu button") << QPoint(f + 5, f + 5) << int(RibbonPlatform::FrameMiddle)
-                                 << int(RibbonPlatform::FrameCentre);
-    QTest::newRow("right of the menu button") << QPoint(31, f + 5) << int(RibbonPlatform::FrameTop)
-                                              << int(RibbonPlatform::FrameCentre);
-    QTest::newRow("top-left corner") << QPoint(0, 0) << int(RibbonPlatform::FrameTop)
-                                     << int(RibbonPlatform::FrameLeft);
-    QTest::newRow("left side beside the caption") << QPoint(1, f + 3) << int(RibbonPlatform::FrameMiddle)
-                                                  << int(RibbonPlatform::FrameLeft);
-    QTest::newRow("right side beside the caption") << QPoint(-1, f + 3) << int(RibbonPlatform::FrameMiddle)
-                                                   << int(RibbonPlatform::FrameRight);
-    QTest::newRow("below the caption") << QPoint(300, f + c) << int(RibbonPlatform::FrameMiddle)
-                                       << int(RibbonPlatform::FrameCentre);
-    QTest::newRow("bottom frame") << QPoint(300, -1) << int(RibbonPlatform::FrameBottom)
-                                  << int(RibbonPlatform::FrameCentre);
-    QTest::newRow("above the bottom frame") << QPoint(300, -f - 1) << int(RibbonPlatform::FrameMiddle)
-                                            << int(RibbonPlatform::FrameCentre);
+    using P = RibbonPlatform;
+    const int f = P::sizingFrameThickness();
+    const int c = P::captionHeight();
+    QTest::newRow("caption middle") << QPoint(300, f + 2) << int(P::FrameTop) << int(P::FrameCentre);
+    QTest::newRow("top frame over the menu button") << QPoint(f + 5, 1) << int(P::FrameTop) << int(P::FrameCentre);
+    QTest::newRow("menu button") << QPoint(f + 5, f + 5) << int(P::FrameMiddle) << int(P::FrameCentre);
+    QTest::newRow("right of the menu button") << QPoint(31, f + 5) << int(P::FrameTop) << int(P::FrameCentre);
+    QTest::newRow("top-left corner") << QPoint(0, 0) << int(P::FrameTop) << int(P::FrameLeft);
+    QTest::newRow("left side beside the caption") << QPoint(1, f + 3) << int(P::FrameMiddle) << int(P::FrameLeft);
+    QTest::newRow("right side beside the caption") << QPoint(-1, f + 3) << int(P::FrameMiddle) << int(P::FrameRight);
+    QTest::newRow("below the caption") << QPoint(300, f + c) << int(P::FrameMiddle) << int(P::FrameCentre);
+    QTest::newRow("bottom frame") << QPoint(300, -1) << int(P::FrameBottom) << int(P::FrameCentre);
+    QTest::newRow("above the bottom frame") << QPoint(300, -f - 1) << int(P::FrameMiddle) << int(P::FrameCentre);
 }
 
 void tst_RibbonMainWindow::frameCell()
