@@ -528,6 +528,9 @@ void tst_RibbonButtons::normalButtonFollowsFirstAction()
     first->setChecked(true);
     QVERIFY(grabImage(button) != unchecked);
     first->setChecked(false);
+    first->setEnabled(false);
+    QVERIFY(!button.isEnabled());
+    first->setEnabled(true);
 
     // A removed action is no longer run.
     button.removeAction(first);
