@@ -200,6 +200,7 @@ void tst_CategoryWrapper::popupPlacement()
     QPointer<RibbonCategoryWrapperPopup> popup = wrapper->popup();
     QVERIFY(popup);
     QVERIFY(QTest::qWaitForWindowExposed(popup.data()));
+    QVERIFY(popup); // it must not close itself on showing
 
     const QRect screen = wrapper->screen()->availableGeometry();
     const QPoint anchor = wrapper->mapToGlobal(QPoint(0, wrapper->height() - 1));
