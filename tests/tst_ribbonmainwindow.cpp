@@ -605,10 +605,13 @@ void tst_RibbonMainWindow::deletedCentralWidgetLeavesStretchingArea()
 
     auto *central = new QLabel(QStringLiteral("text"));
     m_window->setCentralWidget(central);
+    const int barHeight = m_window->ribbonMenuBar().height();
     delete central;
     QCOMPARE(m_window->centralWidget(), nullptr);
     m_window->resize(m_window->width(), m_window->height() + 80);
     QTRY_COMPARE(statusBottom(), bottom + 80);
+    // The freed area stretches, not the ribbon bar.
+    QCOMPARE(m_window->ribbonMenuBar().height(), barHeight);
 
     // A later widget takes the area as usual.
     auto *next = new QLabel(QStringLiteral("next"));

@@ -526,7 +526,13 @@ void RibbonMainWindow::setCentralWidget(QWidget *w)
         d->centralLayout->addWidget(w);
         // A central widget deleted by its owner leaves the layout; keep the area
         // stretching between the ribbon bar and the status bar.
-        connect(w, &QObject::destroyed, this, [this] {
+        // destroyed() comes before the layout hears of the removal, so the widget's item
+        // is taken out here.
+        connect(w, &QObject::destroyed, this, [this, w] {
+            for (int i = d->centralLayout->count() - 1; i >= 0; --i) {
+                if (d->centralLayout->itemAt(i)->widget() == w)
+                    delete d->centralLayout->takeAt(i);
+            }
             if (d->centralLayout->count() == 0)
                 d->centralLayout->addItem(d->centralPlaceholder);
         });
