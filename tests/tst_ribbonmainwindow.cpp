@@ -65,6 +65,7 @@ private slots:
     void styleChangeRepaints();
     void deleteWindowWithModelInPlace();
     void deleteActionsBeforeWindow();
+    void hiddenPagesDoNotWidenTheWindow();
 
 private:
     // A window with one tab holding one category with one command, shown at a fixed
@@ -805,6 +806,20 @@ void tst_RibbonMainWindow::deleteWindowWithModelInPlace()
     QVERIFY(command);
     QVERIFY(m_tab->associatedWidgets().isEmpty());
     QVERIFY(!guard); // reparented into the window, it went with it
+}
+
+void tst_RibbonMainWindow::hiddenPagesDoNotWidenTheWindow()
+{
+    buildWindow();
+    for (int i = 0; i < 8; ++i)
+        m_window->welcomeScreen().addTemplate(QStringLiteral("Template %1").arg(i), QPixmap());
+    const int welcomeWidth = m_window->welcomeScreen().minimumSizeHint().width();
+    QVERIFY(m_window->minimumSizeHint().width() < welcomeWidth);
+
+    m_window->setActiveView(RibbonMainWindow::WelcomeScreen);
+    QVERIFY(m_window->minimumSizeHint().width() >= welcomeWidth);
+    m_window->setActiveView(RibbonMainWindow::MainView);
+    QVERIFY(m_window->minimumSizeHint().width() < welcomeWidth);
 }
 
 void tst_RibbonMainWindow::deleteActionsBeforeWindow()

@@ -182,6 +182,18 @@ public:
             delete centralPlaceholder;
     }
 
+    // Shows the page of v. The hidden pages stop counting towards the window's minimum
+    // size, so a wide start page does not keep the main view from narrowing.
+    void showPage(View v)
+    {
+        QWidget *shown = page(v);
+        for (QWidget *p : {page(WelcomeScreen), page(BackstagePanel), page(MainView)}) {
+            const QSizePolicy::Policy horizontal = p == shown ? QSizePolicy::Preferred : QSizePolicy::Ignored;
+            p->setSizePolicy(horizontal, p->sizePolicy().verticalPolicy());
+        }
+        viewStack->setCurrentWidget(shown);
+    }
+
     QWidget *page(View v) const
     {
         switch (v) {
@@ -377,7 +389,7 @@ RibbonMainWindow::RibbonMainWindow(QWidget *parent, Qt::WindowFlags flags)
     d->viewStack->addWidget(d->mainViewPage);
     d->viewStack->addWidget(d->backstageView);
     d->viewStack->addWidget(d->welcomeScreen);
-    d->viewStack->setCurrentWidget(d->mainViewPage);
+    d->showPage(MainView);
     d->mainLayout->addLayout(d->viewStack);
 
     d->menuBar = new RibbonMenuBar(*this);
@@ -482,7 +494,7 @@ void RibbonMainWindow::setActiveView(View view)
         emit activeViewChanged(previous);
     }
     d->escapeShortcut->setEnabled(view != MainView);
-    d->viewStack->setCurrentWidget(d->page(view));
+    d->showPage(view);
     d->updateMargins();
     d->updateTitleRow();
     update();
