@@ -1089,9 +1089,6 @@ void EditorDemo::buildWelcomeScreen()
     welcome.setRecentModel(d->recent);
     welcome.addTemplate(tr("Letter"), templatePreview(true));
     welcome.addTemplate(tr("Report"), templatePreview(false));
-    // The welcome page shares the window's page stack with the main view; its row of
-    // tiles would otherwise keep the whole window from getting narrower than the tiles.
-    welcome.setMinimumWidth(360);
     connect(&welcome, &BackstageWelcomeScreen::blankDocumentSelected, this, [this] {
         newDocument();
         showMainView();

@@ -126,6 +126,8 @@ int writeEditorScreenshots(const QDir &dir)
         window->show();
         settle();
         shot.prepare(*window);
+        // The page shown first may have held the window wider than asked.
+        window->resize(shot.size);
         window->editor()->setFocus();
         settle();
         const QString file = dir.filePath(shot.name + QStringLiteral(".png"));
