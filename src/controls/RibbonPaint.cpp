@@ -5,7 +5,6 @@
 
 #include <QAbstractButton>
 #include <QPainter>
-#include <QPixmapCache>
 
 namespace zel {
 
@@ -40,49 +39,10 @@ void RibbonSlices::set(const QRect &target, const QRect &source, const QMargins 
 
 void RibbonSlices::draw(QPainter &painter, const QPixmap &pixmap, int sourceOffsetY) const
 {
-    if (pixmap.isNull() || m_pieces.isEmpty())
+    if (pixmap.isNull())
         return;
-
-    // Stretching the middle pieces is the expensive part of painting a background, and
-    // the same backgrounds are painted again on every update. Where compositing the
-    // pieces once gives the same pixels (pieces that do not overlap, whole-pixel
-    // translation only, plain source-over at full opacity, no resolution scaling) the
-    // composed result is kept and blitted.
-    const QTransform transform = painter.transform();
-    const bool cacheable = m_target.width() >= m_border.left() + m_border.right()
-                           && m_target.height() >= m_border.top() + m_border.bottom()
-                           && transform.type() <= QTransform::TxTranslate
-                           && qFuzzyIsNull(transform.dx() - qRound(transform.dx()))
-                           && qFuzzyIsNull(transform.dy() - qRound(transform.dy()))
-                           && painter.device() && painter.device()->devicePixelRatioF() == 1.0
-                           && pixmap.devicePixelRatio() == 1.0
-                           && painter.compositionMode() == QPainter::CompositionMode_SourceOver
-                           && painter.opacity() == 1.0
-                           && !painter.testRenderHint(QPainter::SmoothPixmapTransform);
-    if (!cacheable) {
-        for (const Piece &piece : m_pieces)
-            painter.drawPixmap(piece.target, pixmap, piece.source.translated(0, sourceOffsetY));
-        return;
-    }
-
-    const QString key = QStringLiteral("zelslices:%1:%2,%3,%4,%5:%6,%7,%8,%9:%10x%11:%12")
-                            .arg(pixmap.cacheKey())
-                            .arg(m_source.x()).arg(m_source.y()).arg(m_source.width()).arg(m_source.height())
-                            .arg(m_border.left()).arg(m_border.top()).arg(m_border.right()).arg(m_border.bottom())
-                            .arg(m_target.width()).arg(m_target.height())
-                            .arg(sourceOffsetY);
-    QPixmap composed;
-    if (!QPixmapCache::find(key, &composed)) {
-        composed = QPixmap(m_target.size());
-        composed.fill(Qt::transparent);
-        QPainter p(&composed);
-        for (const Piece &piece : m_pieces)
-            p.drawPixmap(piece.target.translated(-m_target.topLeft()), pixmap,
-                         piece.source.translated(0, sourceOffsetY));
-        p.end();
-        QPixmapCache::insert(key, composed);
-    }
-    painter.drawPixmap(m_target.topLeft(), composed);
+    for (const Piece &piece : m_pieces)
+        painter.drawPixmap(piece.target, pixmap, piece.source.translated(0, sourceOffsetY));
 }
 
 namespace RibbonPaint {
