@@ -2,6 +2,7 @@
 // command the user hid earlier restored as hidden) and the status bar with a login
 // icon, a menu button, view toggles, a progress display and the zoom slider.
 
+#include "DemoIcons.h"
 #include "DemoScreens.h"
 
 #include "RibbonCatMenuAction.h"
@@ -33,16 +34,7 @@ enum class Glyph { Disk, Undo, Redo, Printer, Reading, PrintLayout, WebLayout, P
 // Drawn on a 32-unit grid so that the 16- and 32-pixel versions match.
 QIcon makeIcon(Glyph glyph, const QColor &color)
 {
-    QIcon icon;
-    for (int extent : {16, 32}) {
-        QPixmap pixmap(extent, extent);
-        pixmap.fill(Qt::transparent);
-        QPainter p(&pixmap);
-        p.setRenderHint(QPainter::Antialiasing);
-        p.scale(extent / 32.0, extent / 32.0);
-        const QPen outline(color.darker(150), extent >= 32 ? 1.5 : 2.5);
-        p.setPen(outline);
-        p.setBrush(color);
+    return gridIcon(color, 150, [&](QPainter &p) {
         switch (glyph) {
         case Glyph::Disk:
             p.drawRoundedRect(QRectF(4, 4, 24, 24), 3, 3);
@@ -103,9 +95,7 @@ QIcon makeIcon(Glyph glyph, const QColor &color)
             p.drawRect(QRectF(7, 3, 18, 26));
             break;
         }
-        icon.addPixmap(pixmap);
-    }
-    return icon;
+    });
 }
 
 QWidget *makeBarsScreen()

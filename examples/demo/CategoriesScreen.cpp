@@ -2,23 +2,18 @@
 // checked and disabled ones, button strips, host-assigned rows, automatic rows and long
 // two-line captions.
 
+#include "DemoIcons.h"
 #include "DemoScreens.h"
 
-#include "RibbonApplication.h"
 #include "RibbonCatActionGroup.h"
 #include "RibbonCatMenuAction.h"
 #include "RibbonCatSimpleAction.h"
 #include "RibbonCategory.h"
 #include "RibbonCategoryAction.h"
-#include "RibbonStyle.h"
 
 #include <QHBoxLayout>
 #include <QIcon>
-#include <QPainter>
-#include <QPainterPath>
 #include <QWidget>
-
-#include <functional>
 
 namespace {
 
@@ -28,107 +23,11 @@ using zel::RibbonCatSimpleAction;
 using zel::RibbonCategory;
 using zel::RibbonCategoryAction;
 
-enum class Glyph { Disc, Square, Triangle, Page, Bars, Letter, Diamond, Ring };
-
-// Draws a glyph into a square of the given extent; shapes are laid out on a 32-unit
-// grid so the 16- and 32-pixel versions match.
-void drawGlyph(QPainter &p, int extent, Glyph glyph, const QColor &color, QChar letter)
-{
-    p.setRenderHint(QPainter::Antialiasing);
-    p.scale(extent / 32.0, extent / 32.0);
-    const QColor dark = color.darker(140);
-    p.setPen(QPen(dark, extent >= 32 ? 1.5 : 2.5));
-    p.setBrush(color);
-    switch (glyph) {
-    case Glyph::Disc:
-        p.drawEllipse(QRectF(4, 4, 24, 24));
-        break;
-    case Glyph::Square:
-        p.drawRoundedRect(QRectF(5, 5, 22, 22), 4, 4);
-        break;
-    case Glyph::Triangle: {
-        const QPointF points[3] = {{16, 4}, {28.5, 27}, {3.5, 27}};
-        p.drawPolygon(points, 3);
-        break;
-    }
-    case Glyph::Page: {
-        QPainterPath path;
-        path.moveTo(7, 3);
-        path.lineTo(20, 3);
-        path.lineTo(26, 9);
-        path.lineTo(26, 29);
-        path.lineTo(7, 29);
-        path.closeSubpath();
-        p.setBrush(Qt::white);
-        p.drawPath(path);
-        p.setPen(QPen(color, 2.5));
-        for (int y = 12; y <= 24; y += 5)
-            p.drawLine(QPointF(11, y), QPointF(22, y));
-        break;
-    }
-    case Glyph::Bars:
-        p.setPen(Qt::NoPen);
-        p.setBrush(color);
-        for (int i = 0; i < 4; ++i)
-            p.drawRoundedRect(QRectF(4, 5 + i * 6.5, i % 2 ? 18 : 24, 4), 1.5, 1.5);
-        break;
-    case Glyph::Letter: {
-        QFont font;
-        font.setBold(true);
-        font.setPixelSize(26);
-        p.setFont(font);
-        p.setPen(color);
-        p.drawText(QRectF(0, 0, 32, 32), Qt::AlignCenter, QString(letter));
-        break;
-    }
-    case Glyph::Diamond: {
-        const QPointF points[4] = {{16, 3}, {29, 16}, {16, 29}, {3, 16}};
-        p.drawPolygon(points, 4);
-        break;
-    }
-    case Glyph::Ring:
-        p.setBrush(Qt::NoBrush);
-        p.setPen(QPen(color, 5));
-        p.drawEllipse(QRectF(6, 6, 20, 20));
-        break;
-    }
-}
-
-QIcon makeIcon(Glyph glyph, const QColor &color, QChar letter = QChar())
-{
-    QIcon icon;
-    for (int extent : {16, 32}) {
-        QPixmap pixmap(extent, extent);
-        pixmap.fill(Qt::transparent);
-        QPainter painter(&pixmap);
-        drawGlyph(painter, extent, glyph, color, letter);
-        painter.end();
-        icon.addPixmap(pixmap);
-    }
-    return icon;
-}
-
-// The tab panel behind the categories.
-class PanelBack : public QWidget
-{
-public:
-    using QWidget::QWidget;
-
-protected:
-    void paintEvent(QPaintEvent *) override
-    {
-        QPainter painter(this);
-        const QPixmap &back = zel::RibbonApplication::theApp().ribbonStyle().mainPanelBack();
-        if (back.isNull())
-            painter.fillRect(rect(), zel::RibbonApplication::theApp().ribbonStyle().mainClientColor());
-        else
-            painter.drawPixmap(rect(), back);
-    }
-};
+using Glyph = DemoShape;
 
 QWidget *makeCategoriesScreen()
 {
-    auto *screen = new PanelBack;
+    auto *screen = new DemoPanelBack;
     // The ribbon's metrics (66-pixel large buttons with two caption lines, 14-pixel
     // category captions) are made for the usual 9-point desktop UI font.
     QFont uiFont = screen->font();
@@ -156,10 +55,10 @@ QWidget *makeCategoriesScreen()
 
     // Clipboard: a large button followed by three medium ones in automatic rows.
     auto *clipboard = new RibbonCategoryAction(QStringLiteral("Clipboard"), owner);
-    clipboard->addAction(simple(makeIcon(Glyph::Page, blue), QStringLiteral("Paste"), RibbonCatSimpleAction::SizeLarge), -1);
-    clipboard->addAction(simple(makeIcon(Glyph::Triangle, red), QStringLiteral("Cut"), RibbonCatSimpleAction::SizeMedium), -1);
-    clipboard->addAction(simple(makeIcon(Glyph::Square, blue), QStringLiteral("Copy"), RibbonCatSimpleAction::SizeMedium), -1);
-    auto *painterAction = simple(makeIcon(Glyph::Diamond, orange), QStringLiteral("Format Painter"), RibbonCatSimpleAction::SizeMedium);
+    clipboard->addAction(simple(shapeIcon(Glyph::Page, blue), QStringLiteral("Paste"), RibbonCatSimpleAction::SizeLarge), -1);
+    clipboard->addAction(simple(shapeIcon(Glyph::Triangle, red), QStringLiteral("Cut"), RibbonCatSimpleAction::SizeMedium), -1);
+    clipboard->addAction(simple(shapeIcon(Glyph::Square, blue), QStringLiteral("Copy"), RibbonCatSimpleAction::SizeMedium), -1);
+    auto *painterAction = simple(shapeIcon(Glyph::Diamond, orange), QStringLiteral("Format Painter"), RibbonCatSimpleAction::SizeMedium);
     painterAction->setCheckable(true);
     painterAction->setChecked(true);
     clipboard->addAction(painterAction, -1);
@@ -172,7 +71,7 @@ QWidget *makeCategoriesScreen()
     const QStringList names = {QStringLiteral("Bold"), QStringLiteral("Italic"),
                                QStringLiteral("Underline"), QStringLiteral("Strikethrough")};
     for (int i = 0; i < letters.size(); ++i) {
-        auto *a = simple(makeIcon(Glyph::Letter, QColor(0x33, 0x33, 0x33), letters.at(i)), names.at(i),
+        auto *a = simple(shapeIcon(Glyph::Letter, QColor(0x33, 0x33, 0x33), letters.at(i)), names.at(i),
                          RibbonCatSimpleAction::SizeSmall);
         a->setToolTip(names.at(i));
         a->setCheckable(true);
@@ -180,12 +79,12 @@ QWidget *makeCategoriesScreen()
         style->addAction(a, false);
     }
     auto *script = new RibbonCatActionGroup(owner);
-    script->addAction(simple(makeIcon(Glyph::Letter, blue, QLatin1Char('x')), QStringLiteral("Subscript"), RibbonCatSimpleAction::SizeSmall), false);
-    script->addAction(simple(makeIcon(Glyph::Letter, blue, QLatin1Char('X')), QStringLiteral("Superscript"), RibbonCatSimpleAction::SizeSmall), false);
+    script->addAction(simple(shapeIcon(Glyph::Letter, blue, QLatin1Char('x')), QStringLiteral("Subscript"), RibbonCatSimpleAction::SizeSmall), false);
+    script->addAction(simple(shapeIcon(Glyph::Letter, blue, QLatin1Char('X')), QStringLiteral("Superscript"), RibbonCatSimpleAction::SizeSmall), false);
     auto *colours = new RibbonCatActionGroup(owner);
-    colours->addAction(simple(makeIcon(Glyph::Disc, red), QStringLiteral("Red"), RibbonCatSimpleAction::SizeSmall), false);
-    colours->addAction(simple(makeIcon(Glyph::Disc, green), QStringLiteral("Green"), RibbonCatSimpleAction::SizeSmall), false);
-    auto *disabledColour = simple(makeIcon(Glyph::Disc, blue), QStringLiteral("Blue"), RibbonCatSimpleAction::SizeSmall);
+    colours->addAction(simple(shapeIcon(Glyph::Disc, red), QStringLiteral("Red"), RibbonCatSimpleAction::SizeSmall), false);
+    colours->addAction(simple(shapeIcon(Glyph::Disc, green), QStringLiteral("Green"), RibbonCatSimpleAction::SizeSmall), false);
+    auto *disabledColour = simple(shapeIcon(Glyph::Disc, blue), QStringLiteral("Blue"), RibbonCatSimpleAction::SizeSmall);
     disabledColour->setEnabled(false);
     colours->addAction(disabledColour, false);
     // A wide strip: each cell has a drop-down part that opens its member's menu.
@@ -193,31 +92,31 @@ QWidget *makeCategoriesScreen()
     const QColor marks[] = {orange, teal};
     const QStringList markNames = {QStringLiteral("Highlight"), QStringLiteral("Shading")};
     for (int i = 0; i < 2; ++i) {
-        auto *menu = new RibbonCatMenuAction(makeIcon(Glyph::Square, marks[i]), markNames.at(i),
+        auto *menu = new RibbonCatMenuAction(shapeIcon(Glyph::Square, marks[i]), markNames.at(i),
                                              RibbonCatMenuAction::MenuTypeButton,
                                              RibbonCatMenuAction::MenuSizeSmall,
                                              RibbonCatMenuAction::PopupMenu, owner);
-        menu->addAction(simple(makeIcon(Glyph::Disc, marks[i]), QStringLiteral("Light"), RibbonCatSimpleAction::SizeMedium), false);
-        menu->addAction(simple(makeIcon(Glyph::Disc, marks[i].darker(150)), QStringLiteral("Dark"), RibbonCatSimpleAction::SizeMedium), false);
+        menu->addAction(simple(shapeIcon(Glyph::Disc, marks[i]), QStringLiteral("Light"), RibbonCatSimpleAction::SizeMedium), false);
+        menu->addAction(simple(shapeIcon(Glyph::Disc, marks[i].darker(150)), QStringLiteral("Dark"), RibbonCatSimpleAction::SizeMedium), false);
         highlights->addAction(menu, true);
     }
     font->addAction(style, 0);
     font->addAction(script, 0);
     font->addAction(colours, 1);
-    font->addAction(simple(makeIcon(Glyph::Ring, teal), QStringLiteral("Grow Font"), RibbonCatSimpleAction::SizeMedium), 1);
+    font->addAction(simple(shapeIcon(Glyph::Ring, teal), QStringLiteral("Grow Font"), RibbonCatSimpleAction::SizeMedium), 1);
     font->addAction(highlights, 2);
-    font->addAction(simple(makeIcon(Glyph::Bars, violet), QStringLiteral("Clear Formatting"), RibbonCatSimpleAction::SizeMedium), 2);
+    font->addAction(simple(shapeIcon(Glyph::Bars, violet), QStringLiteral("Clear Formatting"), RibbonCatSimpleAction::SizeMedium), 2);
     addCategory(font);
 
     // Insert: long captions wrapped to two lines, one checked and one disabled button.
     auto *insert = new RibbonCategoryAction(QStringLiteral("Insert"), owner);
-    insert->addAction(simple(makeIcon(Glyph::Bars, blue), QStringLiteral("Table of Contents"), RibbonCatSimpleAction::SizeLarge), -1);
-    insert->addAction(simple(makeIcon(Glyph::Square, green), QStringLiteral("Picture"), RibbonCatSimpleAction::SizeLarge), -1);
-    auto *ruler = simple(makeIcon(Glyph::Ring, orange), QStringLiteral("Show Ruler Lines"), RibbonCatSimpleAction::SizeLarge);
+    insert->addAction(simple(shapeIcon(Glyph::Bars, blue), QStringLiteral("Table of Contents"), RibbonCatSimpleAction::SizeLarge), -1);
+    insert->addAction(simple(shapeIcon(Glyph::Square, green), QStringLiteral("Picture"), RibbonCatSimpleAction::SizeLarge), -1);
+    auto *ruler = simple(shapeIcon(Glyph::Ring, orange), QStringLiteral("Show Ruler Lines"), RibbonCatSimpleAction::SizeLarge);
     ruler->setCheckable(true);
     ruler->setChecked(true);
     insert->addAction(ruler, -1);
-    auto *spelling = simple(makeIcon(Glyph::Letter, red, QLatin1Char('A')), QStringLiteral("Check Spelling and Grammar"), RibbonCatSimpleAction::SizeLarge);
+    auto *spelling = simple(shapeIcon(Glyph::Letter, red, QLatin1Char('A')), QStringLiteral("Check Spelling and Grammar"), RibbonCatSimpleAction::SizeLarge);
     spelling->setEnabled(false);
     insert->addAction(spelling, -1);
     addCategory(insert);
@@ -232,7 +131,7 @@ QWidget *makeCategoriesScreen()
                                 QStringLiteral("Selection Pane")};
     for (int i = 0; i < 7; ++i) {
         const auto size = labels.at(i).isEmpty() ? RibbonCatSimpleAction::SizeSmall : RibbonCatSimpleAction::SizeMedium;
-        auto *a = simple(makeIcon(glyphs[i], tints[i]), labels.at(i), size);
+        auto *a = simple(shapeIcon(glyphs[i], tints[i]), labels.at(i), size);
         if (i == 4) {
             a->setCheckable(true);
             a->setChecked(true);

@@ -2,6 +2,7 @@
 // buttons in the three sizes, a check box, a labelled combo and the font pickers; and
 // the same buttons with a drop-down menu open.
 
+#include "DemoIcons.h"
 #include "DemoScreens.h"
 
 #include "RibbonApplication.h"
@@ -35,96 +36,65 @@ using zel::RibbonSimpleAction;
 
 enum class Shape { Clipboard, Columns, Magnifier, Cursor, Brush, Page, Landscape };
 
-QPixmap drawShape(int extent, Shape shape, const QColor &color)
-{
-    QPixmap pixmap(extent, extent);
-    pixmap.fill(Qt::transparent);
-    QPainter p(&pixmap);
-    p.setRenderHint(QPainter::Antialiasing);
-    p.scale(extent / 32.0, extent / 32.0);
-    p.setPen(QPen(color.darker(150), extent >= 32 ? 1.5 : 2.5));
-    p.setBrush(color);
-    switch (shape) {
-    case Shape::Clipboard:
-        p.drawRoundedRect(QRectF(5, 5, 22, 25), 3, 3);
-        p.setBrush(Qt::white);
-        p.drawRect(QRectF(9, 10, 14, 16));
-        p.setBrush(color.darker(130));
-        p.drawRoundedRect(QRectF(11, 2, 10, 6), 2, 2);
-        break;
-    case Shape::Columns:
-        p.setBrush(Qt::white);
-        p.drawRect(QRectF(4, 4, 24, 24));
-        p.setPen(QPen(color, 2.5));
-        for (int y = 9; y <= 23; y += 4) {
-            p.drawLine(QPointF(7, y), QPointF(14, y));
-            p.drawLine(QPointF(18, y), QPointF(25, y));
-        }
-        break;
-    case Shape::Magnifier:
-        p.setBrush(Qt::white);
-        p.drawEllipse(QRectF(4, 4, 17, 17));
-        p.setPen(QPen(color, 5, Qt::SolidLine, Qt::RoundCap));
-        p.drawLine(QPointF(19, 19), QPointF(27, 27));
-        break;
-    case Shape::Cursor: {
-        const QPointF arrow[7] = {{8, 3}, {8, 26}, {13, 21}, {17, 29}, {21, 27}, {17, 19}, {24, 19}};
-        p.setBrush(Qt::white);
-        p.drawPolygon(arrow, 7);
-        break;
-    }
-    case Shape::Brush:
-        p.drawRoundedRect(QRectF(6, 3, 20, 11), 2, 2);
-        p.setBrush(color.darker(140));
-        p.drawRect(QRectF(14, 14, 4, 15));
-        break;
-    case Shape::Page:
-        p.setBrush(Qt::white);
-        p.drawRect(QRectF(8, 3, 16, 26));
-        p.setPen(QPen(color, 2));
-        for (int y = 9; y <= 23; y += 4)
-            p.drawLine(QPointF(11, y), QPointF(21, y));
-        break;
-    case Shape::Landscape:
-        p.setBrush(Qt::white);
-        p.drawRect(QRectF(3, 8, 26, 16));
-        p.setPen(QPen(color, 2));
-        for (int y = 12; y <= 20; y += 4)
-            p.drawLine(QPointF(6, y), QPointF(26, y));
-        break;
-    }
-    return pixmap;
-}
-
+// Drawn on a 32-unit grid so that the 16- and 32-pixel versions match.
 QIcon makeIcon(Shape shape, const QColor &color)
 {
-    QIcon icon;
-    icon.addPixmap(drawShape(16, shape, color));
-    icon.addPixmap(drawShape(32, shape, color));
-    return icon;
+    return gridIcon(color, 150, [&](QPainter &p) {
+        switch (shape) {
+        case Shape::Clipboard:
+            p.drawRoundedRect(QRectF(5, 5, 22, 25), 3, 3);
+            p.setBrush(Qt::white);
+            p.drawRect(QRectF(9, 10, 14, 16));
+            p.setBrush(color.darker(130));
+            p.drawRoundedRect(QRectF(11, 2, 10, 6), 2, 2);
+            break;
+        case Shape::Columns:
+            p.setBrush(Qt::white);
+            p.drawRect(QRectF(4, 4, 24, 24));
+            p.setPen(QPen(color, 2.5));
+            for (int y = 9; y <= 23; y += 4) {
+                p.drawLine(QPointF(7, y), QPointF(14, y));
+                p.drawLine(QPointF(18, y), QPointF(25, y));
+            }
+            break;
+        case Shape::Magnifier:
+            p.setBrush(Qt::white);
+            p.drawEllipse(QRectF(4, 4, 17, 17));
+            p.setPen(QPen(color, 5, Qt::SolidLine, Qt::RoundCap));
+            p.drawLine(QPointF(19, 19), QPointF(27, 27));
+            break;
+        case Shape::Cursor: {
+            const QPointF arrow[7] = {{8, 3}, {8, 26}, {13, 21}, {17, 29}, {21, 27}, {17, 19}, {24, 19}};
+            p.setBrush(Qt::white);
+            p.drawPolygon(arrow, 7);
+            break;
+        }
+        case Shape::Brush:
+            p.drawRoundedRect(QRectF(6, 3, 20, 11), 2, 2);
+            p.setBrush(color.darker(140));
+            p.drawRect(QRectF(14, 14, 4, 15));
+            break;
+        case Shape::Page:
+            p.setBrush(Qt::white);
+            p.drawRect(QRectF(8, 3, 16, 26));
+            p.setPen(QPen(color, 2));
+            for (int y = 9; y <= 23; y += 4)
+                p.drawLine(QPointF(11, y), QPointF(21, y));
+            break;
+        case Shape::Landscape:
+            p.setBrush(Qt::white);
+            p.drawRect(QRectF(3, 8, 26, 16));
+            p.setPen(QPen(color, 2));
+            for (int y = 12; y <= 20; y += 4)
+                p.drawLine(QPointF(6, y), QPointF(26, y));
+            break;
+        }
+    });
 }
 
-// The panel background of a ribbon tab.
-class PanelBack : public QWidget
+DemoPanelBack *makePanel()
 {
-public:
-    using QWidget::QWidget;
-
-protected:
-    void paintEvent(QPaintEvent *) override
-    {
-        QPainter painter(this);
-        const zel::RibbonStyle &style = zel::RibbonApplication::theApp().ribbonStyle();
-        if (style.mainPanelBack().isNull())
-            painter.fillRect(rect(), style.mainClientColor());
-        else
-            painter.drawPixmap(rect(), style.mainPanelBack());
-    }
-};
-
-PanelBack *makePanel()
-{
-    auto *panel = new PanelBack;
+    auto *panel = new DemoPanelBack;
     // The ribbon's metrics are made for the usual 9-point desktop UI font.
     QFont uiFont = panel->font();
     uiFont.setPointSize(9);
@@ -179,7 +149,7 @@ RibbonCatMenuAction *makeOrientation(QObject *owner)
 
 QWidget *makeHomeControls()
 {
-    PanelBack *screen = makePanel();
+    DemoPanelBack *screen = makePanel();
     QObject *owner = screen;
     auto *layout = new QHBoxLayout(screen);
     layout->setContentsMargins(6, 6, 6, 6);
@@ -280,7 +250,7 @@ QWidget *makeHomeControls()
 // The Orientation drop-down opened, rendered with the window below the button.
 QWidget *makeMenuOpen()
 {
-    PanelBack *host = makePanel();
+    DemoPanelBack *host = makePanel();
     auto *layout = new QHBoxLayout(host);
     layout->setContentsMargins(6, 6, 6, 6);
     auto *button = new zel::RibbonCatMenuButton(*makeOrientation(host), host);

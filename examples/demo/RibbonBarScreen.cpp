@@ -2,6 +2,7 @@
 // help button and a contextual tab set on display; once wide and once narrow, where
 // the categories that free the least width fold into single buttons.
 
+#include "DemoIcons.h"
 #include "DemoScreens.h"
 
 #include "RibbonCatActionGroup.h"
@@ -15,8 +16,6 @@
 #include "RibbonSimpleAction.h"
 
 #include <QIcon>
-#include <QPainter>
-#include <QPainterPath>
 #include <QPlainTextEdit>
 
 namespace {
@@ -27,85 +26,7 @@ using zel::RibbonCategoriesPanelAction;
 using zel::RibbonCategoryAction;
 using zel::RibbonContextCategoryPanelAction;
 
-enum class Shape { Disc, Square, Triangle, Page, Bars, Letter, Diamond, Ring, Frame };
-
-// Icons drawn on a 32-unit grid so that the 16- and 32-pixel versions match.
-QIcon makeIcon(Shape shape, const QColor &color, QChar letter = QChar())
-{
-    QIcon icon;
-    for (int extent : {16, 32}) {
-        QPixmap pixmap(extent, extent);
-        pixmap.fill(Qt::transparent);
-        QPainter p(&pixmap);
-        p.setRenderHint(QPainter::Antialiasing);
-        p.scale(extent / 32.0, extent / 32.0);
-        p.setPen(QPen(color.darker(140), extent >= 32 ? 1.5 : 2.5));
-        p.setBrush(color);
-        switch (shape) {
-        case Shape::Disc:
-            p.drawEllipse(QRectF(4, 4, 24, 24));
-            break;
-        case Shape::Square:
-            p.drawRoundedRect(QRectF(5, 5, 22, 22), 4, 4);
-            break;
-        case Shape::Triangle: {
-            const QPointF points[3] = {{16, 4}, {28.5, 27}, {3.5, 27}};
-            p.drawPolygon(points, 3);
-            break;
-        }
-        case Shape::Page: {
-            QPainterPath path;
-            path.moveTo(7, 3);
-            path.lineTo(20, 3);
-            path.lineTo(26, 9);
-            path.lineTo(26, 29);
-            path.lineTo(7, 29);
-            path.closeSubpath();
-            p.setBrush(Qt::white);
-            p.drawPath(path);
-            p.setPen(QPen(color, 2.5));
-            for (int y = 12; y <= 24; y += 5)
-                p.drawLine(QPointF(11, y), QPointF(22, y));
-            break;
-        }
-        case Shape::Bars:
-            p.setPen(Qt::NoPen);
-            for (int i = 0; i < 4; ++i)
-                p.drawRoundedRect(QRectF(4, 5 + i * 6.5, i % 2 ? 18 : 24, 4), 1.5, 1.5);
-            break;
-        case Shape::Letter: {
-            QFont font;
-            font.setBold(true);
-            font.setPixelSize(26);
-            p.setFont(font);
-            p.setPen(color);
-            p.drawText(QRectF(0, 0, 32, 32), Qt::AlignCenter, QString(letter));
-            break;
-        }
-        case Shape::Diamond: {
-            const QPointF points[4] = {{16, 3}, {29, 16}, {16, 29}, {3, 16}};
-            p.drawPolygon(points, 4);
-            break;
-        }
-        case Shape::Ring:
-            p.setBrush(Qt::NoBrush);
-            p.setPen(QPen(color, 5));
-            p.drawEllipse(QRectF(6, 6, 20, 20));
-            break;
-        case Shape::Frame:
-            p.setBrush(Qt::white);
-            p.drawRect(QRectF(4, 6, 24, 20));
-            p.setBrush(color);
-            p.setPen(Qt::NoPen);
-            p.drawEllipse(QRectF(8, 10, 7, 7));
-            p.drawPolygon(QPolygonF({{6, 24}, {14, 15}, {19, 20}, {22, 17}, {26, 24}}));
-            break;
-        }
-        p.end();
-        icon.addPixmap(pixmap);
-    }
-    return icon;
-}
+using Shape = DemoShape;
 
 const QColor Blue(0x2b, 0x6c, 0xc4);
 const QColor Green(0x3a, 0x9a, 0x4a);
@@ -180,72 +101,72 @@ QWidget *makeRibbonWindow(int width)
 
     // HOME
     RibbonCategoriesPanelAction *home = b.tab(QStringLiteral("Home"));
-    home->addCategory(b.largeAndMedium(QStringLiteral("Clipboard"), makeIcon(Shape::Page, Blue),
-                                       makeIcon(Shape::Page, Blue), QStringLiteral("Paste"),
-                                       {{makeIcon(Shape::Triangle, Red), QStringLiteral("Cut")},
-                                        {makeIcon(Shape::Square, Blue), QStringLiteral("Copy")},
-                                        {makeIcon(Shape::Diamond, Orange), QStringLiteral("Format Painter")}}));
+    home->addCategory(b.largeAndMedium(QStringLiteral("Clipboard"), shapeIcon(Shape::Page, Blue),
+                                       shapeIcon(Shape::Page, Blue), QStringLiteral("Paste"),
+                                       {{shapeIcon(Shape::Triangle, Red), QStringLiteral("Cut")},
+                                        {shapeIcon(Shape::Square, Blue), QStringLiteral("Copy")},
+                                        {shapeIcon(Shape::Diamond, Orange), QStringLiteral("Format Painter")}}));
 
-    RibbonCategoryAction *font = b.category(QStringLiteral("Font"), makeIcon(Shape::Letter, Ink, QLatin1Char('A')));
+    RibbonCategoryAction *font = b.category(QStringLiteral("Font"), shapeIcon(Shape::Letter, Ink, QLatin1Char('A')));
     RibbonCatActionGroup *style = b.group();
     const QString letters = QStringLiteral("BIUS");
     const QStringList names = {QStringLiteral("Bold"), QStringLiteral("Italic"), QStringLiteral("Underline"),
                                QStringLiteral("Strikethrough")};
     for (int i = 0; i < letters.size(); ++i) {
-        RibbonCatSimpleAction *a = b.simple(makeIcon(Shape::Letter, Ink, letters.at(i)), names.at(i),
+        RibbonCatSimpleAction *a = b.simple(shapeIcon(Shape::Letter, Ink, letters.at(i)), names.at(i),
                                             RibbonCatSimpleAction::SizeSmall);
         a->setCheckable(true);
         a->setChecked(i == 0);
         style->addAction(a, false);
     }
     RibbonCatActionGroup *colours = b.group();
-    colours->addAction(b.simple(makeIcon(Shape::Disc, Red), QStringLiteral("Red"), RibbonCatSimpleAction::SizeSmall), false);
-    colours->addAction(b.simple(makeIcon(Shape::Disc, Green), QStringLiteral("Green"), RibbonCatSimpleAction::SizeSmall), false);
-    colours->addAction(b.simple(makeIcon(Shape::Disc, Blue), QStringLiteral("Blue"), RibbonCatSimpleAction::SizeSmall), false);
+    colours->addAction(b.simple(shapeIcon(Shape::Disc, Red), QStringLiteral("Red"), RibbonCatSimpleAction::SizeSmall), false);
+    colours->addAction(b.simple(shapeIcon(Shape::Disc, Green), QStringLiteral("Green"), RibbonCatSimpleAction::SizeSmall), false);
+    colours->addAction(b.simple(shapeIcon(Shape::Disc, Blue), QStringLiteral("Blue"), RibbonCatSimpleAction::SizeSmall), false);
     font->addAction(style, 0);
     font->addAction(colours, 1);
-    font->addAction(b.simple(makeIcon(Shape::Ring, Teal), QStringLiteral("Grow Font"), RibbonCatSimpleAction::SizeMedium), 1);
-    font->addAction(b.simple(makeIcon(Shape::Bars, Violet), QStringLiteral("Clear Formatting"), RibbonCatSimpleAction::SizeMedium), 2);
+    font->addAction(b.simple(shapeIcon(Shape::Ring, Teal), QStringLiteral("Grow Font"), RibbonCatSimpleAction::SizeMedium), 1);
+    font->addAction(b.simple(shapeIcon(Shape::Bars, Violet), QStringLiteral("Clear Formatting"), RibbonCatSimpleAction::SizeMedium), 2);
     home->addCategory(font);
 
-    home->addCategory(b.largeAndMedium(QStringLiteral("Paragraph"), makeIcon(Shape::Bars, Blue),
-                                       makeIcon(Shape::Bars, Blue), QStringLiteral("Line Spacing"),
-                                       {{makeIcon(Shape::Bars, Teal), QStringLiteral("Bullets")},
-                                        {makeIcon(Shape::Bars, Violet), QStringLiteral("Numbering")},
-                                        {makeIcon(Shape::Bars, Ink), QStringLiteral("Align Left")}}));
-    home->addCategory(b.larges(QStringLiteral("Styles"), makeIcon(Shape::Letter, Violet, QLatin1Char('S')),
-                               {{makeIcon(Shape::Letter, Ink, QLatin1Char('N')), QStringLiteral("Normal")},
-                                {makeIcon(Shape::Letter, Blue, QLatin1Char('H')), QStringLiteral("Heading 1")},
-                                {makeIcon(Shape::Letter, Teal, QLatin1Char('T')), QStringLiteral("Title")},
-                                {makeIcon(Shape::Letter, Violet, QLatin1Char('Q')), QStringLiteral("Quote")}}));
-    home->addCategory(b.largeAndMedium(QStringLiteral("Editing"), makeIcon(Shape::Ring, Blue),
-                                       makeIcon(Shape::Ring, Blue), QStringLiteral("Find"),
-                                       {{makeIcon(Shape::Diamond, Teal), QStringLiteral("Replace")},
-                                        {makeIcon(Shape::Square, Green), QStringLiteral("Select All")}}));
+    home->addCategory(b.largeAndMedium(QStringLiteral("Paragraph"), shapeIcon(Shape::Bars, Blue),
+                                       shapeIcon(Shape::Bars, Blue), QStringLiteral("Line Spacing"),
+                                       {{shapeIcon(Shape::Bars, Teal), QStringLiteral("Bullets")},
+                                        {shapeIcon(Shape::Bars, Violet), QStringLiteral("Numbering")},
+                                        {shapeIcon(Shape::Bars, Ink), QStringLiteral("Align Left")}}));
+    home->addCategory(b.larges(QStringLiteral("Styles"), shapeIcon(Shape::Letter, Violet, QLatin1Char('S')),
+                               {{shapeIcon(Shape::Letter, Ink, QLatin1Char('N')), QStringLiteral("Normal")},
+                                {shapeIcon(Shape::Letter, Blue, QLatin1Char('H')), QStringLiteral("Heading 1")},
+                                {shapeIcon(Shape::Letter, Teal, QLatin1Char('T')), QStringLiteral("Title")},
+                                {shapeIcon(Shape::Letter, Violet, QLatin1Char('Q')), QStringLiteral("Quote")}}));
+    home->addCategory(b.largeAndMedium(QStringLiteral("Editing"), shapeIcon(Shape::Ring, Blue),
+                                       shapeIcon(Shape::Ring, Blue), QStringLiteral("Find"),
+                                       {{shapeIcon(Shape::Diamond, Teal), QStringLiteral("Replace")},
+                                        {shapeIcon(Shape::Square, Green), QStringLiteral("Select All")}}));
     home->setChecked(true);
 
     // INSERT
     RibbonCategoriesPanelAction *insert = b.tab(QStringLiteral("Insert"));
-    insert->addCategory(b.larges(QStringLiteral("Pages"), makeIcon(Shape::Page, Teal),
-                                 {{makeIcon(Shape::Page, Teal), QStringLiteral("Cover Page")},
-                                  {makeIcon(Shape::Page, Ink), QStringLiteral("Blank Page")}}));
-    insert->addCategory(b.larges(QStringLiteral("Illustrations"), makeIcon(Shape::Frame, Green),
-                                 {{makeIcon(Shape::Frame, Green), QStringLiteral("Picture")},
-                                  {makeIcon(Shape::Triangle, Orange), QStringLiteral("Shapes")},
-                                  {makeIcon(Shape::Bars, Blue), QStringLiteral("Chart")}}));
-    insert->addCategory(b.larges(QStringLiteral("Links"), makeIcon(Shape::Ring, Violet),
-                                 {{makeIcon(Shape::Ring, Violet), QStringLiteral("Hyperlink")},
-                                  {makeIcon(Shape::Diamond, Red), QStringLiteral("Bookmark")}}));
+    insert->addCategory(b.larges(QStringLiteral("Pages"), shapeIcon(Shape::Page, Teal),
+                                 {{shapeIcon(Shape::Page, Teal), QStringLiteral("Cover Page")},
+                                  {shapeIcon(Shape::Page, Ink), QStringLiteral("Blank Page")}}));
+    insert->addCategory(b.larges(QStringLiteral("Illustrations"), shapeIcon(Shape::Frame, Green),
+                                 {{shapeIcon(Shape::Frame, Green), QStringLiteral("Picture")},
+                                  {shapeIcon(Shape::Triangle, Orange), QStringLiteral("Shapes")},
+                                  {shapeIcon(Shape::Bars, Blue), QStringLiteral("Chart")}}));
+    insert->addCategory(b.larges(QStringLiteral("Links"), shapeIcon(Shape::Ring, Violet),
+                                 {{shapeIcon(Shape::Ring, Violet), QStringLiteral("Hyperlink")},
+                                  {shapeIcon(Shape::Diamond, Red), QStringLiteral("Bookmark")}}));
 
     // VIEW
     RibbonCategoriesPanelAction *view = b.tab(QStringLiteral("View"));
-    view->addCategory(b.larges(QStringLiteral("Views"), makeIcon(Shape::Page, Blue),
-                               {{makeIcon(Shape::Page, Blue), QStringLiteral("Print Layout")},
-                                {makeIcon(Shape::Square, Teal), QStringLiteral("Web Layout")}}));
-    view->addCategory(b.largeAndMedium(QStringLiteral("Zoom"), makeIcon(Shape::Ring, Ink),
-                                       makeIcon(Shape::Ring, Ink), QStringLiteral("Zoom"),
-                                       {{makeIcon(Shape::Disc, Blue), QStringLiteral("100%")},
-                                        {makeIcon(Shape::Bars, Teal), QStringLiteral("Page Width")}}));
+    view->addCategory(b.larges(QStringLiteral("Views"), shapeIcon(Shape::Page, Blue),
+                               {{shapeIcon(Shape::Page, Blue), QStringLiteral("Print Layout")},
+                                {shapeIcon(Shape::Square, Teal), QStringLiteral("Web Layout")}}));
+    view->addCategory(b.largeAndMedium(QStringLiteral("Zoom"), shapeIcon(Shape::Ring, Ink),
+                                       shapeIcon(Shape::Ring, Ink), QStringLiteral("Zoom"),
+                                       {{shapeIcon(Shape::Disc, Blue), QStringLiteral("100%")},
+                                        {shapeIcon(Shape::Bars, Teal), QStringLiteral("Page Width")}}));
 
     for (RibbonCategoriesPanelAction *tab : {home, insert, view})
         bar.addAction(tab);
@@ -255,17 +176,17 @@ QWidget *makeRibbonWindow(int width)
                                                               QColor(0xc5, 0x5a, 0x11), window);
     pictureTools->setText(QStringLiteral("Picture Tools"));
     RibbonCategoriesPanelAction *format = b.tab(QStringLiteral("Format"));
-    format->addCategory(b.larges(QStringLiteral("Adjust"), makeIcon(Shape::Frame, Orange),
-                                 {{makeIcon(Shape::Frame, Orange), QStringLiteral("Corrections")},
-                                  {makeIcon(Shape::Disc, Violet), QStringLiteral("Color")}}));
-    format->addCategory(b.larges(QStringLiteral("Arrange"), makeIcon(Shape::Square, Teal),
-                                 {{makeIcon(Shape::Square, Teal), QStringLiteral("Position")},
-                                  {makeIcon(Shape::Diamond, Blue), QStringLiteral("Rotate")}}));
+    format->addCategory(b.larges(QStringLiteral("Adjust"), shapeIcon(Shape::Frame, Orange),
+                                 {{shapeIcon(Shape::Frame, Orange), QStringLiteral("Corrections")},
+                                  {shapeIcon(Shape::Disc, Violet), QStringLiteral("Color")}}));
+    format->addCategory(b.larges(QStringLiteral("Arrange"), shapeIcon(Shape::Square, Teal),
+                                 {{shapeIcon(Shape::Square, Teal), QStringLiteral("Position")},
+                                  {shapeIcon(Shape::Diamond, Blue), QStringLiteral("Rotate")}}));
     pictureTools->addPanelAction(format);
     bar.ribbonContextCategoryPanel().addContextPanelAction(pictureTools);
     bar.showContextPanelAction(pictureTools);
 
-    bar.setHelpAction(new zel::RibbonSimpleAction(makeIcon(Shape::Letter, Blue, QLatin1Char('?')),
+    bar.setHelpAction(new zel::RibbonSimpleAction(shapeIcon(Shape::Letter, Blue, QLatin1Char('?')),
                                                   QStringLiteral("Help"), window));
 
     window->resize(width, 400);

@@ -1,0 +1,34 @@
+#pragma once
+
+// Pieces shared by the demo screens: icons drawn in code and the panel backdrop that
+// categories shown outside a ribbon bar sit on.
+
+#include <QChar>
+#include <QColor>
+#include <QIcon>
+#include <QWidget>
+
+#include <functional>
+
+class QPainter;
+
+// Plain shapes for commands whose icon only has to be recognisable.
+enum class DemoShape { Disc, Square, Triangle, Page, Bars, Letter, Diamond, Ring, Frame };
+
+// Builds the 16- and 32-pixel versions of an icon drawn on a 32-unit grid. `paint`
+// gets an antialiased painter scaled to the grid, with `color` as brush and an outline
+// in `color.darker(outlineDarkness)`, thicker at 16 pixels so that it stays visible.
+QIcon gridIcon(const QColor &color, int outlineDarkness, const std::function<void(QPainter &)> &paint);
+
+// One of the plain shapes; `letter` is the character drawn by DemoShape::Letter.
+QIcon shapeIcon(DemoShape shape, const QColor &color, QChar letter = QChar());
+
+// The panel background of a ribbon tab.
+class DemoPanelBack : public QWidget
+{
+public:
+    using QWidget::QWidget;
+
+protected:
+    void paintEvent(QPaintEvent *) override;
+};
