@@ -7,7 +7,7 @@
 #include <QPainterPath>
 #include <QPixmap>
 
-QIcon gridIcon(const QColor &color, int outlineDarkness, const std::function<void(QPainter &)> &paint)
+QIcon gridIcon(const std::function<void(QPainter &, int extent)> &paint)
 {
     QIcon icon;
     for (int extent : {16, 32}) {
@@ -15,14 +15,22 @@ QIcon gridIcon(const QColor &color, int outlineDarkness, const std::function<voi
         pixmap.fill(Qt::transparent);
         QPainter p(&pixmap);
         p.setRenderHint(QPainter::Antialiasing);
+        p.setRenderHint(QPainter::TextAntialiasing);
         p.scale(extent / 32.0, extent / 32.0);
-        p.setPen(QPen(color.darker(outlineDarkness), extent >= 32 ? 1.5 : 2.5));
-        p.setBrush(color);
-        paint(p);
+        paint(p, extent);
         p.end();
         icon.addPixmap(pixmap);
     }
     return icon;
+}
+
+QIcon gridIcon(const QColor &color, int outlineDarkness, const std::function<void(QPainter &)> &paint)
+{
+    return gridIcon([&](QPainter &p, int extent) {
+        p.setPen(QPen(color.darker(outlineDarkness), extent >= 32 ? 1.5 : 2.5));
+        p.setBrush(color);
+        paint(p);
+    });
 }
 
 QIcon shapeIcon(DemoShape shape, const QColor &color, QChar letter)

@@ -15,9 +15,13 @@ class QPainter;
 // Plain shapes for commands whose icon only has to be recognisable.
 enum class DemoShape { Disc, Square, Triangle, Page, Bars, Letter, Diamond, Ring, Frame };
 
-// Builds the 16- and 32-pixel versions of an icon drawn on a 32-unit grid. `paint`
-// gets an antialiased painter scaled to the grid, with `color` as brush and an outline
-// in `color.darker(outlineDarkness)`, thicker at 16 pixels so that it stays visible.
+// Builds the 16- and 32-pixel versions of an icon drawn on a 32-unit grid, so that
+// both match. `paint` gets an antialiased painter scaled to the grid and the pixel
+// extent being drawn.
+QIcon gridIcon(const std::function<void(QPainter &, int extent)> &paint);
+
+// The same with `color` as brush and an outline in `color.darker(outlineDarkness)`,
+// thicker at 16 pixels so that it stays visible.
 QIcon gridIcon(const QColor &color, int outlineDarkness, const std::function<void(QPainter &)> &paint);
 
 // One of the plain shapes; `letter` is the character drawn by DemoShape::Letter.

@@ -65,6 +65,19 @@ const QString KeyMinimised = QStringLiteral("editor/ribbonMinimised");
 
 const QList<int> FontSizes = {8, 9, 10, 11, 12, 14, 16, 18, 20, 22, 24, 28, 36, 48, 72};
 
+// Full-width tables with thin blue-grey rules, as inserted and in the sample report.
+QTextTableFormat documentTableFormat(qreal cellPadding)
+{
+    QTextTableFormat f;
+    f.setCellPadding(cellPadding);
+    f.setCellSpacing(0);
+    f.setBorder(1);
+    f.setBorderBrush(QColor(0xA6, 0xB8, 0xD2));
+    f.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
+    f.setWidth(QTextLength(QTextLength::PercentageLength, 100));
+    return f;
+}
+
 // The document area: a grey desk with the text as a white page of fixed width.
 class PageEdit : public QTextEdit
 {
@@ -727,13 +740,7 @@ RibbonCategoriesPanelAction *EditorDemo::buildInsertTab()
     auto *table = new RibbonCatMenuAction(editorIcon(EditorIcon::Table), tr("Table"), RibbonCatMenuAction::MenuTypeButton,
                                           RibbonCatMenuAction::MenuSizeLarge, RibbonCatMenuAction::PopupMenu, this);
     auto insertTable = [this](int rows, int columns) {
-        QTextTableFormat f;
-        f.setCellPadding(4);
-        f.setCellSpacing(0);
-        f.setBorder(1);
-        f.setBorderBrush(QColor(0xA6, 0xB8, 0xD2));
-        f.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
-        f.setWidth(QTextLength(QTextLength::PercentageLength, 100));
+        const QTextTableFormat f = documentTableFormat(4);
         QTextCursor cursor = d->edit->textCursor();
         cursor.beginEditBlock();
         QTextTable *t = cursor.insertTable(rows, columns, f);
@@ -1339,13 +1346,7 @@ void EditorDemo::loadSampleDocument()
         "<h2 style='color:#2B579A; font-weight:normal'>Budget overview</h2>"));
     QTextCursor cursor(edit->document());
     cursor.movePosition(QTextCursor::End);
-    QTextTableFormat f;
-    f.setCellPadding(5);
-    f.setCellSpacing(0);
-    f.setBorder(1);
-    f.setBorderBrush(QColor(0xA6, 0xB8, 0xD2));
-    f.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
-    f.setWidth(QTextLength(QTextLength::PercentageLength, 100));
+    QTextTableFormat f = documentTableFormat(5);
     f.setColumnWidthConstraints({QTextLength(QTextLength::PercentageLength, 34), QTextLength(QTextLength::PercentageLength, 22),
                                  QTextLength(QTextLength::PercentageLength, 22), QTextLength(QTextLength::PercentageLength, 22)});
     const QStringList rows[4] = {{tr("Work package"), tr("Budget"), tr("Spent"), tr("Status")},

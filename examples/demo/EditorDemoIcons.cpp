@@ -1,8 +1,9 @@
 #include "EditorDemoIcons.h"
 
+#include "DemoIcons.h"
+
 #include <QPainter>
 #include <QPainterPath>
-#include <QPixmap>
 
 namespace {
 
@@ -471,20 +472,10 @@ void drawGlyph(GlyphPainter &g, EditorIcon icon)
 
 QIcon makeIcon(EditorIcon icon, const QColor &mono)
 {
-    QIcon result;
-    for (int extent : {16, 32}) {
-        QPixmap pixmap(extent, extent);
-        pixmap.fill(Qt::transparent);
-        QPainter p(&pixmap);
-        p.setRenderHint(QPainter::Antialiasing);
-        p.setRenderHint(QPainter::TextAntialiasing);
-        p.scale(extent / 32.0, extent / 32.0);
+    return gridIcon([&](QPainter &p, int extent) {
         GlyphPainter g(p, extent, mono);
         drawGlyph(g, icon);
-        p.end();
-        result.addPixmap(pixmap);
-    }
-    return result;
+    });
 }
 
 } // namespace
