@@ -282,6 +282,24 @@ QImage makeChartPicture(int seed)
     return image;
 }
 
+// Inserts generated chart number `seed` at `cursor`; a data URL keeps the picture
+// inside the saved HTML.
+void insertChartPicture(QTextCursor &cursor, int seed)
+{
+    const QImage image = makeChartPicture(seed);
+    QByteArray png;
+    QBuffer buffer(&png);
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "PNG");
+    const QString name = QStringLiteral("data:image/png;base64,") + QString::fromLatin1(png.toBase64());
+    cursor.document()->addResource(QTextDocument::ImageResource, QUrl(name), image);
+    QTextImageFormat f;
+    f.setName(name);
+    f.setWidth(image.width());
+    f.setHeight(image.height());
+    cursor.insertImage(f);
+}
+
 QPixmap templatePreview(bool letter)
 {
     QPixmap page(138, 178);
@@ -775,19 +793,8 @@ RibbonCategoriesPanelAction *EditorDemo::buildInsertTab()
     auto *picture = command(this, EditorIcon::Picture, tr("Picture"), S::SizeLarge);
     picture->setToolTip(tr("Insert a generated chart picture"));
     connect(picture, &QAction::triggered, this, [this] {
-        const QImage image = makeChartPicture(d->pictures++);
-        QByteArray png;
-        QBuffer buffer(&png);
-        buffer.open(QIODevice::WriteOnly);
-        image.save(&buffer, "PNG");
-        // A data URL keeps the picture inside the saved HTML.
-        const QString name = QStringLiteral("data:image/png;base64,") + QString::fromLatin1(png.toBase64());
-        d->edit->document()->addResource(QTextDocument::ImageResource, QUrl(name), image);
-        QTextImageFormat f;
-        f.setName(name);
-        f.setWidth(image.width());
-        f.setHeight(image.height());
-        d->edit->textCursor().insertImage(f);
+        QTextCursor cursor = d->edit->textCursor();
+        insertChartPicture(cursor, d->pictures++);
         d->edit->setFocus();
     });
     auto *line = command(this, EditorIcon::Line, tr("Horizontal Line"), S::SizeLarge);
@@ -1372,18 +1379,7 @@ void EditorDemo::loadSampleDocument()
     cursor.insertBlock();
     cursor.insertText(tr("Progress of the dredging works per month:"));
     cursor.insertBlock();
-    const QImage image = makeChartPicture(d->pictures++);
-    QByteArray png;
-    QBuffer buffer(&png);
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, "PNG");
-    const QString name = QStringLiteral("data:image/png;base64,") + QString::fromLatin1(png.toBase64());
-    edit->document()->addResource(QTextDocument::ImageResource, QUrl(name), image);
-    QTextImageFormat imageFormat;
-    imageFormat.setName(name);
-    imageFormat.setWidth(image.width());
-    imageFormat.setHeight(image.height());
-    cursor.insertImage(imageFormat);
+    insertChartPicture(cursor, d->pictures++);
     cursor.insertBlock();
     cursor.insertText(tr("The next report follows at the end of the third quarter."));
     edit->moveCursor(QTextCursor::Start);
