@@ -24,6 +24,7 @@ using zel::RibbonCategory;
 using zel::RibbonCategoryAction;
 
 using Glyph = DemoShape;
+using namespace DemoColors;
 
 QWidget *makeCategoriesScreen()
 {
@@ -39,13 +40,6 @@ QWidget *makeCategoriesScreen()
     layout->setContentsMargins(4, 3, 4, 3);
     layout->setSpacing(2);
 
-    const QColor blue(0x2b, 0x6c, 0xc4);
-    const QColor green(0x3a, 0x9a, 0x4a);
-    const QColor orange(0xe0, 0x7a, 0x1f);
-    const QColor red(0xc8, 0x3a, 0x3a);
-    const QColor violet(0x7a, 0x4f, 0xb5);
-    const QColor teal(0x1f, 0x96, 0x9a);
-
     auto simple = [owner](const QIcon &icon, const QString &text, RibbonCatSimpleAction::eSize size) {
         return new RibbonCatSimpleAction(icon, text, size, owner);
     };
@@ -55,10 +49,10 @@ QWidget *makeCategoriesScreen()
 
     // Clipboard: a large button followed by three medium ones in automatic rows.
     auto *clipboard = new RibbonCategoryAction(QStringLiteral("Clipboard"), owner);
-    clipboard->addAction(simple(shapeIcon(Glyph::Page, blue), QStringLiteral("Paste"), RibbonCatSimpleAction::SizeLarge), -1);
-    clipboard->addAction(simple(shapeIcon(Glyph::Triangle, red), QStringLiteral("Cut"), RibbonCatSimpleAction::SizeMedium), -1);
-    clipboard->addAction(simple(shapeIcon(Glyph::Square, blue), QStringLiteral("Copy"), RibbonCatSimpleAction::SizeMedium), -1);
-    auto *painterAction = simple(shapeIcon(Glyph::Diamond, orange), QStringLiteral("Format Painter"), RibbonCatSimpleAction::SizeMedium);
+    clipboard->addAction(simple(shapeIcon(Glyph::Page, Blue), QStringLiteral("Paste"), RibbonCatSimpleAction::SizeLarge), -1);
+    clipboard->addAction(simple(shapeIcon(Glyph::Triangle, Red), QStringLiteral("Cut"), RibbonCatSimpleAction::SizeMedium), -1);
+    clipboard->addAction(simple(shapeIcon(Glyph::Square, Blue), QStringLiteral("Copy"), RibbonCatSimpleAction::SizeMedium), -1);
+    auto *painterAction = simple(shapeIcon(Glyph::Diamond, Orange), QStringLiteral("Format Painter"), RibbonCatSimpleAction::SizeMedium);
     painterAction->setCheckable(true);
     painterAction->setChecked(true);
     clipboard->addAction(painterAction, -1);
@@ -71,7 +65,7 @@ QWidget *makeCategoriesScreen()
     const QStringList names = {QStringLiteral("Bold"), QStringLiteral("Italic"),
                                QStringLiteral("Underline"), QStringLiteral("Strikethrough")};
     for (int i = 0; i < letters.size(); ++i) {
-        auto *a = simple(shapeIcon(Glyph::Letter, QColor(0x33, 0x33, 0x33), letters.at(i)), names.at(i),
+        auto *a = simple(shapeIcon(Glyph::Letter, Ink, letters.at(i)), names.at(i),
                          RibbonCatSimpleAction::SizeSmall);
         a->setToolTip(names.at(i));
         a->setCheckable(true);
@@ -79,17 +73,17 @@ QWidget *makeCategoriesScreen()
         style->addAction(a, false);
     }
     auto *script = new RibbonCatActionGroup(owner);
-    script->addAction(simple(shapeIcon(Glyph::Letter, blue, QLatin1Char('x')), QStringLiteral("Subscript"), RibbonCatSimpleAction::SizeSmall), false);
-    script->addAction(simple(shapeIcon(Glyph::Letter, blue, QLatin1Char('X')), QStringLiteral("Superscript"), RibbonCatSimpleAction::SizeSmall), false);
+    script->addAction(simple(shapeIcon(Glyph::Letter, Blue, QLatin1Char('x')), QStringLiteral("Subscript"), RibbonCatSimpleAction::SizeSmall), false);
+    script->addAction(simple(shapeIcon(Glyph::Letter, Blue, QLatin1Char('X')), QStringLiteral("Superscript"), RibbonCatSimpleAction::SizeSmall), false);
     auto *colours = new RibbonCatActionGroup(owner);
-    colours->addAction(simple(shapeIcon(Glyph::Disc, red), QStringLiteral("Red"), RibbonCatSimpleAction::SizeSmall), false);
-    colours->addAction(simple(shapeIcon(Glyph::Disc, green), QStringLiteral("Green"), RibbonCatSimpleAction::SizeSmall), false);
-    auto *disabledColour = simple(shapeIcon(Glyph::Disc, blue), QStringLiteral("Blue"), RibbonCatSimpleAction::SizeSmall);
+    colours->addAction(simple(shapeIcon(Glyph::Disc, Red), QStringLiteral("Red"), RibbonCatSimpleAction::SizeSmall), false);
+    colours->addAction(simple(shapeIcon(Glyph::Disc, Green), QStringLiteral("Green"), RibbonCatSimpleAction::SizeSmall), false);
+    auto *disabledColour = simple(shapeIcon(Glyph::Disc, Blue), QStringLiteral("Blue"), RibbonCatSimpleAction::SizeSmall);
     disabledColour->setEnabled(false);
     colours->addAction(disabledColour, false);
     // A wide strip: each cell has a drop-down part that opens its member's menu.
     auto *highlights = new RibbonCatActionGroup(owner);
-    const QColor marks[] = {orange, teal};
+    const QColor marks[] = {Orange, Teal};
     const QStringList markNames = {QStringLiteral("Highlight"), QStringLiteral("Shading")};
     for (int i = 0; i < 2; ++i) {
         auto *menu = new RibbonCatMenuAction(shapeIcon(Glyph::Square, marks[i]), markNames.at(i),
@@ -103,20 +97,20 @@ QWidget *makeCategoriesScreen()
     font->addAction(style, 0);
     font->addAction(script, 0);
     font->addAction(colours, 1);
-    font->addAction(simple(shapeIcon(Glyph::Ring, teal), QStringLiteral("Grow Font"), RibbonCatSimpleAction::SizeMedium), 1);
+    font->addAction(simple(shapeIcon(Glyph::Ring, Teal), QStringLiteral("Grow Font"), RibbonCatSimpleAction::SizeMedium), 1);
     font->addAction(highlights, 2);
-    font->addAction(simple(shapeIcon(Glyph::Bars, violet), QStringLiteral("Clear Formatting"), RibbonCatSimpleAction::SizeMedium), 2);
+    font->addAction(simple(shapeIcon(Glyph::Bars, Violet), QStringLiteral("Clear Formatting"), RibbonCatSimpleAction::SizeMedium), 2);
     addCategory(font);
 
     // Insert: long captions wrapped to two lines, one checked and one disabled button.
     auto *insert = new RibbonCategoryAction(QStringLiteral("Insert"), owner);
-    insert->addAction(simple(shapeIcon(Glyph::Bars, blue), QStringLiteral("Table of Contents"), RibbonCatSimpleAction::SizeLarge), -1);
-    insert->addAction(simple(shapeIcon(Glyph::Square, green), QStringLiteral("Picture"), RibbonCatSimpleAction::SizeLarge), -1);
-    auto *ruler = simple(shapeIcon(Glyph::Ring, orange), QStringLiteral("Show Ruler Lines"), RibbonCatSimpleAction::SizeLarge);
+    insert->addAction(simple(shapeIcon(Glyph::Bars, Blue), QStringLiteral("Table of Contents"), RibbonCatSimpleAction::SizeLarge), -1);
+    insert->addAction(simple(shapeIcon(Glyph::Square, Green), QStringLiteral("Picture"), RibbonCatSimpleAction::SizeLarge), -1);
+    auto *ruler = simple(shapeIcon(Glyph::Ring, Orange), QStringLiteral("Show Ruler Lines"), RibbonCatSimpleAction::SizeLarge);
     ruler->setCheckable(true);
     ruler->setChecked(true);
     insert->addAction(ruler, -1);
-    auto *spelling = simple(shapeIcon(Glyph::Letter, red, QLatin1Char('A')), QStringLiteral("Check Spelling and Grammar"), RibbonCatSimpleAction::SizeLarge);
+    auto *spelling = simple(shapeIcon(Glyph::Letter, Red, QLatin1Char('A')), QStringLiteral("Check Spelling and Grammar"), RibbonCatSimpleAction::SizeLarge);
     spelling->setEnabled(false);
     insert->addAction(spelling, -1);
     addCategory(insert);
@@ -125,7 +119,7 @@ QWidget *makeCategoriesScreen()
     auto *arrange = new RibbonCategoryAction(QStringLiteral("Arrange"), owner);
     const Glyph glyphs[] = {Glyph::Disc, Glyph::Square, Glyph::Triangle, Glyph::Diamond,
                             Glyph::Ring, Glyph::Bars, Glyph::Page};
-    const QColor tints[] = {blue, green, orange, red, violet, teal, blue};
+    const QColor tints[] = {Blue, Green, Orange, Red, Violet, Teal, Blue};
     const QStringList labels = {QStringLiteral("Bring Forward"), QStringLiteral("Send Backward"),
                                 QStringLiteral("Group"), QString(), QString(), QString(),
                                 QStringLiteral("Selection Pane")};

@@ -12,6 +12,17 @@
 
 class QPainter;
 
+// The tints of the demo's generated icons.
+namespace DemoColors {
+const QColor Blue(0x2b, 0x6c, 0xc4);
+const QColor Green(0x3a, 0x9a, 0x4a);
+const QColor Orange(0xe0, 0x7a, 0x1f);
+const QColor Red(0xc8, 0x3a, 0x3a);
+const QColor Violet(0x7a, 0x4f, 0xb5);
+const QColor Teal(0x1f, 0x96, 0x9a);
+const QColor Ink(0x33, 0x33, 0x33);
+} // namespace DemoColors
+
 // Plain shapes for commands whose icon only has to be recognisable.
 enum class DemoShape { Disc, Square, Triangle, Page, Bars, Letter, Diamond, Ring, Frame };
 

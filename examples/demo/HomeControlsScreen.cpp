@@ -102,10 +102,7 @@ DemoPanelBack *makePanel()
     return panel;
 }
 
-const QColor Blue(0x2b, 0x6c, 0xc4);
-const QColor Green(0x3a, 0x9a, 0x4a);
-const QColor Orange(0xe0, 0x7a, 0x1f);
-const QColor Violet(0x7a, 0x4f, 0xb5);
+using namespace DemoColors;
 
 // A large split "Paste" button: the caption pastes, the arrow offers the variants.
 RibbonCatMenuAction *makePaste(QObject *owner)
