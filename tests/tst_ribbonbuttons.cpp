@@ -1,3 +1,4 @@
+// Large captions are measured at 96 and 144 DPI: ZEL_TEST_DPI_SENSITIVE
 #include "ZelTest.h"
 
 #include "RibbonApplication.h"
@@ -42,19 +43,20 @@ QIcon solidIcon(const QColor &color)
     return icon;
 }
 
-// The narrowest width at which text still fits in two lines, searched by halving steps.
-int twoLineWidth(const QFontMetrics &fm, const QString &text)
+// The narrowest width at which text still fits in two lines, searched by halving steps
+// with QFontMetrics itself; returns the bounding size of the last fitting trial.
+QSize twoLineFit(const QFontMetrics &fm, const QString &text)
 {
     const int flags = Qt::AlignTop | Qt::AlignHCenter | Qt::TextWordWrap;
     const int tw = fm.horizontalAdvance(text);
     int trial = tw;
-    int best = tw;
+    QSize best(tw, 0);
     int step = tw;
     while (step != 0) {
         step /= 2;
         const QRect r = fm.boundingRect(QRect(0, 0, trial, 0), flags, text);
         if (r.height() <= 2 * fm.height()) {
-            best = r.width();
+            best = r.size();
             trial -= step;
         } else {
             trial += step;
@@ -100,6 +102,8 @@ private slots:
     void simpleButtonSize_data();
     void simpleButtonSize();
     void largeCaptionWrapsToTwoLines();
+    void twoLineFitMatchesFontMetrics_data();
+    void twoLineFitMatchesFontMetrics();
     void followsAction();
     void clickTriggers();
     void checkedAndDisabledLooks();
@@ -191,7 +195,7 @@ void tst_RibbonButtons::simpleButtonSize()
     int width = 0;
     int height = scaledBy(22);
     if (size == 0) {
-        width = qMax((tw + 4 < 35 ? tw : twoLineWidth(fm, text)) + 10, 42);
+        width = qMax((tw + 4 < 35 ? tw : twoLineFit(fm, text).width()) + 10, 42);
         height = scaledBy(66);
     } else if (size == 1) {
         width = (withIcon ? 18 : 0) + (text.isEmpty() ? 0 : tw + 10);
@@ -202,6 +206,44 @@ void tst_RibbonButtons::simpleButtonSize()
     QCOMPARE(button.sizeHint(), QSize(width, height));
     QCOMPARE(button.sizePolicy(), QSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed));
     QCOMPARE(button.focusPolicy(), Qt::NoFocus);
+}
+
+void tst_RibbonButtons::twoLineFitMatchesFontMetrics_data()
+{
+    QTest::addColumn<QString>("text");
+
+    QTest::newRow("words") << QStringLiteral("Check Spelling and Grammar");
+    QTest::newRow("one long word") << QStringLiteral("Supercalifragilisticexpialidocious");
+    QTest::newRow("many short words") << QStringLiteral("a b c d e f g h i j k l m n o p");
+    QTest::newRow("double spaces") << QStringLiteral("Two  spaces  between  words");
+    QTest::newRow("leading and trailing") << QStringLiteral("  Padded caption text  ");
+    QTest::newRow("line feed") << QStringLiteral("First line\nsecond line here");
+    QTest::newRow("tab and return") << QStringLiteral("Tab\tseparated\rwords here");
+    QTest::newRow("hyphens") << QStringLiteral("Hyphen-ated-words-make-long-lines");
+    QTest::newRow("mnemonic") << QStringLiteral("&Insert && Format Table");
+    QTest::newRow("cyrillic") << QStringLiteral("\u041f\u0440\u043e\u0432\u0435\u0440\u043a\u0430 "
+                                                "\u043e\u0440\u0444\u043e\u0433\u0440\u0430\u0444\u0438\u0438");
+    QTest::newRow("right to left") << QStringLiteral("\u05e9\u05dc\u05d5\u05dd \u05e2\u05d5\u05dc\u05dd "
+                                                     "\u05d8\u05d5\u05d1 \u05de\u05d0\u05d5\u05d3");
+    QTest::newRow("no font for it") << QStringLiteral("\u6570\u636e \u8868\u683c \u8bbe\u7f6e \u9009\u9879");
+    QTest::newRow("length variants") << QStringLiteral("Long caption variant\u009cShort");
+}
+
+void tst_RibbonButtons::twoLineFitMatchesFontMetrics()
+{
+    // The caption search shapes the text once and lays it out per trial; every trial
+    // must measure what QFontMetrics::boundingRect measures, in every font and at every
+    // resolution, and a remembered result must belong to its own font.
+    QFETCH(QString, text);
+    for (const QFont &font : {QFont(), QFont(QStringLiteral("DejaVu Sans"), 11, QFont::Bold),
+                              QFont(QStringLiteral("DejaVu Serif"), 7, -1, true), QFont()}) {
+        RibbonCatSimpleButton button(*action(text, RibbonCatSimpleAction::SizeLarge), nullptr);
+        button.setFont(font);
+        const QFontMetrics fm = button.fontMetrics();
+        const int tw = fm.horizontalAdvance(text);
+        QVERIFY(tw + 4 >= 35);
+        QCOMPARE(button.sizeHint().width(), qMax(twoLineFit(fm, text).width() + 10, 42));
+    }
 }
 
 void tst_RibbonButtons::largeCaptionWrapsToTwoLines()

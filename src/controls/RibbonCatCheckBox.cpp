@@ -23,11 +23,11 @@ RibbonCatCheckBox::RibbonCatCheckBox(RibbonCatCheckBoxAction &action, QWidget *p
 
     // The action takes the new state first so that every box shown for it follows,
     // then announces the click.
-    connect(this, SIGNAL(clicked(bool)), &action, SLOT(setChecked(bool)));
-    connect(this, SIGNAL(clicked(bool)), &action, SIGNAL(triggered(bool)));
-    connect(&action, SIGNAL(toggled(bool)), this, SLOT(setChecked(bool)));
-    connect(&action, SIGNAL(actionEnabled(bool)), this, SLOT(setEnabled(bool)));
-    connect(&action, SIGNAL(changed()), this, SLOT(onActionChanged()));
+    connect(this, &QAbstractButton::clicked, &action, &QAction::setChecked);
+    connect(this, &QAbstractButton::clicked, &action, &QAction::triggered);
+    connect(&action, &QAction::toggled, this, &QAbstractButton::setChecked);
+    connect(&action, &RibbonCatCheckBoxAction::actionEnabled, this, &QWidget::setEnabled);
+    connect(&action, &QAction::changed, this, &RibbonCatCheckBox::onActionChanged);
 }
 
 RibbonCatCheckBox::~RibbonCatCheckBox() = default;

@@ -34,10 +34,10 @@ RibbonCatComboComboBox::RibbonCatComboComboBox(RibbonCatComboAction &action, QWi
 
     connect(this, SIGNAL(currentIndexChanged(const QString &)), &action,
             SLOT(setSelectionText(const QString &)));
-    connect(this, SIGNAL(currentIndexChanged(int)), &action, SLOT(setSelectionIndex(int)));
-    connect(&action, SIGNAL(itemAdded(const QIcon &, const QString &)), this,
-            SLOT(onItemAdded(const QIcon &, const QString &)));
-    connect(&action, SIGNAL(editableChanged()), this, SLOT(onEditableChanged()));
+    connect(this, QOverload<int>::of(&QComboBox::currentIndexChanged), &action,
+            &RibbonCatComboAction::setSelectionIndex);
+    connect(&action, &RibbonCatComboAction::itemAdded, this, &RibbonCatComboComboBox::onItemAdded);
+    connect(&action, &RibbonCatComboAction::editableChanged, this, &RibbonCatComboComboBox::onEditableChanged);
     addAction(&action);
     setFixedHeight(22);
 }

@@ -7,6 +7,7 @@
 #include "RibbonPlatform.h"
 #include "RibbonScale_p.h"
 #include "RibbonStyle.h"
+#include "RibbonTextFit_p.h"
 #include "RibbonViewPopup.h"
 
 #include <QActionEvent>
@@ -72,8 +73,8 @@ RibbonCatMenuButton::RibbonCatMenuButton(RibbonCatMenuAction &action, QWidget *p
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setMouseTracking(true);
     setFocusPolicy(Qt::NoFocus);
-    connect(&action, SIGNAL(changed()), this, SLOT(update()));
-    connect(&action, SIGNAL(defaultActionChanged()), this, SLOT(onDefaultActionChanged()));
+    connect(&action, &QAction::changed, this, QOverload<>::of(&QWidget::update));
+    connect(&action, &RibbonMenuAction::defaultActionChanged, this, &RibbonCatMenuButton::onDefaultActionChanged);
 }
 
 RibbonCatMenuButton::~RibbonCatMenuButton() = default;
@@ -254,34 +255,17 @@ void RibbonCatMenuButtonBPriv::actionEvent(QActionEvent *event)
     if (!isLarge())
         return;
 
-    const QFontMetrics fm(owner.font());
-    const QString text = owner.action()->text();
-    const int textWidth = fm.horizontalAdvance(text);
-    const int lineHeight = fm.height();
-    if (textWidth + 4 < 35) {
-        textSize = QSize(textWidth + 10, lineHeight);
+    const RibbonCaptionFit fit = ribbonCaptionFit(owner, owner.action()->text());
+    const int lineHeight = owner.fontMetrics().height();
+    if (!fit.wrapped) {
+        textSize = QSize(fit.textWidth + 10, lineHeight);
         lineCount = 1;
         return;
     }
-
     // The narrowest wrapping width at which the caption still fits in two lines.
-    const int limit = 2 * lineHeight;
-    const int flags = Qt::AlignTop | Qt::AlignHCenter | Qt::TextWordWrap;
-    int trial = textWidth;
-    int best = textWidth;
-    int step = textWidth;
-    while (step != 0) {
-        step /= 2;
-        const QRect measured = fm.boundingRect(QRect(0, 0, trial, 0), flags, text);
-        if (measured.height() <= limit) {
-            best = measured.width();
-            lineCount = qRound(double(measured.height()) / lineHeight);
-            trial -= step;
-        } else {
-            trial += step;
-        }
-    }
-    textSize = QSize(best + 10, 2 * lineHeight);
+    if (fit.height > 0)
+        lineCount = qRound(double(fit.height) / lineHeight);
+    textSize = QSize(fit.width + 10, 2 * lineHeight);
 }
 
 void RibbonCatMenuButtonBPriv::sizeHint(QSize *result)

@@ -5,9 +5,9 @@
 #include "RibbonPaint_p.h"
 #include "RibbonScale_p.h"
 #include "RibbonStyle.h"
+#include "RibbonTextFit_p.h"
 
 #include <QActionEvent>
-#include <QHash>
 #include <QPainter>
 #include <QPointer>
 
@@ -23,47 +23,6 @@ const int kSmallRow = 22;
 const int kLargeIcon = 32;
 const int kSmallIcon = 16;
 const int kLargeTextFlags = Qt::AlignTop | Qt::AlignHCenter | Qt::TextWordWrap;
-
-// Width of a large button's caption: one line when short, otherwise the narrowest
-// width at which the text still fits in two lines.
-int largeCaptionWidth(const QFontMetrics &fm, const QString &text)
-{
-    const int textWidth = fm.horizontalAdvance(text);
-    if (textWidth + 4 < 35)
-        return textWidth;
-    const int limit = 2 * fm.height();
-    int trial = textWidth;
-    int best = textWidth;
-    int step = textWidth;
-    while (step != 0) {
-        step /= 2;
-        const QRect bounds = fm.boundingRect(QRect(0, 0, trial, 0), kLargeTextFlags, text);
-        if (bounds.height() <= limit) {
-            best = bounds.width();
-            trial -= step;
-        } else {
-            trial += step;
-        }
-    }
-    return best;
-}
-
-// The search above shapes the caption several times; remember its result per caption,
-// font and resolution so that rebuilding or re-syncing a button does not repeat it.
-int cachedLargeCaptionWidth(const QWidget &widget, const QString &text)
-{
-    static QHash<QString, int> cache;
-    const QString key = widget.font().key() % QLatin1Char('|')
-                        % QString::number(widget.logicalDpiY()) % QLatin1Char('|') % text;
-    const auto it = cache.constFind(key);
-    if (it != cache.constEnd())
-        return *it;
-    if (cache.size() >= 2048)
-        cache.clear();
-    const int width = largeCaptionWidth(widget.fontMetrics(), text);
-    cache.insert(key, width);
-    return width;
-}
 
 } // namespace
 
@@ -92,8 +51,8 @@ RibbonCatSimpleButton::RibbonCatSimpleButton(RibbonCatSimpleAction &action, QWid
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setMouseTracking(true);
     setFocusPolicy(Qt::NoFocus);
-    connect(&action, SIGNAL(changed()), this, SLOT(update()));
-    connect(this, SIGNAL(clicked()), &action, SLOT(trigger()));
+    connect(&action, &QAction::changed, this, QOverload<>::of(&QWidget::update));
+    connect(this, &QAbstractButton::clicked, &action, &QAction::trigger);
 }
 
 RibbonCatSimpleButton::~RibbonCatSimpleButton() = default;
@@ -114,7 +73,7 @@ QSize RibbonCatSimpleButton::sizeHint() const
     int height = scaled(kSmallRow);
     switch (d->size) {
     case RibbonCatSimpleAction::SizeLarge:
-        width = qMax(cachedLargeCaptionWidth(*this, caption) + 10, 42);
+        width = qMax(ribbonCaptionFit(*this, caption).captionWidth() + 10, 42);
         height = scaled(kLargeRow);
         break;
     case RibbonCatSimpleAction::SizeMedium:

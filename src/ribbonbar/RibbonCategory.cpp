@@ -125,14 +125,19 @@ RibbonCategory::RibbonCategory(QWidget *parent, RibbonCategoryAction &action)
     setMouseTracking(true);
     setAttribute(Qt::WA_Hover);
 
-    connect(&action, SIGNAL(actionAdded(RibbonAction*)), this, SLOT(addRibbonAction(RibbonAction*)));
-    connect(&action, SIGNAL(actionRemoved(RibbonAction*)), this, SLOT(removeRibbonAction(RibbonAction*)));
-    connect(&action, SIGNAL(changed()), this, SLOT(onCategoryChanged()));
+    connect(&action, &RibbonCategoryAction::actionAdded, this, &RibbonCategory::addRibbonAction);
+    connect(&action, &RibbonCategoryAction::actionRemoved, this, &RibbonCategory::removeRibbonAction);
+    connect(&action, &QAction::changed, this, &RibbonCategory::onCategoryChanged);
 
     d->layout = new RibbonCategoryLayout(this);
     setLayout(d->layout);
+    // Every addition recomputes the whole arrangement: arrange the initial controls once.
+    d->layout->m_suppressed = true;
     for (RibbonAction *member : action.actions())
         QWidget::addAction(member);
+    d->layout->m_suppressed = false;
+    d->layout->recompute();
+    d->layout->invalidate();
 }
 
 RibbonCategory::~RibbonCategory() = default;

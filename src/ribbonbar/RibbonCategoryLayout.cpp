@@ -55,8 +55,10 @@ void RibbonCategoryLayout::addItem(QLayoutItem *item)
         return;
     m_items.append(item);
     m_rects.append(QRect());
-    recompute();
-    invalidate();
+    if (!m_suppressed) {
+        recompute();
+        invalidate();
+    }
 }
 
 QLayoutItem *RibbonCategoryLayout::itemAt(int index) const

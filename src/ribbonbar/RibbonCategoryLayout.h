@@ -36,6 +36,9 @@ public:
     QRect itemRect(int index) const;
 
 private:
+    // The category adds its initial controls with the arrangement suspended.
+    friend class RibbonCategory;
+
     void recompute();
     int arrangeAutomatic(int first, int end, int x0);
     int arrangeRows(int first, int end, int x0, int rowCount);

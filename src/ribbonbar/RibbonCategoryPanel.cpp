@@ -36,8 +36,8 @@ RibbonCategoryPanel::RibbonCategoryPanel(RibbonCategoryPanels &panels, RibbonCat
 
     for (RibbonCategoryAction *category : tab.categories())
         addCategory(category);
-    connect(&tab, SIGNAL(categoryAdded(RibbonCategoryAction*)), this, SLOT(addCategory(RibbonCategoryAction*)));
-    connect(&tab, SIGNAL(categoryRemoved(RibbonCategoryAction*)), this, SLOT(removeCategory(RibbonCategoryAction*)));
+    connect(&tab, &RibbonCategoriesPanelAction::categoryAdded, this, &RibbonCategoryPanel::addCategory);
+    connect(&tab, &RibbonCategoriesPanelAction::categoryRemoved, this, &RibbonCategoryPanel::removeCategory);
 }
 
 RibbonCategoryPanel::~RibbonCategoryPanel() = default;

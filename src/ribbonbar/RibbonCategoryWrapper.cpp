@@ -8,6 +8,7 @@
 #include "RibbonPaint_p.h"
 #include "RibbonScale_p.h"
 #include "RibbonStyle.h"
+#include "RibbonTextFit_p.h"
 
 #include <QFontMetrics>
 #include <QIcon>
@@ -128,31 +129,8 @@ QSize RibbonCategoryWrapper::colapsedSize() const
     if (d->colapsedSize.isValid() && text == d->colapsedText && font() == d->colapsedFont)
         return d->colapsedSize;
 
-    const QFontMetrics fm = fontMetrics();
-    const int textWidth = fm.horizontalAdvance(text);
-    const int lineHeight = fm.height();
-
-    int width = 0;
-    if (textWidth + 4 < 35) {
-        width = qMax(textWidth, 38);
-    } else {
-        // Narrowest width at which the caption still wraps into at most two lines.
-        int best = textWidth;
-        int trial = textWidth;
-        int step = textWidth;
-        do {
-            step /= 2;
-            const QRect bounds = fm.boundingRect(QRect(0, 0, trial, 0),
-                                                 Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, text);
-            if (bounds.height() <= 2 * lineHeight) {
-                best = bounds.width();
-                trial -= step;
-            } else {
-                trial += step;
-            }
-        } while (step != 0);
-        width = qMax(best, 38);
-    }
+    // Short captions stay on one line, longer ones take the narrowest two-line wrapping.
+    const int width = qMax(ribbonCaptionFit(*this, text).captionWidth(), 38);
     d->colapsedText = text;
     d->colapsedFont = font();
     d->colapsedSize = QSize(width + 12, scaled(85));
