@@ -156,7 +156,7 @@ public:
         return p;
     }
 
-    void createAndShow(const Workload &) override
+    void createAndShow(const Workload &w) override
     {
         m_window = new QWidget;
         auto *v = new QVBoxLayout(m_window);
@@ -167,7 +167,7 @@ public:
         m_tabWidget = new QTabWidget(m_window);
         v->addWidget(m_tabWidget);
         v->addWidget(new QWidget(m_window), 1);
-        m_window->resize(1600, 800);
+        m_window->resize(w.showWidth, 800);
         for (const FloorTab &t : qAsConst(m_tabs))
             m_tabWidget->addTab(page(t), t.caption);
         m_window->show();

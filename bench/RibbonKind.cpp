@@ -87,11 +87,11 @@ public:
         }
     }
 
-    void createAndShow(const Workload &) override
+    void createAndShow(const Workload &w) override
     {
         m_window = new RibbonMainWindow;
         m_window->setCentralWidget(new QWidget);
-        m_window->resize(1600, 800);
+        m_window->resize(w.showWidth, 800);
         RibbonMenuBar &bar = m_window->ribbonMenuBar();
         for (RibbonCategoriesPanelAction *tab : qAsConst(m_tabs))
             bar.addAction(tab);

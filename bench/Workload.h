@@ -22,6 +22,10 @@ struct Workload
     int commands = 0;
     int repetitions = 100; // resize steps and tab switches
     int popupRepetitions = 20;
+    // Width the window is shown at. The ribbon window cannot be narrower than its tab
+    // row; the floor is shown at the width the ribbon's window actually took, so that
+    // both paint (and keep a backing store of) the same number of pixels.
+    int showWidth = 1600;
 };
 
 Workload workload(const QString &name);

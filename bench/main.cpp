@@ -105,9 +105,12 @@ void quietHandler(QtMsgType type, const QMessageLogContext &, const QString &msg
     std::fprintf(stderr, "%s\n", qPrintable(msg));
 }
 
-int child(const QString &workloadName, const QString &kindName, const QString &only, int narrow, int wide)
+int child(const QString &workloadName, const QString &kindName, const QString &only, int narrow, int wide,
+          int showWidth)
 {
-    const Workload w = workload(workloadName);
+    Workload w = workload(workloadName);
+    if (showWidth > 0)
+        w.showWidth = showWidth;
     if (!w.tabs) {
         std::fprintf(stderr, "unknown workload %s\n", qPrintable(workloadName));
         return 2;
@@ -138,6 +141,7 @@ int child(const QString &workloadName, const QString &kindName, const QString &o
     out[QStringLiteral("show_ms")] = ms(t);
 
     const qint64 rssShown = statusKb("VmRSS:");
+    out[QStringLiteral("shown_px")] = kind->window()->width();
     out[QStringLiteral("widgets")] = QApplication::allWidgets().size() - widgetsStart;
     out[QStringLiteral("rss_per_button_kb")] = double(rssShown - rssStart) / buttons;
 
@@ -234,18 +238,21 @@ const Metric metrics[] = {
     {"rss_actions_per_button_kb", "  of which the action tree (KB)", false},
     {"widgets", "widgets created", false},
     {"folded_at_narrow", "groups folded at the narrow width", false},
+    {"shown_px", "window width when shown (px)", false},
     {"narrow_px", "narrow width of the resize step (px)", false},
     {"wide_px", "wide width of the resize step (px)", false},
 };
 
 QMap<QString, double> runChild(const QString &self, const QString &wl, const QString &kind, int narrow = 0,
-                               int wide = 0)
+                               int wide = 0, int shown = 0)
 {
     QProcess p;
     p.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     QStringList args{QStringLiteral("--workload"), wl, QStringLiteral("--kind"), kind};
     if (narrow > 0)
         args << QStringLiteral("--narrow") << QString::number(narrow) << QStringLiteral("--wide") << QString::number(wide);
+    if (shown > 0)
+        args << QStringLiteral("--shown-width") << QString::number(shown);
     p.start(self, args);
     p.waitForFinished(-1);
     QMap<QString, double> r;
@@ -303,7 +310,7 @@ int parent(const QStringList &workloads, const QString &csvPath, int runs)
         for (int i = 0; i < runs; ++i) {
             r << runChild(self, wl, QStringLiteral("ribbon"));
             f << runChild(self, wl, QStringLiteral("floor"), int(r.last().value(QStringLiteral("narrow_px"))),
-                          int(r.last().value(QStringLiteral("wide_px"))));
+                          int(r.last().value(QStringLiteral("wide_px"))), int(r.last().value(QStringLiteral("shown_px"))));
         }
         ribbon[wl] = medianOf(r);
         floor[wl] = medianOf(f);
@@ -369,6 +376,7 @@ int main(int argc, char *argv[])
                       QStringLiteral("M")});
     parser.addOption({QStringLiteral("narrow"), QStringLiteral("Child: narrow width of the resize step."), QStringLiteral("PX")});
     parser.addOption({QStringLiteral("wide"), QStringLiteral("Child: wide width of the resize step."), QStringLiteral("PX")});
+    parser.addOption({QStringLiteral("shown-width"), QStringLiteral("Child: width the window is shown at."), QStringLiteral("PX")});
     parser.addOption({QStringLiteral("workloads"), QStringLiteral("Workloads to run, comma separated (S,M,L)."),
                       QStringLiteral("LIST"), QStringLiteral("S,M,L")});
     parser.addOption({QStringLiteral("csv"), QStringLiteral("CSV output file."), QStringLiteral("FILE"),
@@ -383,7 +391,7 @@ int main(int argc, char *argv[])
         zel::RibbonApplication app(argc, argv);
         return child(parser.value(QStringLiteral("workload")), parser.value(QStringLiteral("kind")),
                      parser.value(QStringLiteral("only")), parser.value(QStringLiteral("narrow")).toInt(),
-                     parser.value(QStringLiteral("wide")).toInt());
+                     parser.value(QStringLiteral("wide")).toInt(), parser.value(QStringLiteral("shown-width")).toInt());
     }
     QCoreApplication app(argc, argv);
     return parent(parser.value(QStringLiteral("workloads")).split(QLatin1Char(',')), parser.value(QStringLiteral("csv")),
