@@ -143,7 +143,7 @@ QWidget *makeBarsScreen()
     signedIn->setContentsMargins(6, 0, 0, 0);
     status->addLoginStatusIcon(signedIn);
 
-    auto *pages = new RibbonCatMenuAction(makeIcon(Glyph::Page, Qt::white), QStringLiteral("Page 2 of 5"),
+    auto *pages = new RibbonCatMenuAction(makeIcon(Glyph::Page, DemoColors::Ink), QStringLiteral("Page 2 of 5"),
                                           RibbonCatMenuAction::MenuTypeButton,
                                           RibbonCatMenuAction::MenuSizeMedium, RibbonCatMenuAction::PopupMenu,
                                           window);

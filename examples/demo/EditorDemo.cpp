@@ -1,5 +1,6 @@
 #include "EditorDemo.h"
 
+#include "DemoIcons.h"
 #include "EditorDemoIcons.h"
 
 #include "BackstageListModel.h"
@@ -987,7 +988,7 @@ void EditorDemo::buildStatusBar()
 {
     QTextEdit *edit = d->edit;
     RibbonStatusBar &status = ribbonStatusBar();
-    d->pageStatus = new RibbonCatMenuAction(editorIcon(EditorIcon::Page, Qt::white), tr("Page 1 of 1"),
+    d->pageStatus = new RibbonCatMenuAction(editorIcon(EditorIcon::Page, DemoColors::Ink), tr("Page 1 of 1"),
                                             RibbonCatMenuAction::MenuTypeButton, RibbonCatMenuAction::MenuSizeMedium,
                                             RibbonCatMenuAction::PopupMenu, this);
     auto *top = new RibbonSimpleAction(tr("Go to Beginning"), this);
@@ -996,7 +997,7 @@ void EditorDemo::buildStatusBar()
     connect(end, &QAction::triggered, this, [edit] { edit->moveCursor(QTextCursor::End); });
     d->pageStatus->addAction(top, false);
     d->pageStatus->addAction(end, false);
-    d->wordStatus = new RibbonCatMenuAction(editorIcon(EditorIcon::Words, Qt::white), tr("0 words"),
+    d->wordStatus = new RibbonCatMenuAction(editorIcon(EditorIcon::Words, DemoColors::Ink), tr("0 words"),
                                             RibbonCatMenuAction::MenuTypeButton, RibbonCatMenuAction::MenuSizeMedium,
                                             RibbonCatMenuAction::PopupMenu, this);
     auto *stats = new RibbonSimpleAction(tr("Word Count..."), this);
