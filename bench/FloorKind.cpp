@@ -132,7 +132,10 @@ public:
                 break;
             }
             case Slot::Combo: {
+                // Editable, as the ribbon's combos are: an editable QComboBox builds its
+                // line edit and item list up front, a read-only one only on first popup.
                 auto *combo = new QComboBox(box);
+                combo->setEditable(true);
                 combo->addItems({QStringLiteral("First"), QStringLiteral("Second"), QStringLiteral("Third")});
                 shortItem(combo);
                 break;
