@@ -18,63 +18,6 @@ using namespace zel;
 
 namespace {
 
-// The grey scroll-bar sheet that several sheets end with.
-const char kScrollBarSheet[] =
-    "QScrollBar:horizontal { background-color: #f3f3f3; height: 15px; margin: 0px 15px 0px 15px; }"
-    "QScrollBar::handle:horizontal { border: 1px solid; border-color: #ababab; background-color: white; min-width: 15px; }"
-    "QScrollBar::handle:horizontal:hover { border-color: #ababab; background-color: #f0f0f0; }"
-    "QScrollBar::handle:horizontal:pressed { border-color: #767676; background-color: #f0f0f0; }"
-    "QScrollBar::add-line:horizontal { border: 1px solid; border-color: #ababab; background-color: white; width: 15px; subcontrol-position: right; subcontrol-origin: margin; }"
-    "QScrollBar::add-line:horizontal:hover { border-color: #767676; background-color: white; }"
-    "QScrollBar::add-line:horizontal:pressed { border-color: #767676; background-color: #f0f0f0; }"
-    "QScrollBar::sub-line:horizontal { border: 1px solid; border-color: #ababab; background-color: white; width: 15px; subcontrol-position: left; subcontrol-origin: margin; }"
-    "QScrollBar::sub-line:horizontal:hover { border-color: #767676; background-color: white; }"
-    "QScrollBar::sub-line:horizontal:pressed { border-color: #767676; background-color: #f0f0f0; }"
-    "QScrollBar::left-arrow { border-right: 4px solid #767676; border-top: 4px solid none; border-bottom: 4px solid none; width: 0px; height: 0px; }"
-    "QScrollBar::left-arrow:hover { border-right: 4px solid #767676; border-top: 4px solid none; border-bottom: 4px solid none; width: 0px; height: 0px; }"
-    "QScrollBar::left-arrow:pressed { border-right: 4px solid #767676; border-top: 4px solid none; border-bottom: 4px solid none; width: 0px; height: 0px; }"
-    "QScrollBar::right-arrow { border-left: 4px solid #767676; border-top: 4px solid none; border-bottom: 4px solid none; width: 0px; height: 0px; }"
-    "QScrollBar::right-arrow:hover { border-left: 4px solid #767676; border-top: 4px solid none; border-bottom: 4px solid none; width: 0px; height: 0px; }"
-    "QScrollBar::right-arrow:pressed { border-left: 4px solid #767676; border-top: 4px solid none; border-bottom: 4px solid none; width: 0px; height: 0px; }"
-    "QScrollBar::add-page:horizontal, QScrollBar::sub-page:horizontal { background: none; }"
-    "QScrollBar:vertical { background-color: #f3f3f3; width: 15px; margin: 15px 0px 15px 0px; }"
-    "QScrollBar::handle:vertical { border: 1px solid; border-color: #ababab; background-color: white; min-height: 15px; }"
-    "QScrollBar::handle:vertical:hover { border-color: #ababab; background-color: #f0f0f0; }"
-    "QScrollBar::handle:vertical:pressed { border-color: #767676; background-color: #f0f0f0; }"
-    "QScrollBar::add-line:vertical { border: 1px solid; border-color: #ababab; background-color: white; height: 15px; subcontrol-position: bottom; subcontrol-origin: margin; }"
-    "QScrollBar::add-line:vertical:hover { border-color: #767676; background-color: white; }"
-    "QScrollBar::add-line:vertical:pressed { border-color: #767676; background-color: #f0f0f0; }"
-    "QScrollBar::sub-line:vertical { border: 1px solid; border-color: #ababab; background-color: white; height: 15px; subcontrol-position: top; subcontrol-origin: margin; }"
-    "QScrollBar::sub-line:vertical:hover { border-color: #767676; background-color: white; }"
-    "QScrollBar::sub-line:vertical:pressed { border-color: #767676; background-color: #f0f0f0; }"
-    "QScrollBar::up-arrow { border-left: 4px solid none; border-right: 4px solid none; border-bottom: 4px solid #767676; width: 0px; height: 0px; }"
-    "QScrollBar::up-arrow:hover { border-left: 4px solid none; border-right: 4px solid none; border-bottom: 4px solid #767676; width: 0px; height: 0px; }"
-    "QScrollBar::up-arrow:pressed { border-left: 4px solid none; border-right: 4px solid none; border-bottom: 4px solid #767676; width: 0px; height: 0px; }"
-    "QScrollBar::down-arrow { border-left: 4px solid none; border-right: 4px solid none; border-top: 4px solid #767676; width: 0px; height: 0px; }"
-    "QScrollBar::down-arrow:hover { border-left: 4px solid none; border-right: 4px solid none; border-top: 4px solid #767676; width: 0px; height: 0px; }"
-    "QScrollBar::down-arrow:pressed { border-left: 4px solid none; border-right: 4px solid none; border-top: 4px solid #767676; width: 0px; height: 0px; }"
-    "QScrollBar::add-page:vertical, QScrollBar::sub-page:vertical { background: none; }";
-
-const char kMainLeftListHead[] =
-    "QListWidget {spacing: 0; background-color: #2b579a; border: 0px solid none; font: 9pt \"Segoe UI\"; color: white;}";
-const char kMainLeftListTail[] =
-    "QListWidget::item:selected:!active { background: #3e6db5; color: white; }"
-    "QListWidget::item:hover { background: #19478a; color: white; }"
-    "QListWidget::item:disabled { background: #2b579a; color: #3e6db5; }";
-
-const char kListHead[] =
-    "QListWidget { border-right: 1px solid #e1e1e1; font: 11pt \"Segoe UI\"; color: #444444; }";
-const char kListTail[] =
-    "QListWidget::item:selected:!active { background: #7ab0e7; color: #444444; }"
-    "QListWidget::item:hover { background: #d5e1f2; }"
-    "QListWidget::item:disabled { background: transparent; }";
-
-QString rowRule(const char *height)
-{
-    return QStringLiteral("QListWidget::item { border: 0px solid white; height: ") + QLatin1String(height)
-        + QStringLiteral("px; }");
-}
-
 int messageCount = 0;
 
 void countingHandler(QtMsgType, const QMessageLogContext &, const QString &)
@@ -117,33 +60,21 @@ private slots:
     void cleanup();
 
     void paletteIsSharedAndTyped();
-    void emptyBasePalette();
     void dpiFactorAndRowHeights();
     void colors_data();
     void colors();
     void styleSheets_data();
     void styleSheets();
-    void fonts_data();
-    void fonts();
     void compiledInImages_data();
     void compiledInImages();
-    void imagesLoadFromGivenDirectory();
-    void missingImagesStayNullSilently();
+    void imageDirectory();
 
-    void symbolsOutsideRangePaintNothing_data();
-    void symbolsOutsideRangePaintNothing();
-    void firstAndLastSymbols_data();
-    void firstAndLastSymbols();
-    void arrowSymbols_data();
-    void arrowSymbols();
-    void symbolBarArrowDown();
+    void symbols_data();
+    void symbols();
     void symbolDropDownDrawsWrapperIcon();
     void drawSymbolKeepsPenAndBrush();
 
-    void createStyleKinds_data();
-    void createStyleKinds();
-    void controlStyles();
-    void defaultAndCurrentStyle();
+    void styleFactory();
 };
 
 void TestRibbonStyle::cleanup()
@@ -154,27 +85,13 @@ void TestRibbonStyle::cleanup()
 void TestRibbonStyle::paletteIsSharedAndTyped()
 {
     const RibbonStyle &first = RibbonApplication::theApp().ribbonStyle();
-    const RibbonStyle &second = RibbonApplication::theApp().ribbonStyle();
-    QCOMPARE(&first, &second);
-    QVERIFY(qobject_cast<const DefaultRibbonStyle *>(&first));
+    QCOMPARE(&first, &RibbonApplication::theApp().ribbonStyle());
     QCOMPARE(first.metaObject()->className(), "zel::DefaultRibbonStyle");
-    QCOMPARE(RibbonStyle::staticMetaObject.className(), "zel::RibbonStyle");
     QCOMPARE(int(RibbonApplication::theApp().getRibbonStyle()), 1);
     // The welcome page's pressed colour is the blue pressed colour itself, not a copy.
     QCOMPARE(&first.backstageWelcomeBluePressedColor(), &first.backstageBluePressedColor());
     QCOMPARE(first.backstageWelcomeBluePressedColor(), QColor(163, 189, 227));
     QVERIFY(!first.toolBarFillColor().isValid());
-}
-
-void TestRibbonStyle::emptyBasePalette()
-{
-    const RibbonStyle empty;
-    QVERIFY(!empty.mainClientColor().isValid());
-    QVERIFY(!empty.backstageWelcomeBluePressedColor().isValid());
-    QVERIFY(empty.comboBox().isNull());
-    QVERIFY(empty.tooltipBack().isNull());
-    QVERIFY(empty.backstageScrollBarStyle().isEmpty());
-    QCOMPARE(empty.backstageSmallFont(), QFont());
 }
 
 void TestRibbonStyle::dpiFactorAndRowHeights()
@@ -188,14 +105,15 @@ void TestRibbonStyle::dpiFactorAndRowHeights()
     QCOMPARE(factor.first, highDpi ? 1.5 : 1.0);
     QCOMPARE(factor.second, highDpi ? 1.5 : 1.0);
 
+    const auto rowRule = [](const char *height) {
+        return QStringLiteral("QListWidget::item { border: 0px solid white; height: %1px; }").arg(QLatin1String(height));
+    };
     const RibbonStyle &style = RibbonApplication::theApp().ribbonStyle();
-    const QString listSheet = QLatin1String(kListHead) + rowRule(highDpi ? "82.5" : "55")
-        + QLatin1String(kListTail) + QLatin1String(kScrollBarSheet);
-    QCOMPARE(style.backstageListWidgetStyle(), listSheet);
-    QCOMPARE(style.backstageListWidgetWithBorderStyle(),
-             listSheet + QStringLiteral("QListWidget { border: 1px solid #eeeeee; }"));
-    QCOMPARE(style.backstageMainLeftListWidget(),
-             QLatin1String(kMainLeftListHead) + rowRule(highDpi ? "57" : "38") + QLatin1String(kMainLeftListTail));
+    const QString &list = style.backstageListWidgetStyle();
+    QVERIFY(list.contains(rowRule(highDpi ? "82.5" : "55")));
+    QVERIFY(list.endsWith(style.backstageScrollBarStyle()));
+    QCOMPARE(style.backstageListWidgetWithBorderStyle(), list + QStringLiteral("QListWidget { border: 1px solid #eeeeee; }"));
+    QVERIFY(style.backstageMainLeftListWidget().contains(rowRule(highDpi ? "57" : "38")));
 }
 
 void TestRibbonStyle::colors_data()
@@ -224,123 +142,51 @@ void TestRibbonStyle::colors()
     QFETCH(QColor, actual);
     QFETCH(QColor, expected);
     QCOMPARE(actual, expected);
-    QCOMPARE(actual.alpha(), 255);
 }
 
 void TestRibbonStyle::styleSheets_data()
 {
-    QTest::addColumn<QString>("actual");
-    QTest::addColumn<QString>("expected");
+    QTest::addColumn<QString>("sheet");
+    QTest::addColumn<QString>("expected"); // empty: the sheet is only checked to parse
 
     const RibbonStyle &s = RibbonApplication::theApp().ribbonStyle();
-    QTest::newRow("backstageScrollBarStyle") << s.backstageScrollBarStyle() << QString::fromLatin1(kScrollBarSheet);
-    QTest::newRow("backstageScrollBarStyleBlue") << s.backstageScrollBarStyleBlue() << QString::fromLatin1(
-        "QScrollBar:vertical { background-color: #2b579a; width: 15px; margin: 15px 0px 15px 0px; }"
-        "QScrollBar::handle:vertical { border: 1px solid; border-color: white; background-color: #2b579a ; min-height: 15px; }"
-        "QScrollBar::handle:vertical:hover { border-color: white; background-color: #2b579a; }"
-        "QScrollBar::handle:vertical:pressed { border-color: white; background-color: #2b579a; }"
-        "QScrollBar::add-line:vertical { border: 1px solid; border-color: white; background-color: #2b579a; height: 15px; subcontrol-position: bottom; subcontrol-origin: margin; }"
-        "QScrollBar::add-line:vertical:hover { border-color: white; background-color: #2b579a; }"
-        "QScrollBar::add-line:vertical:pressed { border-color: white; background-color: #2b579a; }"
-        "QScrollBar::sub-line:vertical { border: 1px solid; border-color: white; background-color: #2b579a; height: 15px; subcontrol-position: top; subcontrol-origin: margin; }"
-        "QScrollBar::sub-line:vertical:hover { border-color: white; background-color: #2b579a; }"
-        "QScrollBar::sub-line:vertical:pressed { border-color: white; background-color: #2b579a; }"
-        "QScrollBar::up-arrow { border-left: 4px solid none; border-right: 4px solid none; border-bottom: 4px solid white; width: 0px; height: 0px; }"
-        "QScrollBar::up-arrow:hover { border-left: 4px solid none; border-right: 4px solid none; border-bottom: 4px solid white; width: 0px; height: 0px; }"
-        "QScrollBar::up-arrow:pressed { border-left: 4px solid none; border-right: 4px solid none; border-bottom: 4px solid white; width: 0px; height: 0px; }"
-        "QScrollBar::down-arrow { border-left: 4px solid none; border-right: 4px solid none; border-top: 4px solid white; width: 0px; height: 0px; }"
-        "QScrollBar::down-arrow:hover { border-left: 4px solid none; border-right: 4px solid none; border-top: 4px solid white; width: 0px; height: 0px; }"
-        "QScrollBar::down-arrow:pressed { border-left: 4px solid none; border-right: 4px solid none; border-top: 4px solid white; width: 0px; height: 0px; }"
-        "QScrollBar::add-page:vertical, QScrollBar::sub-page:vertical { background: none; }");
-    QTest::newRow("backstageMenuStyle") << s.backstageMenuStyle() << QString::fromLatin1(
-        "QComboBox { font: 9pt \"Segoe UI\"; color: #444444; border: 1px solid; border-color: #b5b5b5; background-color: white; }"
-        "QComboBox:hover { border-color: #7ab0e7; background-color: #d5e1f2; }"
-        "QComboBox:pressed { border-color: #7ab0e7; background-color: #a3bde3; }"
-        "QComboBox::drop-down { border-width: 0px; }"
-        "QComboBox::down-arrow { border-left: 4px solid none; border-right: 4px solid none; border-top: 4px solid #444444; width: 0px; height: 0px; }"
-        "QComboBox::down-arrow::hover { border-left: 4px solid none; border-right: 4px solid none; border-top: 4px solid #444444; width: 0px; height: 0px; }"
-        "QComboBox::down-arrow::pressed { border-left: 4px solid none; border-right: 4px solid none; border-top: 4px solid #444444; width: 0px; height: 0px; }"
-        "QComboBox QAbstractItemView { font: 9pt \"Segoe UI\"; color: #444444; outline: 0px; border: 1px solid #b5b5b5;selection-color: #444444; selection-background-color: #d5e1f2; }"
-        "QComboBox QAbstractItemView::item { border: 1px solid white; }")
-        + QLatin1String(kScrollBarSheet);
-    QTest::newRow("backstageSpinBoxStyle") << s.backstageSpinBoxStyle() << QString::fromLatin1(
-        "QSpinBox { border: 1px solid; border-color: #b5b5b5; background-color: white; }"
-        "QSpinBox:hover { border-color: #7ab0e7; }"
-        "QSpinBox::up-arrow { border-left: 4px solid none; border-right: 4px solid none; border-bottom: 4px solid #767676; width: 0px; height: 0px; }"
-        "QSpinBox::up-arrow:hover { border-left: 4px solid none; border-right: 4px solid none; border-bottom: 4px solid #767676; width: 0px; height: 0px; }"
-        "QSpinBox::up-arrow:pressed { border-left: 4px solid none; border-right: 4px solid none; border-bottom: 4px solid #767676; width: 0px; height: 0px; }"
-        "QSpinBox::up-button { width: 16px; background-color: white; }"
-        "QSpinBox::up-button:hover { border-left: 1px solid; border-bottom: 1px solid; border-color: #7ab0e7; width: 15px; height: 10px; background-color: #d5e1f2; }"
-        "QSpinBox::up-button:pressed { border-left: 1px solid; border-bottom: 1px solid; border-color: #7ab0e7; width: 15px; height: 10px; background-color: #a3bde3; }"
-        "QSpinBox::down-arrow { border-left: 4px solid none; border-right: 4px solid none; border-top: 4px solid #767676; width: 0px; height: 0px; }"
-        "QSpinBox::down-arrow:hover { border-left: 4px solid none; border-right: 4px solid none; border-top: 4px solid #767676; width: 0px; height: 0px; }"
-        "QSpinBox::down-arrow:pressed { border-left: 4px solid none; border-right: 4px solid none; border-top: 4px solid #767676; width: 0px; height: 0px; }"
-        "QSpinBox::down-button { width: 16px; background-color: white; }"
-        "QSpinBox::down-button:hover { border-left: 1px solid; border-top: 1px solid; border-color: #7ab0e7; width: 15px; height: 10px; background-color: #d5e1f2; }"
-        "QSpinBox::down-button:pressed { border-left: 1px solid; border-top: 1px solid; border-color: #7ab0e7; width: 15px; height: 10px; background-color: #a3bde3; }");
-    QTest::newRow("backstageToolButtonStyle") << s.backstageToolButtonStyle() << QString::fromLatin1(
-        "QToolButton { border: 1px solid; border-color: #b5b5b5; background-color: white; }"
-        "QToolButton:hover { border-left: 1px solid; border-bottom: 1px solid; border-color: #7ab0e7; width: 15px; height: 10px; background-color: #d5e1f2; }"
-        "QToolButton:pressed { border-left: 1px solid; border-bottom: 1px solid; border-color: #7ab0e7; width: 15px; height: 10px; background-color: #a3bde3; }");
-    QTest::newRow("backstageDateEditStyle") << s.backstageDateEditStyle() << QString::fromLatin1(
-        "QDateEdit { border: 1px solid; border-color: #b5b5b5; background-color: white; }"
-        "QDateEdit:focus { border-color: #7ab0e7; }"
-        "QDateEdit::down-arrow { border-left: 4px solid none; border-right: 4px solid none; border-top: 4px solid #444444; width: 0px; height: 0px; }"
-        "QDateEdit::down-arrow:focus { border-left: 4px solid none; border-right: 4px solid none; border-top: 4px solid #444444; width: 0px; height: 0px; }"
-        "QDateEdit::drop-down { background-color: white; }");
-    QTest::newRow("backstageLineEditStyle") << s.backstageLineEditStyle() << QString::fromLatin1(
-        "QLineEdit { border: 1px solid; border-color: #b5b5b5; background-color: white; }"
-        "QLineEdit:focus { border-color: #7ab0e7; }");
-    QTest::newRow("backstageOpenRecentListWidgetStyle") << s.backstageOpenRecentListWidgetStyle() << QString::fromLatin1(
-        "QListView { background-color: white; }"
-        "QListView { alternate-background-color: #444444; }"
-        "QListView::item:selected:!active { background: #7ab0e7; }"
-        "QListView::item:selected:active { background: #7ab0e7; }"
-        "QListView::item:hover { background: #d5e1f2; }");
+#define SHEET(name) QTest::newRow(#name) << s.name() << QString()
+    SHEET(backstageScrollBarStyle); SHEET(backstageScrollBarStyleBlue); SHEET(backstageMenuStyle);
+    SHEET(backstageSpinBoxStyle); SHEET(backstageToolButtonStyle); SHEET(backstageDateEditStyle);
+    SHEET(backstageLineEditStyle); SHEET(backstageListWidgetStyle); SHEET(backstageMainLeftListWidget);
+    SHEET(backstageOpenRecentListWidgetStyle); SHEET(backstageWelcomeRecentListWidgetStyle);
+    SHEET(backstageLabelXLargeWhiteStyle); SHEET(backstageLabelLargeRecentWhiteStyle); SHEET(backstageLabelLargeStyle);
+    SHEET(backstageLabelLargeWhiteStyle); SHEET(backstageLabelMediumStyle); SHEET(backstageLabelSmallStyle);
+    SHEET(backstageLabelSmallWhiteStyle); SHEET(backstageLabelSmallNotUnderlineStyle);
+    SHEET(backstageLabelXSmallNotUnderlineStyle); SHEET(backstageLabelXSmallUnderlineStyle);
+    SHEET(backstageLabelXSmallWhiteStyle); SHEET(backstageLabelXSmallGrayStyle);
+#undef SHEET
+    // Bare declaration lists, some glued without a space.
     QTest::newRow("backstageTextEditStyle") << s.backstageTextEditStyle()
         << QString::fromLatin1("border: 1px solid rgb(198, 198, 198); font: 11pt \"Segoe UI\"; color: rgb(100, 100, 100);");
     QTest::newRow("backstageLabelXLargeStyle") << s.backstageLabelXLargeStyle()
         << QString::fromLatin1("font: 30pt \"Segoe UI Light\"; color: #444444;");
     QTest::newRow("backstageLabelLargeBlueStyle") << s.backstageLabelLargeBlueStyle()
         << QString::fromLatin1("font: 16pt \"Segoe UI\"; color: #2b579a;");
-    QTest::newRow("backstageLabelSmallWhiteStyle") << s.backstageLabelSmallWhiteStyle()
-        << QString::fromLatin1("font: 11pt \"Segoe UI Semibold\"; color: white;");
     QTest::newRow("backstageLabelSmallUnderlineStyle") << s.backstageLabelSmallUnderlineStyle()
         << QString::fromLatin1("font: 11pt \"Segoe UI Semibold\"; color: rgb(100, 100, 100);border-left: 0px solid none; border-right: 0px solid none; border-top: 0px solid none; border-bottom: 1px solid rgb(100, 100, 100);");
-    QTest::newRow("backstageLabelXSmallUnderlineStyle") << s.backstageLabelXSmallUnderlineStyle()
-        << QString::fromLatin1("font: 9pt \"Segoe UI\"; color: #444444;border-left: 0px solid none; border-right: 0px solid none; border-top: 0px solid none; border-bottom: 1px solid rgb(100, 100, 100);");
-    QTest::newRow("backstageLabelXSmallGrayStyle") << s.backstageLabelXSmallGrayStyle()
-        << QString::fromLatin1("font: 9pt \"Segoe UI\"; color: #444444;background-color: #eeeeee;");
 }
 
 void TestRibbonStyle::styleSheets()
 {
-    QFETCH(QString, actual);
+    QFETCH(QString, sheet);
     QFETCH(QString, expected);
-    QCOMPARE(actual, expected);
-}
-
-void TestRibbonStyle::fonts_data()
-{
-    QTest::addColumn<QFont>("font");
-    QTest::addColumn<QString>("family");
-    QTest::addColumn<int>("pointSize");
-
-    const RibbonStyle &s = RibbonApplication::theApp().ribbonStyle();
-    QTest::newRow("backstageSmallFont") << s.backstageSmallFont() << QStringLiteral("Segoe UI") << 11;
-    QTest::newRow("backstageXSmallFont") << s.backstageXSmallFont() << QStringLiteral("Segoe UI") << 9;
-    QTest::newRow("backstageXSmallBoldFont") << s.backstageXSmallBoldFont() << QStringLiteral("Segoe UI Semibold") << 9;
-}
-
-void TestRibbonStyle::fonts()
-{
-    QFETCH(QFont, font);
-    QFETCH(QString, family);
-    QFETCH(int, pointSize);
-    QCOMPARE(font.family(), family);
-    QCOMPARE(font.pointSize(), pointSize);
-    QCOMPARE(font.weight(), int(QFont::Normal));
-    QVERIFY(!font.italic());
+    QVERIFY(!sheet.isEmpty());
+    if (!expected.isEmpty())
+        QCOMPARE(sheet, expected);
+    // Qt warns about a sheet it cannot parse when a widget is polished with it.
+    messageCount = 0;
+    const QtMessageHandler previous = qInstallMessageHandler(countingHandler);
+    QWidget widget;
+    widget.setStyleSheet(sheet);
+    widget.ensurePolished();
+    qInstallMessageHandler(previous);
+    QCOMPARE(messageCount, 0);
 }
 
 void TestRibbonStyle::compiledInImages_data()
@@ -378,140 +224,86 @@ void TestRibbonStyle::compiledInImages()
     QCOMPARE(isNull, expectNull);
 }
 
-void TestRibbonStyle::imagesLoadFromGivenDirectory()
+void TestRibbonStyle::imageDirectory()
 {
     QTemporaryDir dir;
     QVERIFY(dir.isValid());
-    QImage combo(12, 21, QImage::Format_ARGB32);
-    combo.fill(Qt::red);
-    QVERIFY(combo.save(dir.filePath(QStringLiteral("ComboBox.png"))));
-    QImage shape(8, 30, QImage::Format_ARGB32);
-    shape.fill(Qt::blue);
-    QVERIFY(shape.save(dir.filePath(QStringLiteral("MenuPaneBarButton.png"))));
+    QImage image(12, 21, QImage::Format_ARGB32);
+    image.fill(Qt::red);
+    QVERIFY(image.save(dir.filePath(QStringLiteral("ComboBox.png"))));
+    QVERIFY(image.scaled(8, 30).save(dir.filePath(QStringLiteral("MenuPaneBarButton.png"))));
 
-    const DefaultRibbonStyle style(dir.path() + QLatin1Char('/'));
-    QCOMPARE(style.comboBox().size(), QSize(12, 21));
-    QCOMPARE(style.tabBarTabShape().size(), QSize(8, 30));
-    QVERIFY(style.fileBarButton().isNull());
-    QVERIFY(style.paletteBtnTop().isNull());
-}
-
-void TestRibbonStyle::missingImagesStayNullSilently()
-{
+    // Missing images stay null, silently.
     messageCount = 0;
     const QtMessageHandler previous = qInstallMessageHandler(countingHandler);
-    {
-        const DefaultRibbonStyle style(QStringLiteral(":/no/such/directory/"));
-        QVERIFY(style.mainBorder().isNull());
-        QVERIFY(style.sysBtnClose().isNull());
-        QVERIFY(style.categoryWrapperIcon().isNull());
-        QVERIFY(style.checkableMenuItemBack().isNull());
-        QVERIFY(style.tooltipBack().isNull());
-        // Everything that is not an image is still filled.
-        QCOMPARE(style.frameBorderColor(), QColor(0x2b, 0x57, 0x9a));
-        QVERIFY(!style.backstageMenuStyle().isEmpty());
-    }
+    const DefaultRibbonStyle style(dir.path() + QLatin1Char('/'));
+    const DefaultRibbonStyle nowhere(QStringLiteral(":/no/such/directory/"));
     qInstallMessageHandler(previous);
     QCOMPARE(messageCount, 0);
+    QCOMPARE(style.comboBox().size(), QSize(12, 21));
+    QCOMPARE(style.tabBarTabShape().size(), QSize(8, 30));
+    QVERIFY(style.fileBarButton().isNull() && style.paletteBtnTop().isNull());
+    QVERIFY(nowhere.mainBorder().isNull() && nowhere.categoryWrapperIcon().isNull() && nowhere.tooltipBack().isNull());
+    // Everything that is not an image is still filled.
+    QCOMPARE(nowhere.frameBorderColor(), QColor(0x2b, 0x57, 0x9a));
+    QVERIFY(!nowhere.backstageMenuStyle().isEmpty());
 }
 
-void TestRibbonStyle::symbolsOutsideRangePaintNothing_data()
+void TestRibbonStyle::symbols_data()
 {
     QTest::addColumn<int>("symbol");
-    QTest::newRow("none") << 0;
-    QTest::newRow("ten") << 10;
-    QTest::newRow("negative") << -1;
-    QTest::newRow("large") << 1000;
-}
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<QRect>("target");
+    QTest::addColumn<QRect>("area"); // nothing is painted outside it
+    QTest::addColumn<QVector<QPoint>>("black");
+    QTest::addColumn<QVector<QPoint>>("white");
 
-void TestRibbonStyle::symbolsOutsideRangePaintNothing()
-{
-    QFETCH(int, symbol);
-    QVERIFY(isBlank(paintSymbol(QSize(16, 16), QRect(0, 0, 16, 16), symbol)));
-}
-
-void TestRibbonStyle::firstAndLastSymbols_data()
-{
-    QTest::addColumn<int>("symbol");
-    QTest::addColumn<int>("left");
-    QTest::addColumn<int>("right");
-    QTest::addColumn<QPoint>("arrow");
-    QTest::addColumn<QPoint>("aboveSlant");
-
-    // In 16 x 10 the symbol uses a 10 x 10 square at columns 3 to 12; the bar is column 7,
-    // the arrow fills the half beside it. Polygons are filled without their right and bottom edges.
-    QTest::newRow("first") << int(SymbolFirst) << 7 << 12 << QPoint(10, 4) << QPoint(9, 0);
-    QTest::newRow("last") << int(SymbolLast) << 3 << 7 << QPoint(4, 4) << QPoint(5, 0);
-}
-
-void TestRibbonStyle::firstAndLastSymbols()
-{
-    QFETCH(int, symbol);
-    QFETCH(int, left);
-    QFETCH(int, right);
-    QFETCH(QPoint, arrow);
-    QFETCH(QPoint, aboveSlant);
-    const QImage image = paintSymbol(QSize(16, 10), QRect(0, 0, 16, 10), symbol);
-    for (int y = 0; y < 10; ++y)
-        for (int x = 0; x < 16; ++x)
-            if (x < left || x > right)
-                QVERIFY2(image.pixel(x, y) == kWhite, qPrintable(QStringLiteral("%1,%2").arg(x).arg(y)));
-    for (int y = 0; y < 9; ++y)
-        QCOMPARE(image.pixel(7, y), kBlack);
-    QCOMPARE(image.pixel(7, 9), kWhite); // the bar is one pixel shorter than the square
-    QCOMPARE(image.pixel(arrow), kBlack);
-    QCOMPARE(image.pixel(arrow + QPoint(1, 0)), kBlack);
-    QCOMPARE(image.pixel(aboveSlant), kWhite);
-}
-
-void TestRibbonStyle::arrowSymbols_data()
-{
-    QTest::addColumn<int>("symbol");
-    QTest::addColumn<QRect>("rect");
-    QTest::addColumn<QPoint>("inside");
-    QTest::addColumn<QPoint>("outside");
-
-    // A 16 x 16 image with an 11 x 11 target at (2, 2): the tip and the base of each
-    // arrow are told apart by probing near a corner of the base and of the tip. Polygons
-    // are filled without their right and bottom edge pixels.
+    using P = QVector<QPoint>;
+    const QSize s16(16, 16);
+    const QRect all(0, 0, 16, 16);
+    for (int unknown : {0, 10, -1, 1000})
+        QTest::addRow("unknown %d", unknown) << unknown << s16 << all << QRect() << P() << P();
+    // Polygons are filled without their right and bottom edge pixels.
+    // In 16 x 10 first and last use a 10 x 10 square at columns 3 to 12: a bar at column 7,
+    // one pixel shorter than the square, and the arrow in the half beside it.
+    const QRect wide(0, 0, 16, 10);
+    QTest::newRow("first") << int(SymbolFirst) << wide.size() << wide << QRect(7, 0, 6, 10)
+                           << P{{7, 0}, {7, 4}, {7, 8}, {10, 4}, {11, 4}} << P{{7, 9}, {9, 0}};
+    QTest::newRow("last") << int(SymbolLast) << wide.size() << wide << QRect(3, 0, 5, 10)
+                          << P{{7, 0}, {7, 4}, {7, 8}, {4, 4}, {5, 4}} << P{{7, 9}, {5, 0}};
+    // Arrows in an 11 x 11 target: black near a corner of the base, white near the tip.
     const QRect r(2, 2, 11, 11);
-    QTest::newRow("up: base at bottom") << int(SymbolArrowUp) << r << QPoint(3, 11) << QPoint(3, 3);
-    QTest::newRow("left: base at right") << int(SymbolArrowLeft) << r << QPoint(11, 3) << QPoint(3, 3);
-    QTest::newRow("right: base at left") << int(SymbolArrowRight) << r << QPoint(3, 3) << QPoint(12, 3);
-    // Previous and next use a 5 x 11 rectangle centred in a 16 x 11 target.
-    QTest::newRow("previous") << int(SymbolPrevious) << QRect(0, 2, 16, 11) << QPoint(8, 7) << QPoint(3, 7);
-    QTest::newRow("previous: narrow") << int(SymbolPrevious) << QRect(0, 2, 16, 11) << QPoint(8, 7) << QPoint(10, 7);
-    QTest::newRow("next") << int(SymbolNext) << QRect(0, 2, 16, 11) << QPoint(6, 7) << QPoint(12, 7);
+    QTest::newRow("up") << int(SymbolArrowUp) << s16 << r << r << P{{3, 11}} << P{{3, 3}};
+    QTest::newRow("left") << int(SymbolArrowLeft) << s16 << r << r << P{{11, 3}} << P{{3, 3}};
+    QTest::newRow("right") << int(SymbolArrowRight) << s16 << r << r << P{{3, 3}} << P{{12, 3}};
+    // Previous and next: a 5 x 11 triangle centred in a 16 x 11 target.
+    const QRect band(0, 2, 16, 11);
+    QTest::newRow("previous") << int(SymbolPrevious) << s16 << band << band << P{{8, 7}} << P{{3, 7}, {10, 7}};
+    QTest::newRow("next") << int(SymbolNext) << s16 << band << band << P{{6, 7}} << P{{12, 7}};
+    // 12 x 12: a bar of 11 x 3 at the top, then a triangle from row 6 down to the tip.
+    QTest::newRow("bar arrow down") << int(SymbolBarArrowDown) << QSize(12, 12) << QRect(0, 0, 12, 12)
+                                    << QRect(0, 0, 11, 12) << P{{0, 0}, {10, 0}, {0, 2}, {10, 2}, {5, 7}}
+                                    << P{{0, 4}, {10, 4}, {0, 10}};
 }
 
-void TestRibbonStyle::arrowSymbols()
+void TestRibbonStyle::symbols()
 {
     QFETCH(int, symbol);
-    QFETCH(QRect, rect);
-    QFETCH(QPoint, inside);
-    QFETCH(QPoint, outside);
-    const QImage image = paintSymbol(QSize(16, 16), rect, symbol);
-    QCOMPARE(image.pixel(inside), kBlack);
-    QCOMPARE(image.pixel(outside), kWhite);
-    // Nothing outside the target rectangle.
-    for (int y = 0; y < 16; ++y)
-        for (int x = 0; x < 16; ++x)
-            if (!rect.contains(x, y))
-                QCOMPARE(image.pixel(x, y), kWhite);
-}
-
-void TestRibbonStyle::symbolBarArrowDown()
-{
-    // 12 x 12: a bar of 11 x 3 at the top, then a triangle from row 6 down to the tip.
-    const QImage image = paintSymbol(QSize(12, 12), QRect(0, 0, 12, 12), SymbolBarArrowDown);
-    for (int x = 0; x < 11; ++x) {
-        QCOMPARE(image.pixel(x, 0), kBlack);
-        QCOMPARE(image.pixel(x, 2), kBlack);
-        QCOMPARE(image.pixel(x, 4), kWhite);
-    }
-    QCOMPARE(image.pixel(11, 0), kWhite);
-    QCOMPARE(image.pixel(5, 7), kBlack);
-    QCOMPARE(image.pixel(0, 10), kWhite);
+    QFETCH(QSize, size);
+    QFETCH(QRect, target);
+    QFETCH(QRect, area);
+    QFETCH(QVector<QPoint>, black);
+    QFETCH(QVector<QPoint>, white);
+    const QImage image = paintSymbol(size, target, symbol);
+    const auto where = [](int x, int y) { return QStringLiteral("%1,%2").arg(x).arg(y).toLatin1(); };
+    for (const QPoint &p : black)
+        QVERIFY2(image.pixel(p) == kBlack, where(p.x(), p.y()).constData());
+    for (const QPoint &p : white)
+        QVERIFY2(image.pixel(p) == kWhite, where(p.x(), p.y()).constData());
+    for (int y = 0; y < size.height(); ++y)
+        for (int x = 0; x < size.width(); ++x)
+            if (!area.contains(x, y))
+                QVERIFY2(image.pixel(x, y) == kWhite, where(x, y).constData());
 }
 
 void TestRibbonStyle::symbolDropDownDrawsWrapperIcon()
@@ -546,44 +338,27 @@ void TestRibbonStyle::drawSymbolKeepsPenAndBrush()
     }
 }
 
-void TestRibbonStyle::createStyleKinds_data()
+void TestRibbonStyle::styleFactory()
 {
-    QTest::addColumn<int>("kind");
-    QTest::newRow("xp") << int(StyleWindowsXP);
-    QTest::newRow("vista") << int(StyleWindowsVista);
-    QTest::newRow("classic") << int(StyleWindowsClassic);
-    QTest::newRow("unknown") << 42;
-}
-
-void TestRibbonStyle::createStyleKinds()
-{
-    QFETCH(int, kind);
-    QScopedPointer<QStyle> style(createStyle(Style(kind)));
-    auto *ribbon = qobject_cast<RibbonQStyle *>(style.data());
-    QVERIFY(ribbon);
-    QVERIFY(ribbon->baseStyle());
-    QVERIFY(ribbon->baseStyle() != ribbon);
-}
-
-void TestRibbonStyle::controlStyles()
-{
+    // Every kind, unknown ones included, is a ribbon style over a base style of its own.
+    for (int kind : {int(StyleWindowsXP), int(StyleWindowsVista), int(StyleWindowsClassic), 42}) {
+        QScopedPointer<QStyle> style(createStyle(Style(kind)));
+        auto *ribbon = qobject_cast<RibbonQStyle *>(style.data());
+        QVERIFY(ribbon);
+        QVERIFY(ribbon->baseStyle() && ribbon->baseStyle() != ribbon);
+    }
     QScopedPointer<QStyle> tabBar(createStyle(ControlStyleMainTabBar));
     QVERIFY(qobject_cast<RibbonMainTabBarStyle *>(tabBar.data()));
     QCOMPARE(createStyle(ControlStyle(1)), nullptr);
     QCOMPARE(createStyle(ControlStyle(-1)), nullptr);
-}
 
-void TestRibbonStyle::defaultAndCurrentStyle()
-{
     QCOMPARE(defaultStyle(), RibbonPlatform::usesVistaLook() ? StyleWindowsVista : StyleWindowsXP);
     // The application installs a ribbon style at start.
-    QCOMPARE(int(currentStyle()), 0);
-
+    QCOMPARE(currentStyle(), StyleWindowsXP);
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    QCOMPARE(int(currentStyle()), 3);
-
+    QCOMPARE(currentStyle(), StyleForeign);
     QApplication::setStyle(createStyle(StyleWindowsVista));
-    QCOMPARE(int(currentStyle()), 0);
+    QCOMPARE(currentStyle(), StyleWindowsXP);
 }
 
 ZEL_TEST_MAIN(TestRibbonStyle)
