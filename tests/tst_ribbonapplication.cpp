@@ -6,10 +6,7 @@
 #include "RibbonScale_p.h"
 #include "RibbonStyle.h"
 
-#include <QScreen>
 #include <QStyle>
-
-#include <memory>
 
 using namespace zel;
 
@@ -17,84 +14,48 @@ class tst_RibbonApplication : public QObject
 {
     Q_OBJECT
 
-    // The resolution the test runs at, as the environment forces it.
     static int forcedDpi() { return qEnvironmentVariableIntValue("QT_FONT_DPI"); }
+    static bool high() { return forcedDpi() == 144; }
 
 private slots:
-    void theAppIsTheRunningApplication()
+    void oneApplicationOnePalette()
     {
         QCOMPARE(&RibbonApplication::theApp(), qApp);
-        QCOMPARE(RibbonApplication::theApp().getRibbonStyle(), RibbonApplication::RibbonStyleDefault);
         QCOMPARE(int(RibbonApplication::theApp().getRibbonStyle()), 1);
-    }
-
-    void paletteIsOnePerProcess()
-    {
         const RibbonStyle *first = &RibbonApplication::theApp().ribbonStyle();
-        const RibbonStyle *second = &qobject_cast<RibbonApplication *>(qApp)->ribbonStyle();
-        QCOMPARE(first, second);
+        QCOMPARE(first, &qobject_cast<RibbonApplication *>(qApp)->ribbonStyle());
         QCOMPARE(first->metaObject()->className(), "zel::DefaultRibbonStyle");
     }
 
-    void dpiFactorFollowsTheScreen()
+    void metricsFollowTheScreen()
     {
         QVERIFY(forcedDpi() > 0);
-        const double expected = forcedDpi() / 96.0;
         const QPair<double, double> factor = RibbonApplication::theApp().dpiFactor();
-        QCOMPARE(factor.first, expected);
-        QCOMPARE(factor.second, expected);
-
+        QCOMPARE(factor.first, forcedDpi() / 96.0);
+        QCOMPARE(factor.second, forcedDpi() / 96.0);
         int x = 0;
         int y = 0;
         QVERIFY(RibbonApplication::systemDpi(&x, &y));
         QCOMPARE(x, forcedDpi());
         QCOMPARE(y, forcedDpi());
-    }
-
-    void scaledMetrics_data()
-    {
-        QTest::addColumn<double>("value");
-        QTest::addColumn<int>("at96");
-        QTest::addColumn<int>("at144");
-        QTest::newRow("zero") << 0.0 << 0 << 0;
-        QTest::newRow("caption 22") << 22.0 << 22 << 33;
-        QTest::newRow("odd 3") << 3.0 << 3 << 5;     // 4.5 + 0.5 truncates to 5
-        QTest::newRow("one") << 1.0 << 1 << 2;       // 1.5 + 0.5 = 2
-        QTest::newRow("fraction") << 1.4 << 1 << 2;  // 2.1 + 0.5 truncates to 2
-    }
-
-    void scaledMetrics()
-    {
-        QFETCH(double, value);
-        QFETCH(int, at96);
-        QFETCH(int, at144);
-        QCOMPARE(scaled(value), forcedDpi() == 144 ? at144 : at96);
-    }
-
-    void platformMetricsScaleWithTheScreen()
-    {
-        const bool high = forcedDpi() == 144;
-        QCOMPARE(RibbonPlatform::sizingFrameThickness(), high ? 6 : 4);
-        QCOMPARE(RibbonPlatform::captionHeight(), high ? 35 : 23);
-    }
-
-    void baseStyleFallsBackToFusion_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("expected");
-        QTest::newRow("xp") << QStringLiteral("windowsxp") << QStringLiteral("fusion");
-        QTest::newRow("vista") << QStringLiteral("windowsvista") << QStringLiteral("fusion");
-        QTest::newRow("unknown") << QStringLiteral("no such style") << QStringLiteral("fusion");
-        QTest::newRow("available") << QStringLiteral("Windows") << QStringLiteral("windows");
+        QCOMPARE(RibbonPlatform::sizingFrameThickness(), high() ? 6 : 4);
+        QCOMPARE(RibbonPlatform::captionHeight(), high() ? 35 : 23);
+        // S(v) = int(v * factor + 0.5): rounds halves up, truncates the rest.
+        QCOMPARE(scaled(0), 0);
+        QCOMPARE(scaled(22), high() ? 33 : 22);
+        QCOMPARE(scaled(3), high() ? 5 : 3);
+        QCOMPARE(scaled(1.4), high() ? 2 : 1);
     }
 
     void baseStyleFallsBackToFusion()
     {
-        QFETCH(QString, name);
-        QFETCH(QString, expected);
-        std::unique_ptr<QStyle> style(RibbonPlatform::createBaseStyle(name));
-        QVERIFY(style);
-        QCOMPARE(style->objectName().toLower(), expected);
+        const QPair<const char *, const char *> cases[] = {
+            {"windowsxp", "fusion"}, {"no such style", "fusion"}, {"Windows", "windows"}};
+        for (const auto &c : cases) {
+            QScopedPointer<QStyle> style(RibbonPlatform::createBaseStyle(QLatin1String(c.first)));
+            QVERIFY(style);
+            QCOMPARE(style->objectName().toLower(), QLatin1String(c.second));
+        }
     }
 };
 
