@@ -15,12 +15,11 @@
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QFontDatabase>
-#include <QGridLayout>
+#include <QLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QToolBar>
 
-#include <utility>
 
 using namespace zel;
 
@@ -34,8 +33,7 @@ QStringList comboTexts(const QComboBox *combo)
     return texts;
 }
 
-// Picks an entry the way a user does: opens the list, points at the entry (which makes
-// it current) and accepts it with Return.
+// Picks an entry the way a user does: opens the list, makes the entry current, accepts with Return.
 void chooseFromList(QComboBox *combo, int index)
 {
     combo->showPopup();
@@ -61,13 +59,14 @@ std::pair<W *, W *> showPair(QWidget &window, A &action)
     return {first, second};
 }
 
-// A font size action with its picker in a tool bar.
+// A font size action with its picker in a shown tool bar.
 struct SizePicker
 {
     explicit SizePicker(int size) : action(size, nullptr)
     {
         bar.addAction(&action);
         combo = qobject_cast<QComboBox *>(bar.widgetForAction(&action));
+        bar.show();
     }
     RibbonCatFontSizeAction action;
     QToolBar bar;
@@ -81,175 +80,124 @@ class tst_ValueControls : public QObject
     Q_OBJECT
 
 private slots:
-    // Check box -------------------------------------------------------------------------
-
-    void checkBoxMirrorsItsAction()
+    // Label, style sheet, DPI-scaled height; a click triggers with the new state, the host's
+    // setChecked() does not; every change re-sends the enabled state, an unchanged label does not.
+    void checkBoxFollowsItsAction()
     {
         RibbonCatCheckBoxAction action(QStringLiteral("Ruler"), nullptr);
-        action.setChecked(true);
-        RibbonCatCheckBox box(action, nullptr);
-        QCOMPARE(box.text(), QStringLiteral("Ruler"));
-        QVERIFY(box.isChecked());
+        QWidget window;
+        const auto [first, second] = showPair<RibbonCatCheckBox>(window, action);
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
         const QString color = RibbonApplication::theApp().ribbonStyle().normalCategoryTextColor().name();
-        QCOMPARE(box.styleSheet(), QStringLiteral("QCheckBox { color: ") + color + QStringLiteral("; }"));
-        QCOMPARE(box.sizeHint(), QSize(box.fontMetrics().horizontalAdvance(QStringLiteral("Ruler")) + 20,
-                                       scaled(22)));
-
+        QCOMPARE(first->styleSheet(), QStringLiteral("QCheckBox { color: ") + color + QStringLiteral("; }"));
+        const int textWidth = first->fontMetrics().horizontalAdvance(first->text());
+        QCOMPARE(first->sizeHint(), QSize(textWidth + 20, scaled(22)));
         RibbonCatCheckBoxAction unlabelled(nullptr);
         QCOMPARE(RibbonCatCheckBox(unlabelled, nullptr).sizeHint(), QSize(20, scaled(22)));
-    }
-
-    void checkBoxClickTriggersWithTheNewState()
-    {
-        RibbonCatCheckBoxAction action(QStringLiteral("Gridlines"), nullptr);
-        QWidget window;
-        const auto boxes = showPair<RibbonCatCheckBox>(window, action);
-        QVERIFY(QTest::qWaitForWindowExposed(&window));
 
         QSignalSpy triggered(&action, SIGNAL(triggered(bool)));
-        QSignalSpy toggled(&action, SIGNAL(toggled(bool)));
-        QTest::mouseClick(boxes.first, Qt::LeftButton, Qt::NoModifier, QPoint(6, boxes.first->height() / 2));
-        QCOMPARE(triggered.count(), 1);
+        QTest::mouseClick(first, Qt::LeftButton, Qt::NoModifier, QPoint(6, first->height() / 2));
+        QVERIFY(second->isChecked());
+        QTest::mouseClick(second, Qt::LeftButton, Qt::NoModifier, QPoint(6, second->height() / 2));
+        QCOMPARE(triggered.count(), 2);
         QCOMPARE(triggered.at(0).at(0).toBool(), true);
-        QCOMPARE(toggled.count(), 1);
-        QVERIFY(action.isChecked() && boxes.first->isChecked() && boxes.second->isChecked());
-
-        QTest::mouseClick(boxes.second, Qt::LeftButton, Qt::NoModifier, QPoint(6, boxes.second->height() / 2));
-        QCOMPARE(triggered.count(), 2);
         QCOMPARE(triggered.at(1).at(0).toBool(), false);
-        QVERIFY(!boxes.first->isChecked());
-
-        // Set by the host: the boxes follow without a trigger.
+        QVERIFY(!action.isChecked() && !first->isChecked());
         action.setChecked(true);
-        QVERIFY(boxes.first->isChecked() && boxes.second->isChecked());
+        QVERIFY(first->isChecked() && second->isChecked());
         QCOMPARE(triggered.count(), 2);
-    }
 
-    void checkBoxFollowsEnabledStateAndLabel()
-    {
-        RibbonCatCheckBoxAction action(QStringLiteral("Wrap"), nullptr);
-        RibbonCatCheckBox box(action, nullptr);
         QSignalSpy enabled(&action, SIGNAL(actionEnabled(bool)));
-
         action.setEnabled(false);
-        QVERIFY(!box.isEnabled());
-        QCOMPARE(enabled.count(), 1);
-        QCOMPARE(enabled.at(0).at(0).toBool(), false);
-        // Every change re-sends the enabled state, even when only the text changed.
-        action.setToolTip(QStringLiteral("Wrap long lines"));
+        QVERIFY(!first->isEnabled() && !RibbonCatCheckBox(action, nullptr).isEnabled());
+        action.setToolTip(QStringLiteral("Show the ruler"));
         QCOMPARE(enabled.count(), 2);
-        QCOMPARE(box.toolTip(), QStringLiteral("Wrap long lines"));
-        action.setEnabled(true);
-        QVERIFY(box.isEnabled());
-
-        action.setTextLabel(QStringLiteral("Wrap text"));
-        QCOMPARE(box.text(), QStringLiteral("Wrap text"));
+        QCOMPARE(enabled.at(1).at(0).toBool(), false);
+        action.setTextLabel(QStringLiteral("Rulers"));
+        QCOMPARE(first->text(), QStringLiteral("Rulers"));
         const int count = enabled.count();
-        action.setTextLabel(QStringLiteral("Wrap text"));
+        action.setTextLabel(QStringLiteral("Rulers"));
         QCOMPARE(enabled.count(), count);
-
-        action.setEnabled(false);
-        QVERIFY(!RibbonCatCheckBox(action, nullptr).isEnabled());
     }
 
-    void checkBoxSurvivesItsAction()
+    void comboSelection_data()
     {
-        auto *action = new RibbonCatCheckBoxAction(QStringLiteral("Temp"), nullptr);
-        RibbonCatCheckBox box(*action, nullptr);
-        delete action;
-        box.click();
-        QVERIFY(box.isChecked());
-    }
-
-    // Combo -----------------------------------------------------------------------------
-
-    void comboSelectionByIndex_data()
-    {
+        QTest::addColumn<bool>("byIndex");
         QTest::addColumn<int>("index");
         QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("selected");
         QTest::addColumn<int>("emissions");
-
-        QTest::newRow("second item") << 1 << QStringLiteral("B") << 1;
-        QTest::newRow("already selected") << 0 << QStringLiteral("A") << 0;
-        QTest::newRow("past the end") << 7 << QStringLiteral("A") << 0;
-        QTest::newRow("negative") << -1 << QStringLiteral("A") << 0;
+        QTest::newRow("index") << true << 1 << QString() << 1 << 1;
+        QTest::newRow("same index") << true << 0 << QString() << 0 << 0;
+        QTest::newRow("index past the end") << true << 7 << QString() << 0 << 0;
+        QTest::newRow("negative index") << true << -1 << QString() << 0 << 0;
+        QTest::newRow("listed text") << false << 0 << QStringLiteral("C") << 2 << 1;
+        QTest::newRow("same text") << false << 0 << QStringLiteral("A") << 0 << 0;
+        QTest::newRow("free text") << false << 0 << QStringLiteral("Free") << -1 << 1;
+        QTest::newRow("empty text") << false << 0 << QString() << 0 << 0;
     }
 
-    void comboSelectionByIndex()
+    // Selection changes only announce the text; index changes are not signalled on their own.
+    void comboSelection()
     {
+        QFETCH(bool, byIndex);
         QFETCH(int, index);
         QFETCH(QString, text);
+        QFETCH(int, selected);
         QFETCH(int, emissions);
 
         RibbonCatComboAction action(nullptr);
         for (const char *item : {"A", "B", "C"})
             action.addItem(QLatin1String(item));
         action.setSelectionText(QStringLiteral("A"));
-
         QSignalSpy changed(&action, SIGNAL(selectionTextChanged()));
         QSignalSpy indexChanged(&action, SIGNAL(selectionIndexChanged()));
-        action.setSelectionIndex(index);
-        QCOMPARE(action.selectionText(), text);
+        if (byIndex)
+            action.setSelectionIndex(index);
+        else
+            action.setSelectionText(text);
+        QCOMPARE(action.selectionIndex(), selected);
+        if (selected >= 0)
+            QCOMPARE(action.selectionText(), action.items().at(selected));
         QCOMPARE(changed.count(), emissions);
         QCOMPARE(indexChanged.count(), 0);
-        QCOMPARE(action.selectionIndex(), action.items().indexOf(text));
     }
 
-    void comboSelectionTextRules()
+    void comboItemsAndOptionsReachEveryBox()
     {
-        RibbonCatComboAction action(QStringLiteral("Style"), nullptr);
-        QCOMPARE(action.selectionIndex(), -1);
-        QCOMPARE(action.iconWidth(), 22);
-        QVERIFY(action.isEditable());
-        QVERIFY(!action.isSearchable());
-
-        QSignalSpy changed(&action, SIGNAL(selectionTextChanged()));
-        action.setSelectionText(QString());
-        QCOMPARE(changed.count(), 0);
-        action.setSelectionText(QStringLiteral("Free text"));
-        QCOMPARE(changed.count(), 1);
-        QCOMPARE(action.selectionIndex(), -1);
-        action.setSelectionText(QStringLiteral("Free text"));
-        QCOMPARE(changed.count(), 1);
-
-        QSignalSpy editable(&action, SIGNAL(editableChanged()));
-        action.setEditable(true);
-        QCOMPARE(editable.count(), 0);
-        action.setEditable(false);
-        QCOMPARE(editable.count(), 1);
-
-        QSignalSpy keys(&action, SIGNAL(keyPressed(int)));
-        action.emitKeyPressed(Qt::Key_F4);
-        QCOMPARE(keys.count(), 1);
-        QCOMPARE(keys.at(0).at(0).toInt(), int(Qt::Key_F4));
-    }
-
-    void comboItemsReachEveryBox()
-    {
+        QIntValidator validator(0, 99);
         RibbonCatComboAction action(nullptr);
-        action.setEditable(false);
+        action.setComboInputMask(QStringLiteral("99"));
+        action.setValidator(&validator);
+        action.setIconWidth(30);
         action.addItem(QStringLiteral("Left"));
         RibbonCatComboComboBox box(action, nullptr);
         QCOMPARE(box.size(), QSize(48, 22));
-        QVERIFY(!box.isEditable());
+        QCOMPARE(box.iconSize(), QSize(30, 22));
+        QCOMPARE(box.lineEdit()->inputMask(), QStringLiteral("99"));
+        QCOMPARE(box.validator(), &validator);
+        // Editable: a free selection is shown as text, a listed one as the entry.
+        action.setSelectionText(QStringLiteral("75"));
+        QCOMPARE(box.currentIndex(), -1);
+        QCOMPARE(box.currentText(), QStringLiteral("75"));
+        action.setSelectionText(QStringLiteral("Left"));
+        QCOMPARE(box.currentIndex(), 0);
 
-        QSignalSpy added(&action, SIGNAL(itemAdded(QIcon, QString)));
+        action.setEditable(false);
+        QVERIFY(!box.isEditable());
         QPixmap red(16, 16);
         red.fill(Qt::red);
         action.addItem(QIcon(red), QStringLiteral("Right"));
-        QCOMPARE(added.count(), 1);
         QCOMPARE(comboTexts(&box), QStringList({QStringLiteral("Left"), QStringLiteral("Right")}));
         QVERIFY(!box.itemIcon(1).isNull());
-
-        // Icons stay parallel to the items, so a box made now shows each at its place.
+        // Icons stay parallel to the items, so a box made later shows each at its place.
         action.addItem(QStringLiteral("Centre"));
-        QCOMPARE(action.icons().size(), action.items().size());
+        action.setWidth(80);
         RibbonCatComboComboBox late(action, nullptr);
         QCOMPARE(late.count(), 3);
-        QVERIFY(late.itemIcon(0).isNull());
-        QVERIFY(!late.itemIcon(1).isNull());
-        QCOMPARE(late.itemText(2), QStringLiteral("Centre"));
-
+        QVERIFY(late.itemIcon(0).isNull() && !late.itemIcon(1).isNull() && late.itemIcon(2).isNull());
+        QCOMPARE(late.width(), 80);
+        QVERIFY(!late.isEditable());
         action.setEditable(true);
         QVERIFY(box.isEditable() && late.isEditable());
     }
@@ -270,49 +218,17 @@ private slots:
         first->setFocus();
         QTest::keyClick(first, Qt::Key_Down);
         QCOMPARE(action.selectionText(), QStringLiteral("Green"));
-        QCOMPARE(changed.count(), 1);
         QCOMPARE(second->currentIndex(), 1);
-
         chooseFromList(second, 2);
         QCOMPARE(action.selectionText(), QStringLiteral("Blue"));
         QCOMPARE(first->currentText(), QStringLiteral("Blue"));
-        QCOMPARE(changed.count(), 2);
-
         // The host selects: both boxes follow and nothing echoes back.
         action.setSelectionIndex(0);
         QCOMPARE(first->currentIndex(), 0);
         QCOMPARE(second->currentIndex(), 0);
         QCOMPARE(changed.count(), 3);
-
         action.setEnabled(false);
         QVERIFY(!first->isEnabled() && !second->isEnabled());
-    }
-
-    void comboInputOptions()
-    {
-        QIntValidator validator(0, 99);
-        RibbonCatComboAction action(nullptr);
-        action.setComboInputMask(QStringLiteral("99"));
-        action.setValidator(&validator);
-        action.setWidth(80);
-        action.setIconWidth(30);
-        RibbonCatComboComboBox box(action, nullptr);
-        QCOMPARE(box.lineEdit()->inputMask(), QStringLiteral("99"));
-        QCOMPARE(box.validator(), &validator);
-        QCOMPARE(box.width(), 80);
-        QCOMPARE(box.iconSize(), QSize(30, 22));
-
-        // Editable: a free selection is shown as text, a listed one as the entry.
-        RibbonCatComboAction plain(nullptr);
-        plain.addItem(QStringLiteral("100%"));
-        plain.setSelectionText(QStringLiteral("75%"));
-        RibbonCatComboComboBox plainBox(plain, nullptr);
-        QVERIFY(plainBox.lineEdit()->inputMask().isEmpty());
-        QVERIFY(!plainBox.validator());
-        QCOMPARE(plainBox.currentIndex(), -1);
-        QCOMPARE(plainBox.currentText(), QStringLiteral("75%"));
-        plain.setSelectionText(QStringLiteral("100%"));
-        QCOMPARE(plainBox.currentIndex(), 0);
     }
 
     void searchableComboSelectsItsTextOnReturn_data()
@@ -328,7 +244,6 @@ private slots:
     {
         QFETCH(bool, searchable);
         QFETCH(int, key);
-
         RibbonCatComboAction action(nullptr);
         action.setSearchable(searchable);
         action.setWidth(120);
@@ -338,9 +253,7 @@ private slots:
         box.activateWindow();
         box.setFocus();
         QTest::keyClicks(&box, QStringLiteral("needle"));
-        QCOMPARE(box.lineEdit()->text(), QStringLiteral("needle"));
         QVERIFY(!box.lineEdit()->hasSelectedText());
-
         QSignalSpy keys(&action, SIGNAL(keyPressed(int)));
         QTest::keyClick(&box, Qt::Key(key));
         QVERIFY(keys.count() >= 1);
@@ -355,19 +268,16 @@ private slots:
         const int labelWidth = widget.label()->fontMetrics().horizontalAdvance(QStringLiteral("Zoom:"));
         QCOMPARE(widget.size(), QSize(labelWidth + 58, 22));
         QCOMPARE(widget.minimumSize(), widget.maximumSize());
-        QCOMPARE(widget.sizePolicy().horizontalPolicy(), QSizePolicy::Minimum);
-        QCOMPARE(widget.sizePolicy().verticalPolicy(), QSizePolicy::Fixed);
+        QCOMPARE(widget.sizePolicy(), QSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed));
 
         RibbonCatComboAction above(QStringLiteral("Zoom:"), nullptr);
         above.setVerticalAligned(true);
         RibbonCatComboWidget stacked(above, nullptr);
-        auto *grid = qobject_cast<QGridLayout *>(stacked.layout());
-        QVERIFY(grid);
-        QCOMPARE(grid->rowCount(), 3);
-        int row = -1, column = -1, rowSpan = 0, columnSpan = 0;
-        grid->getItemPosition(grid->indexOf(stacked.comboBox()), &row, &column, &rowSpan, &columnSpan);
-        QCOMPARE(QPoint(column, row), QPoint(0, 1));
+        stacked.resize(stacked.sizeHint());
+        stacked.layout()->activate();
         QVERIFY(stacked.sizeHint().height() > 22);
+        QVERIFY(stacked.comboBox()->y() >= stacked.label()->geometry().bottom());
+        QCOMPARE(stacked.comboBox()->x(), stacked.label()->x());
 
         RibbonCatComboAction unlabelled(nullptr);
         RibbonCatComboWidget bare(unlabelled, nullptr);
@@ -385,7 +295,6 @@ private slots:
         QVERIFY(qobject_cast<RibbonCatComboComboBox *>(bar.widgetForAction(&combo)));
         QVERIFY(qobject_cast<RibbonCatFontFamilyComboBox *>(bar.widgetForAction(&family)));
         QVERIFY(qobject_cast<QComboBox *>(bar.widgetForAction(&size)));
-
         QWidget plain;
         QCOMPARE(combo.createWidget(&plain), nullptr);
         QCOMPARE(family.createWidget(&plain), nullptr);
@@ -395,17 +304,23 @@ private slots:
 
     void widgetsOutliveTheirActions()
     {
+        auto *check = new RibbonCatCheckBoxAction(QStringLiteral("Temp"), nullptr);
         auto *combo = new RibbonCatComboAction(QStringLiteral("Zoom:"), nullptr);
         combo->addItem(QStringLiteral("100%"));
         auto *family = new RibbonCatFontFamilyAction(QFont(), nullptr);
-        QWidget window;
-        auto *box = new RibbonCatComboComboBox(*combo, &window);
-        auto *labelled = new RibbonCatComboWidget(*combo, &window);
-        auto *picker = new RibbonCatFontFamilyComboBox(*family, &window);
+        RibbonCatFontSizeAction size(12, nullptr);
+        auto *window = new QWidget;
+        auto *sizePicker = size.createComboBox(window);
+        auto *checkBox = new RibbonCatCheckBox(*check, window);
+        auto *box = new RibbonCatComboComboBox(*combo, window);
+        auto *labelled = new RibbonCatComboWidget(*combo, window);
+        auto *picker = new RibbonCatFontFamilyComboBox(*family, window);
+        delete check;
         delete combo;
         delete family;
-        QVERIFY(box->actions().isEmpty());
-        QVERIFY(picker->actions().isEmpty());
+        checkBox->click();
+        QVERIFY(checkBox->isChecked());
+        QVERIFY(box->actions().isEmpty() && picker->actions().isEmpty());
         QTest::keyClick(box, Qt::Key_A);
         QTest::keyClick(labelled->comboBox(), Qt::Key_Return);
         box->updateActionSelection(QStringLiteral("100%"));
@@ -413,9 +328,15 @@ private slots:
         box->onEditableChanged();
         QCoreApplication::processEvents();
         QVERIFY(!picker->signalsBlocked());
-    }
 
-    // Font family -----------------------------------------------------------------------
+        // Pickers deleted first: the size action keeps the last size and its slots do nothing.
+        sizePicker->setCurrentIndex(sizePicker->findText(QStringLiteral("9")));
+        delete window;
+        QCOMPARE(int(size.fontSize()), 9);
+        size.setFontSize(3);
+        size.updateFontSize(20);
+        QCOMPARE(int(size.fontSize()), 20);
+    }
 
     void fontFamilyReachesEveryPickerOnce()
     {
@@ -428,25 +349,20 @@ private slots:
         const auto [first, second] = showPair<RibbonCatFontFamilyComboBox>(window, action);
         QVERIFY(QTest::qWaitForWindowExposed(&window));
         QCOMPARE(first->size(), QSize(140, 22));
-        QCOMPARE(first->currentFont().family(), families.at(0));
 
         QSignalSpy changed(&action, SIGNAL(fontFamilyChanged(QFont)));
         QSignalSpy activated(&action, SIGNAL(ribbonActionActivated()));
         // Set by the host. A picker knows only the family; were it to echo, the size would be lost.
         action.setFontFamily(QFont(families.at(1), 13));
-        QCOMPARE(first->currentFont().family(), families.at(1));
         QCOMPARE(second->currentFont().family(), families.at(1));
         QCoreApplication::processEvents();
         QCOMPARE(changed.count(), 1);
         QCOMPARE(activated.count(), 1);
-        QCOMPARE(action.fontFamily().family(), families.at(1));
         QCOMPARE(action.fontFamily().pointSize(), 13);
         action.setFontFamily(QFont(families.at(1), 13));
         QCOMPARE(changed.count(), 1);
-        // Pickers talk again once control returned to the event loop.
-        QVERIFY(!first->signalsBlocked());
+        QVERIFY(!first->signalsBlocked()); // pickers talk again once back in the event loop
 
-        // Chosen by the user in either picker.
         chooseFromList(first, 0);
         QCOMPARE(changed.count(), 2);
         QCOMPARE(action.fontFamily().family(), first->itemText(0));
@@ -457,69 +373,55 @@ private slots:
         QCOMPARE(first->currentIndex(), 1);
     }
 
-    // Font size -------------------------------------------------------------------------
-
-    void fontSizeChosenFromTheList()
+    void fontSizeChosen_data()
     {
-        SizePicker p(11);
-        QVERIFY(p.combo);
-        // The current size heads the standard list.
-        QCOMPARE(comboTexts(p.combo),
-                 QStringLiteral("11,8,9,10,11,12,14,16,18,20,24,28,32,36,40,48,72").split(QLatin1Char(',')));
-        QCOMPARE(p.combo->currentIndex(), 0);
-        p.bar.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&p.bar));
-
-        QSignalSpy changed(&p.action, SIGNAL(fontSizeChanged(int)));
-        QSignalSpy activated(&p.action, SIGNAL(ribbonActionActivated()));
-        chooseFromList(p.combo, p.combo->findText(QStringLiteral("24")));
-        QCOMPARE(changed.count(), 1);
-        QCOMPARE(changed.at(0).at(0).toInt(), 24);
-        QCOMPARE(activated.count(), 1);
-        QCOMPARE(p.combo->itemText(0), QStringLiteral("24"));
-        QCOMPARE(p.combo->currentIndex(), 0);
-        QCOMPARE(int(p.action.fontSize()), 24);
-
-        // The first entry is the size already set: nothing.
-        chooseFromList(p.combo, 0);
-        QCOMPARE(changed.count(), 1);
-        QCOMPARE(p.combo->count(), 17);
-    }
-
-    void fontSizeTyped_data()
-    {
-        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("entry");
+        QTest::addColumn<bool>("typed");
         QTest::addColumn<int>("expected");
         QTest::addColumn<int>("emissions");
-        QTest::newRow("size not in the list") << QStringLiteral("13") << 13 << 1;
-        QTest::newRow("size in the list") << QStringLiteral("36") << 36 << 1;
-        QTest::newRow("same size") << QStringLiteral("11") << 11 << 0;
-        QTest::newRow("letters are refused") << QStringLiteral("ab") << 11 << 0;
+        QTest::newRow("listed") << QStringLiteral("24") << false << 24 << 1;
+        QTest::newRow("first entry") << QStringLiteral("11") << false << 11 << 0;
+        QTest::newRow("typed, not listed") << QStringLiteral("13") << true << 13 << 1;
+        QTest::newRow("typed, listed") << QStringLiteral("36") << true << 36 << 1;
+        QTest::newRow("typed, same") << QStringLiteral("11") << true << 11 << 0;
+        QTest::newRow("typed letters") << QStringLiteral("ab") << true << 11 << 0;
     }
 
-    void fontSizeTyped()
+    // The current size heads the standard list; typed sizes never grow the list.
+    void fontSizeChosen()
     {
-        QFETCH(QString, typed);
+        QFETCH(QString, entry);
+        QFETCH(bool, typed);
         QFETCH(int, expected);
         QFETCH(int, emissions);
 
         SizePicker p(11);
-        p.bar.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&p.bar));
-        p.combo->setFocus();
+        QVERIFY(p.combo && QTest::qWaitForWindowExposed(&p.bar));
+        QCOMPARE(comboTexts(p.combo),
+                 QStringLiteral("11,8,9,10,11,12,14,16,18,20,24,28,32,36,40,48,72").split(QLatin1Char(',')));
         QSignalSpy changed(&p.action, SIGNAL(fontSizeChanged(int)));
-        p.combo->lineEdit()->selectAll();
-        QTest::keyClicks(p.combo, typed);
-        QTest::keyClick(p.combo, Qt::Key_Return);
+        QSignalSpy activated(&p.action, SIGNAL(ribbonActionActivated()));
+        if (typed) {
+            p.combo->setFocus();
+            p.combo->lineEdit()->selectAll();
+            QTest::keyClicks(p.combo, entry);
+            QTest::keyClick(p.combo, Qt::Key_Return);
+        } else {
+            chooseFromList(p.combo, p.combo->findText(entry));
+        }
         QCOMPARE(changed.count(), emissions);
         if (emissions)
             QCOMPARE(changed.at(0).at(0).toInt(), expected);
+        if (!typed)
+            QCOMPARE(activated.count(), emissions);
         QCOMPARE(int(p.action.fontSize()), expected);
         QCOMPARE(p.combo->itemText(0), QString::number(expected));
         QCOMPARE(p.combo->currentIndex(), 0);
-        QCOMPARE(p.combo->count(), 17); // typed sizes never grow the list
+        QCOMPARE(p.combo->count(), 17);
     }
 
+    // Pickers in two tool bars and one made outside any tool bar share the size; host updates
+    // ignore bad sizes and do not signal, but become what the next choice is compared with.
     void fontSizePickersStayInStep()
     {
         SizePicker p(10);
@@ -527,7 +429,6 @@ private slots:
         second.addAction(&p.action);
         auto *newer = qobject_cast<QComboBox *>(second.widgetForAction(&p.action));
         QVERIFY(p.combo && newer && p.combo != newer);
-        // A picker made outside any tool bar takes part too.
         QWidget group;
         QComboBox *loose = p.action.createComboBox(&group);
         QVERIFY(loose);
@@ -537,51 +438,22 @@ private slots:
 
         QSignalSpy changed(&p.action, SIGNAL(fontSizeChanged(int)));
         p.combo->setCurrentIndex(p.combo->findText(QStringLiteral("48")));
-        QCOMPARE(changed.count(), 1);
-        QCOMPARE(changed.at(0).at(0).toInt(), 48);
         QCOMPARE(newer->currentText(), QStringLiteral("48"));
-        QCOMPARE(p.combo->currentText(), QStringLiteral("48"));
         QCOMPARE(int(p.action.fontSize()), 48);
         loose->setCurrentIndex(loose->findText(QStringLiteral("20")));
+        QCOMPARE(p.combo->currentText(), QStringLiteral("20"));
         QCOMPARE(changed.count(), 2);
-        QCOMPARE(int(p.action.fontSize()), 20);
-    }
 
-    void fontSizeUpdatedByTheHost()
-    {
-        SizePicker p(11);
-        QSignalSpy changed(&p.action, SIGNAL(fontSizeChanged(int)));
         p.action.updateFontSize(0);
         p.action.updateFontSize(-4);
-        QCOMPARE(p.combo->itemText(0), QStringLiteral("11"));
-
+        QCOMPARE(p.combo->itemText(0), QStringLiteral("20"));
         p.action.updateFontSize(14);
-        QCOMPARE(p.combo->itemText(0), QStringLiteral("14"));
-        QCOMPARE(p.combo->currentText(), QStringLiteral("14"));
+        QCOMPARE(newer->currentText(), QStringLiteral("14"));
         QCOMPARE(int(p.action.fontSize()), 14);
-        QCOMPARE(changed.count(), 0);
-
-        // The shown size is the one the next choice is compared with.
-        p.combo->setCurrentIndex(p.combo->findText(QStringLiteral("11"), Qt::MatchExactly));
-        QCOMPARE(p.combo->currentText(), QStringLiteral("11"));
-        QCOMPARE(changed.count(), 1);
-        QCOMPARE(changed.at(0).at(0).toInt(), 11);
-    }
-
-    void fontSizeWithoutPicker()
-    {
-        auto *bar = new QToolBar;
-        RibbonCatFontSizeAction action(12, nullptr);
-        QCOMPARE(int(action.fontSize()), 12);
-        bar->addAction(&action);
-        auto *combo = qobject_cast<QComboBox *>(bar->widgetForAction(&action));
-        combo->setCurrentIndex(combo->findText(QStringLiteral("9")));
-        delete bar;
-        // The picker is gone: the action keeps the last size and its slots do nothing.
-        QCOMPARE(int(action.fontSize()), 9);
-        action.setFontSize(3);
-        action.updateFontSize(20);
-        QCOMPARE(int(action.fontSize()), 20);
+        QCOMPARE(changed.count(), 2);
+        p.combo->setCurrentIndex(p.combo->findText(QStringLiteral("20"), Qt::MatchExactly));
+        QCOMPARE(changed.count(), 3);
+        QCOMPARE(changed.at(2).at(0).toInt(), 20);
     }
 };
 
