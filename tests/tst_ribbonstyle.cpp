@@ -65,8 +65,6 @@ private slots:
     void colors();
     void styleSheets_data();
     void styleSheets();
-    void compiledInImages_data();
-    void compiledInImages();
     void imageDirectory();
 
     void symbols_data();
@@ -187,41 +185,6 @@ void TestRibbonStyle::styleSheets()
     widget.ensurePolished();
     qInstallMessageHandler(previous);
     QCOMPARE(messageCount, 0);
-}
-
-void TestRibbonStyle::compiledInImages_data()
-{
-    QTest::addColumn<bool>("isNull");
-    QTest::addColumn<bool>("expectNull");
-
-    // Every image entry of the default palette; the palette-button images are not compiled in.
-    const RibbonStyle &s = RibbonApplication::theApp().ribbonStyle();
-#define IMAGE(name, expectNull) QTest::newRow(#name) << s.name().isNull() << expectNull
-    IMAGE(mainBorder, false); IMAGE(mainBorderCaption, false); IMAGE(statusBar, false);
-    IMAGE(sysBtnBack, false); IMAGE(toolBoxTabBack, false); IMAGE(sysBtnClose, false);
-    IMAGE(sysBtnCloseSmall, false); IMAGE(sysBtnMaximize, false); IMAGE(sysBtnMaximizeSmall, false);
-    IMAGE(sysBtnMinimize, false); IMAGE(sysBtnMinimizeSmall, false); IMAGE(sysBtnRestore, false);
-    IMAGE(sysBtnRestoreSmall, false); IMAGE(normalButtonSmall, false); IMAGE(menuBarButton, false);
-    IMAGE(fileBarButton, false); IMAGE(categories, false); IMAGE(categoryTop, false);
-    IMAGE(categoryBottom, false); IMAGE(categoryWrapperBack, false); IMAGE(categoryWrapperIcon, false);
-    IMAGE(mainPanelBack, false); IMAGE(horizontalMenuButtonCaption, false); IMAGE(horizontalMenuButtonMenu, false);
-    IMAGE(verticalMenuButtonCaption, false); IMAGE(verticalMenuButtonMenu, false); IMAGE(mainPanelBorder, false);
-    IMAGE(mainPanelSeparator, false); IMAGE(mainPanelButton, false); IMAGE(paletteBtnTop, true);
-    IMAGE(paletteBtnMiddle, true); IMAGE(paletteBtnBottom, true); IMAGE(paletteItemLarge, false);
-    IMAGE(paletteItemSmall, false); IMAGE(popupBorder, false); IMAGE(popupResizeBarBack, false);
-    IMAGE(popupResizeBarIconB, false); IMAGE(popupResizeBarIconBR, false); IMAGE(popupResizeBarIconTR, false);
-    IMAGE(checkableMenuItemBack, false); IMAGE(tabBarTabs, false); IMAGE(sliderPlus, false);
-    IMAGE(sliderMinus, false); IMAGE(sliderThumb, false); IMAGE(btnGroupFirst, false);
-    IMAGE(btnGroupMidle, false); IMAGE(btnGroupLast, false); IMAGE(comboBox, false);
-    IMAGE(tabBarTabShape, false); IMAGE(tooltipBack, false);
-#undef IMAGE
-}
-
-void TestRibbonStyle::compiledInImages()
-{
-    QFETCH(bool, isNull);
-    QFETCH(bool, expectNull);
-    QCOMPARE(isNull, expectNull);
 }
 
 void TestRibbonStyle::imageDirectory()
