@@ -43,21 +43,15 @@ QList<QRect> expectedItems(const QRect &geometry, int margin)
     };
 }
 
-QList<QRect> sorted(QList<QRect> rects)
+bool itemsPlacedAround(const QRect &geometry, int margin)
 {
-    std::sort(rects.begin(), rects.end(), [](const QRect &a, const QRect &b) {
-        return std::make_tuple(a.x(), a.y(), a.width(), a.height())
-            < std::make_tuple(b.x(), b.y(), b.width(), b.height());
-    });
-    return rects;
-}
-
-QList<QRect> itemGeometries()
-{
-    QList<QRect> result;
+    QList<QRect> actual;
     for (const QWidget *widget : borderItems())
-        result.append(widget->geometry());
-    return sorted(result);
+        actual.append(widget->geometry());
+    const QList<QRect> expected = expectedItems(geometry, margin);
+    return actual.size() == 8
+        && std::all_of(expected.cbegin(), expected.cend(),
+                       [&actual](const QRect &r) { return actual.contains(r); });
 }
 
 // The item at a position (0 left, clockwise) around a window at kGeometry without margin.
@@ -100,14 +94,12 @@ private slots:
     void init();
     void cleanup();
 
-    void placement_data();
     void placement();
     void dragKeepsOppositeEdgeAtMinimum_data();
     void dragKeepsOppositeEdgeAtMinimum();
     void fixedSizeWindowDoesNotResize();
     void visibilityFollowsWindowState();
-    void releaseActivatesWindow();
-    void maskLeavesOutOtherWindows();
+    void maskAndActivation();
     void shadowFadesAwayFromWindow_data();
     void shadowFadesAwayFromWindow();
     void stayOnTopShadowNeedsActiveApplication();
@@ -141,7 +133,6 @@ void tst_RibbonWindowBorder::makeWindow(int margin, bool stayOnTop, bool fixedSi
         m_window->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     m_window->setGeometry(kGeometry);
     m_border = new RibbonWindowBorder(m_window.get(), stayOnTop);
-    QCOMPARE(m_border->parent(), m_window.get());
     QVERIFY(allVisible(false));
 }
 
@@ -154,34 +145,21 @@ bool tst_RibbonWindowBorder::showWindow(bool activate)
     return QTest::qWaitForWindowActive(m_window.get());
 }
 
-void tst_RibbonWindowBorder::placement_data()
-{
-    QTest::addColumn<int>("margin");
-    QTest::newRow("no margin") << 0;
-    QTest::newRow("frame margin") << 7;
-}
-
 void tst_RibbonWindowBorder::placement()
 {
-    QFETCH(int, margin);
-    makeWindow(margin);
-    QCOMPARE(itemGeometries(), sorted(expectedItems(kGeometry, margin)));
-
-    QVERIFY(showWindow());
-    QVERIFY(allVisible(true));
-    m_window->hide();
-    QVERIFY(allVisible(false));
-    m_window->show();
-    QVERIFY(allVisible(true));
-
-    const QRect moved(150, 80, 300, 200);
-    m_window->move(moved.topLeft());
-    QTRY_COMPARE(m_window->geometry(), moved);
-    QCOMPARE(itemGeometries(), sorted(expectedItems(moved, margin)));
-    const QRect resized(150, 80, 240, 310);
-    m_window->resize(resized.size());
-    QTRY_COMPARE(m_window->geometry(), resized);
-    QCOMPARE(itemGeometries(), sorted(expectedItems(resized, margin)));
+    for (int margin : {0, 7}) {
+        makeWindow(margin);
+        QVERIFY(itemsPlacedAround(kGeometry, margin));
+        QVERIFY(showWindow());
+        const QRect moved(150, 80, 300, 200);
+        m_window->move(moved.topLeft());
+        QTRY_COMPARE(m_window->geometry(), moved);
+        QVERIFY(itemsPlacedAround(moved, margin));
+        const QRect resized(150, 80, 240, 310);
+        m_window->resize(resized.size());
+        QTRY_COMPARE(m_window->geometry(), resized);
+        QVERIFY(itemsPlacedAround(resized, margin));
+    }
 }
 
 void tst_RibbonWindowBorder::dragKeepsOppositeEdgeAtMinimum_data()
@@ -249,6 +227,11 @@ void tst_RibbonWindowBorder::visibilityFollowsWindowState()
 {
     makeWindow();
     QVERIFY(showWindow());
+    QVERIFY(allVisible(true));
+    m_window->hide();
+    QVERIFY(allVisible(false));
+    m_window->show();
+    QVERIFY(allVisible(true));
     m_window->showMinimized();
     QVERIFY(allVisible(false));
     // Qt sends the restored window a show event, which brings the items back at once;
@@ -272,28 +255,7 @@ void tst_RibbonWindowBorder::visibilityFollowsWindowState()
     QVERIFY(allVisible(false));
 }
 
-void tst_RibbonWindowBorder::releaseActivatesWindow()
-{
-    makeWindow();
-    QVERIFY(showWindow());
-    QWidget other;
-    other.setGeometry(500, 400, 100, 100);
-    other.show();
-    QApplication::setActiveWindow(&other);
-    // Platforms that activate every window they show may hand the activation on to a
-    // border item; all that counts is that the window lost it.
-    QTRY_VERIFY(!m_window->isActiveWindow());
-
-    QWidget *bottom = item(6);
-    QVERIFY(bottom);
-    const QPoint at = bottom->mapToGlobal(bottom->rect().center());
-    sendMouse(bottom, QEvent::MouseButtonPress, at);
-    sendMouse(bottom, QEvent::MouseButtonRelease, at, Qt::NoButton);
-    QCOMPARE(QApplication::activeWindow(), m_window.get());
-    QCOMPARE(m_window->geometry(), kGeometry);
-}
-
-void tst_RibbonWindowBorder::maskLeavesOutOtherWindows()
+void tst_RibbonWindowBorder::maskAndActivation()
 {
     makeWindow();
     QVERIFY(showWindow(true));
@@ -303,7 +265,8 @@ void tst_RibbonWindowBorder::maskLeavesOutOtherWindows()
     QVERIFY(left->mask().isEmpty());
 
     // Another window, active, overlaps the lower part of the left item. Its system
-    // frame and caption count as part of it.
+    // frame and caption count as part of it. Platforms that activate every window they
+    // show may hand the activation on to a border item; what counts is that ours lost it.
     const int s = RibbonPlatform::sizingFrameThickness();
     QWidget other;
     other.setGeometry(50, 300, 100, 100);
@@ -325,9 +288,12 @@ void tst_RibbonWindowBorder::maskLeavesOutOtherWindows()
     QCOMPARE(qAlpha(hidden.pixel(s - 1, 10)), 0);
     QCOMPARE(qAlpha(hidden.pixel(s - 1, left->height() / 2)), 0);
 
-    // Back to our window: the whole item again.
-    QApplication::setActiveWindow(m_window.get());
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    // A click on an item activates our window without resizing it: the whole item again.
+    const QPoint at = left->mapToGlobal(left->rect().center());
+    sendMouse(left, QEvent::MouseButtonPress, at);
+    sendMouse(left, QEvent::MouseButtonRelease, at, Qt::NoButton);
+    QCOMPARE(QApplication::activeWindow(), m_window.get());
+    QCOMPARE(m_window->geometry(), kGeometry);
     left->grab();
     QVERIFY(left->mask().isEmpty());
 }
