@@ -154,7 +154,6 @@ void tst_RibbonAction::aliasStateCopiedAtConstruction()
     QCOMPARE(action.shortcut(), QKeySequence(QStringLiteral("Ctrl+S")));
     QVERIFY(action.isEnabled());
 
-
     // The checked state syncs both ways, without ping-pong.
     QSignalSpy ownToggled(&action, &QAction::toggled);
     action.setChecked(true);
