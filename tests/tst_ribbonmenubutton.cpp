@@ -197,27 +197,37 @@ private slots:
         QCOMPARE(button.focusPolicy(), Qt::NoFocus);
     }
 
-    // The caption runs the checked item of an exclusive menu, else the default action; the
-    // arrow only opens; a press dragged off the caption runs nothing.
-    void largeSplitButtonParts()
+    // The caption runs the checked item of an exclusive menu while it is enabled, else the default
+    // action; the arrow only opens; a press dragged off the caption runs nothing; choosing the
+    // checked item again unchecks it.
+    void largeSplitButton()
     {
         Menu action(QStringLiteral("Paste"), Menu::MenuSizeLarge);
         RibbonSimpleAction paste(QStringLiteral("Paste now"), nullptr);
         paste.setToolTip(QStringLiteral("Paste from the clipboard"));
         action.addAction(&paste, true);
         addItems(action);
+        action.setExclusive(true);
         Host host(action);
         QVERIFY(host.exposed());
         RibbonCatMenuButton *button = host.button;
         QCOMPARE(button->toolTip(), QStringLiteral("Paste from the clipboard"));
+        const QPoint caption(button->width() / 2, scaled(37) - 1);
+        const QPoint arrow(button->width() / 2, scaled(37));
+        const auto choose = [&](QAction *item) {
+            QVERIFY(pressOpens(button, arrow));
+            click(openMenu(), openMenu()->actionGeometry(item).center());
+            QTRY_VERIFY(!openMenu());
+            release(button, arrow);
+        };
 
         QSignalSpy pasted(&paste, SIGNAL(triggered()));
-        const QPoint caption(button->width() / 2, scaled(37) - 1);
+        QSignalSpy second(m_second.get(), SIGNAL(triggered()));
         press(button, caption);
         QVERIFY(!openMenu());
         release(button, caption);
         QCOMPARE(pasted.count(), 1);
-        QVERIFY(pressOpens(button, QPoint(button->width() / 2, scaled(37))));
+        QVERIFY(pressOpens(button, arrow));
         QCOMPARE(openMenu()->actions().size(), 4);
         QCOMPARE(openMenu()->pos(), button->mapToGlobal(QPoint(0, button->height())));
         QVERIFY(escapeMenu());
@@ -225,18 +235,23 @@ private slots:
         release(button, QPoint(button->width() + 20, caption.y()));
         QCOMPARE(pasted.count(), 1);
 
-        action.setExclusive(true);
-        m_second->setChecked(true);
+        choose(m_first.get());
+        QCOMPARE(action.checkedAction(), m_first.get());
+        choose(m_second.get());
+        QVERIFY(m_second->isChecked() && !m_first->isChecked());
         QCOMPARE(action.checkedAction(), m_second.get());
-        QSignalSpy second(m_second.get(), SIGNAL(triggered()));
+        choose(m_second.get());
+        QVERIFY(!m_second->isChecked());
+        QCOMPARE(action.checkedAction(), nullptr);
+
+        m_second->setChecked(true);
         click(button, caption);
-        QCOMPARE(second.count(), 1);
+        QCOMPARE(second.count(), 3);
         QCOMPARE(pasted.count(), 1);
-        // A disabled checked item gives way to the default action.
         m_second->setChecked(true);
         m_second->setEnabled(false);
         click(button, caption);
-        QCOMPARE(second.count(), 1);
+        QCOMPARE(second.count(), 3);
         QCOMPARE(pasted.count(), 2);
     }
 
@@ -348,30 +363,6 @@ private slots:
             QTRY_COMPARE(QApplication::focusWidget(), focus);
         QVERIFY(pressOpens(host.button, QPoint(5, 5)));
         QVERIFY(escapeMenu());
-    }
-
-    void exclusiveItemsCheckAndUncheck()
-    {
-        Menu action(QStringLiteral("Orientation"), Menu::MenuSizeMedium);
-        addItems(action);
-        action.setExclusive(true);
-        Host host(action);
-        QVERIFY(host.exposed());
-        const auto choose = [&](QAction *item) {
-            QVERIFY(pressOpens(host.button, QPoint(3, 3)));
-            QMenu *menu = openMenu();
-            click(menu, menu->actionGeometry(item).center());
-            QTRY_VERIFY(!openMenu());
-            release(host.button, QPoint(3, 3));
-        };
-        choose(m_first.get());
-        QCOMPARE(action.checkedAction(), m_first.get());
-        choose(m_second.get());
-        QVERIFY(m_second->isChecked() && !m_first->isChecked());
-        QCOMPARE(action.checkedAction(), m_second.get());
-        choose(m_second.get()); // the checked item again unchecks it
-        QVERIFY(!m_second->isChecked());
-        QCOMPARE(action.checkedAction(), nullptr);
     }
 
     // String actions stay out of the menu, submenus come in, a heading widens the menu.
