@@ -387,6 +387,7 @@ private slots:
         QVERIFY(escapeMenu());
     }
 
+    // Below the button otherwise (see largeSplitButton).
     void dropDownNearTheScreenBottomOpensUpwards()
     {
         Menu action(QStringLiteral("Zoom"), Menu::MenuSizeMedium);
@@ -401,13 +402,6 @@ private slots:
         QMenu *menu = openMenu();
         const QRect last = menu->actionGeometry(menu->actions().last());
         QCOMPARE(menu->mapToGlobal(last.topLeft()).y(), host.button->mapToGlobal(QPoint(0, 0)).y() - 30);
-        QVERIFY(escapeMenu());
-        release(host.button, QPoint(3, 3));
-
-        host.window.move(available.left() + 50, available.top() + 50);
-        QTRY_COMPARE(host.window.pos(), QPoint(available.left() + 50, available.top() + 50));
-        QVERIFY(pressOpens(host.button, QPoint(3, 3)));
-        QCOMPARE(openMenu()->pos(), host.button->mapToGlobal(QPoint(0, host.button->height())));
         QVERIFY(escapeMenu());
     }
 
