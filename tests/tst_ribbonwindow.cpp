@@ -70,15 +70,12 @@ private slots:
     void construction();
     void systemButtons_data();
     void systemButtons();
-    void otherButtonsStayIdle_data();
     void otherButtonsStayIdle();
-    void captionDragMoves();
     void borderResize_data();
     void borderResize();
     void resizeStepBelowMinimumIsDropped_data();
     void resizeStepBelowMinimumIsDropped();
     void maximizedWindowNeitherMovesNorResizes();
-    void tinyWindowHasNoBorderAreas_data();
     void tinyWindowHasNoBorderAreas();
     void maskCutsCornersSymmetrically();
     void styleChangeResetsBackground();
@@ -160,45 +157,23 @@ void tst_RibbonWindow::systemButtons()
     }
 }
 
-void tst_RibbonWindow::otherButtonsStayIdle_data()
-{
-    QTest::addColumn<QPoint>("pressAt");
-    QTest::newRow("caption") << QPoint(100, 18);
-    QTest::newRow("left border") << QPoint(3, 100);
-    QTest::newRow("minimise") << QPoint(241, 18);
-    QTest::newRow("close") << QPoint(285, 18);
-}
-
 void tst_RibbonWindow::otherButtonsStayIdle()
 {
-    QFETCH(QPoint, pressAt);
-
-    for (Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton}) {
-        Mouse mouse{m_window.get()};
-        const QPoint start = global(pressAt);
-        mouse.press(start, button);
-        mouse.move(start + QPoint(-30, 25));
-        QCOMPARE(m_window->geometry(), kStartGeometry);
-        // Had the press entered a button state, this left release would act.
-        mouse.release(start, Qt::LeftButton);
-        mouse.release(start, button);
-        QVERIFY(m_window->isVisible() && !m_window->isMinimized());
-        QCOMPARE(m_window->geometry(), kStartGeometry);
+    // On the caption, the left border, the minimise and the close button.
+    for (const QPoint &pressAt : {QPoint(100, 18), QPoint(3, 100), QPoint(241, 18), QPoint(285, 18)}) {
+        for (Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton}) {
+            Mouse mouse{m_window.get()};
+            const QPoint start = global(pressAt);
+            mouse.press(start, button);
+            mouse.move(start + QPoint(-30, 25));
+            QCOMPARE(m_window->geometry(), kStartGeometry);
+            // Had the press entered a button state, this left release would act.
+            mouse.release(start, Qt::LeftButton);
+            mouse.release(start, button);
+            QVERIFY(m_window->isVisible() && !m_window->isMinimized());
+            QCOMPARE(m_window->geometry(), kStartGeometry);
+        }
     }
-}
-
-void tst_RibbonWindow::captionDragMoves()
-{
-    Mouse mouse{m_window.get()};
-    const QPoint start = global(m_window->captionRect().center());
-    mouse.press(start);
-    QCOMPARE(m_window->geometry(), kStartGeometry);
-    mouse.move(start + QPoint(30, 20));
-    QCOMPARE(m_window->geometry(), kStartGeometry.translated(30, 20));
-    mouse.move(start + QPoint(-45, 7));
-    mouse.release(start + QPoint(-45, 7));
-    mouse.move(start + QPoint(100, 100));
-    QCOMPARE(m_window->geometry(), kStartGeometry.translated(-45, 7));
 }
 
 void tst_RibbonWindow::borderResize_data()
@@ -218,6 +193,7 @@ void tst_RibbonWindow::borderResize_data()
     QTest::newRow("bottom-left") << QPoint(0, 195) << QPoint(-10, 10) << bdiag << QRect(90, 100, 310, 210);
     QTest::newRow("left") << QPoint(3, 100) << QPoint(-20, 5) << hor << QRect(80, 100, 320, 200);
     QTest::newRow("top-left") << QPoint(6, 9) << QPoint(-10, -10) << fdiag << QRect(90, 90, 310, 210);
+    QTest::newRow("caption") << QPoint(130, 18) << QPoint(-45, 7) << arrow << kStartGeometry.translated(-45, 7);
     QTest::newRow("client area") << QPoint(150, 100) << QPoint(10, 10) << arrow << kStartGeometry;
     QTest::newRow("just inside the frame") << QPoint(7, 100) << QPoint(10, 10) << arrow << kStartGeometry;
 }
@@ -312,31 +288,23 @@ void tst_RibbonWindow::maximizedWindowNeitherMovesNorResizes()
     QCOMPARE(m_window->geometry(), kStartGeometry);
 }
 
-void tst_RibbonWindow::tinyWindowHasNoBorderAreas_data()
-{
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<QPoint>("pressAt");
-    QTest::newRow("narrow, left edge") << QSize(13, 100) << QPoint(1, 50);
-    QTest::newRow("narrow, bottom-right") << QSize(13, 100) << QPoint(12, 99);
-    QTest::newRow("low, top edge") << QSize(100, 16) << QPoint(50, 1);
-    QTest::newRow("low, bottom edge") << QSize(100, 16) << QPoint(50, 15);
-}
-
 void tst_RibbonWindow::tinyWindowHasNoBorderAreas()
 {
-    QFETCH(QSize, size);
-    QFETCH(QPoint, pressAt);
-
-    m_window->resize(size);
-    QTRY_COMPARE(m_window->size(), size);
-    const QRect geometry = m_window->geometry();
-    m_window->setCursor(Qt::SizeAllCursor);
-    Mouse mouse{m_window.get()};
-    const QPoint start = global(pressAt);
-    mouse.move(start);
-    QCOMPARE(m_window->cursor().shape(), Qt::ArrowCursor);
-    mouse.drag(start, start + QPoint(30, 30));
-    QCOMPARE(m_window->geometry(), geometry);
+    // Narrower or lower than two frames: no edge resizes, and the cursor stays an arrow.
+    const QList<QPair<QSize, QPoint>> cases{{QSize(13, 100), QPoint(1, 50)}, {QSize(13, 100), QPoint(12, 99)},
+                                            {QSize(100, 16), QPoint(50, 1)}, {QSize(100, 16), QPoint(50, 15)}};
+    for (const auto &c : cases) {
+        m_window->resize(c.first);
+        QTRY_COMPARE(m_window->size(), c.first);
+        const QRect geometry = m_window->geometry();
+        m_window->setCursor(Qt::SizeAllCursor);
+        Mouse mouse{m_window.get()};
+        const QPoint start = global(c.second);
+        mouse.move(start);
+        QCOMPARE(m_window->cursor().shape(), Qt::ArrowCursor);
+        mouse.drag(start, start + QPoint(30, 30));
+        QCOMPARE(m_window->geometry(), geometry);
+    }
 }
 
 void tst_RibbonWindow::maskCutsCornersSymmetrically()
@@ -347,8 +315,8 @@ void tst_RibbonWindow::maskCutsCornersSymmetrically()
         const QRegion mask = m_window->mask();
         const int w = size.width(), h = size.height();
         QCOMPARE(mask.boundingRect(), QRect(0, 0, w, h));
-        for (const QPoint &kept :
-             {QPoint(w / 2, 0), QPoint(0, h / 2), QPoint(w - 1, h / 2), QPoint(w / 2, h - 1), QPoint(4, 0), QPoint(2, 2)})
+        for (const QPoint &kept : {QPoint(w / 2, 0), QPoint(0, h / 2), QPoint(w - 1, h / 2), QPoint(w / 2, h - 1),
+                                   QPoint(4, 0), QPoint(2, 2)})
             QVERIFY(mask.contains(kept));
 
         // Diagonal steps, the same at every corner: (0,0) to (3,0), (1,1) and their mirrors.
