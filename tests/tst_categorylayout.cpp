@@ -47,7 +47,6 @@ private slots:
     void init() { m_owner.reset(new QObject); }
     void cleanup() { m_owner.reset(); }
 
-    void emptyCategory_data();
     void emptyCategory();
     void placement_data();
     void placement();
@@ -56,9 +55,8 @@ private slots:
     void layoutBoundsAndOrigin();
     void stripWidthAndPlacement();
     void addAndRemoveOnLiveCategory();
-    void deleteCategoryFirst();
     void deleteActionsFirst();
-    void deleteGroupActionFirst();
+    void deleteCategoryOrStripFirst();
 
 private:
     RibbonCatSimpleAction *small(int minimalWidth = -1);
@@ -87,27 +85,23 @@ QRect tst_CategoryLayout::rectOf(RibbonCategory &category, RibbonAction *action)
     return control ? control->geometry() : QRect();
 }
 
-void tst_CategoryLayout::emptyCategory_data()
-{
-    QTest::addColumn<QString>("caption");
-    QTest::newRow("short caption") << QStringLiteral("X");
-    QTest::newRow("long caption") << QStringLiteral("A caption far wider than fifty pixels");
-}
-
 void tst_CategoryLayout::emptyCategory()
 {
-    QFETCH(QString, caption);
-    RibbonCategoryAction action(caption, m_owner.get());
-    RibbonCategory category(nullptr, action);
-    const int captionWidth = category.fontMetrics().horizontalAdvance(caption) + 6;
-    QCOMPARE(category.sizeHint(), QSize(qMax(50, captionWidth), height()));
-    QCOMPARE(category.categoryLayout()->heightForWidth(1000), height());
+    // At least 50 wide, or as wide as the caption.
+    const QString longCaption = QStringLiteral("A caption far wider than fifty pixels");
+    for (const QString &caption : {QStringLiteral("X"), longCaption}) {
+        RibbonCategoryAction action(caption, m_owner.get());
+        RibbonCategory category(nullptr, action);
+        const int captionWidth = category.fontMetrics().horizontalAdvance(caption) + 6;
+        QCOMPARE(category.sizeHint(), QSize(qMax(50, captionWidth), height()));
+        QCOMPARE(category.categoryLayout()->heightForWidth(1000), height());
 
-    // Emptied again, the layout keeps only its margins.
-    auto *a = new RibbonCatSimpleAction(QStringLiteral("a"), RibbonCatSimpleAction::SizeLarge, m_owner.get());
-    action.addAction(a, -1);
-    action.removeAction(a);
-    QCOMPARE(category.categoryLayout()->sizeHint(), QSize(3 + 4, height()));
+        // Emptied again, the layout keeps only its margins.
+        RibbonCatSimpleAction *a = small();
+        action.addAction(a, -1);
+        action.removeAction(a);
+        QCOMPARE(category.categoryLayout()->sizeHint(), QSize(3 + 4, height()));
+    }
 }
 
 void tst_CategoryLayout::placement_data()
@@ -282,23 +276,6 @@ void tst_CategoryLayout::addAndRemoveOnLiveCategory()
     QCOMPARE(category.categoryLayout()->count(), 1);
 }
 
-void tst_CategoryLayout::deleteCategoryFirst()
-{
-    RibbonCategoryAction *g = group();
-    auto *strip = new RibbonCatActionGroup(m_owner.get());
-    strip->addAction(small(), false);
-    g->addAction(small(), -1);
-    g->addAction(strip, -1);
-    auto *category = new RibbonCategory(nullptr, *g);
-    category->show();
-    delete category;
-    // The actions work on without their widgets.
-    g->addAction(small(), -1);
-    strip->addAction(small(), false);
-    QCOMPARE(g->actions().size(), 3);
-    m_owner.reset();
-}
-
 void tst_CategoryLayout::deleteActionsFirst()
 {
     // A member goes, then the category action while another member lives on.
@@ -328,8 +305,22 @@ void tst_CategoryLayout::deleteActionsFirst()
     category.repaint();
 }
 
-void tst_CategoryLayout::deleteGroupActionFirst()
+void tst_CategoryLayout::deleteCategoryOrStripFirst()
 {
+    // The category goes first; the actions work on without their widgets.
+    RibbonCategoryAction *first = group();
+    auto *firstStrip = new RibbonCatActionGroup(m_owner.get());
+    firstStrip->addAction(small(), false);
+    first->addAction(small(), -1);
+    first->addAction(firstStrip, -1);
+    auto *doomed = new RibbonCategory(nullptr, *first);
+    doomed->show();
+    delete doomed;
+    first->addAction(small(), -1);
+    firstStrip->addAction(small(), false);
+    QCOMPARE(first->actions().size(), 3);
+
+    // The strip's last member goes, then the strip.
     RibbonCategoryAction *g = group();
     auto *strip = new RibbonCatActionGroup(m_owner.get());
     RibbonCatSimpleAction *inStrip = small();
