@@ -14,7 +14,6 @@
 #include "RibbonCategoryPanel.h"
 #include "RibbonCategoryPanels.h"
 #include "RibbonCategoryPanelsProxy.h"
-#include "RibbonCategoryWrapper.h"
 #include "RibbonContextCategoryPanel.h"
 #include "RibbonContextCategoryPanelAction.h"
 #include "RibbonMainWindow.h"
@@ -23,7 +22,7 @@
 #include "RibbonScale_p.h"
 #include "RibbonSimpleAction.h"
 
-#include <QHBoxLayout>
+#include <QLayout>
 #include <QPointer>
 
 #include <memory>
@@ -32,75 +31,67 @@ using namespace zel;
 
 namespace {
 
+using Tab = RibbonCategoriesPanelAction;
+
 struct Fixture
 {
-    Fixture() : window(new RibbonMainWindow) {}
-
     RibbonMenuBar &bar() const { return window->ribbonMenuBar(); }
     RibbonCategoryPanels *panels() const { return bar().categoryPanels()->subject(); }
 
     // A tab with one group holding one command.
-    RibbonCategoriesPanelAction *tab(const QString &text, QObject *owner = nullptr)
+    Tab *tab(const char *text, QObject *owner = nullptr)
     {
         QObject *parent = owner ? owner : window.get();
-        auto *t = new RibbonCategoriesPanelAction(text, parent);
-        auto *c = new RibbonCategoryAction(text + QStringLiteral(" group"), parent);
+        auto *t = new Tab(QLatin1String(text), parent);
+        auto *c = new RibbonCategoryAction(QStringLiteral("Group"), parent);
         c->addAction(new RibbonCatSimpleAction(QStringLiteral("Go"), RibbonCatSimpleAction::SizeLarge, parent), -1);
         t->addCategory(c);
         return t;
     }
 
-    QList<RibbonCategoriesPanelAction *> addTabs(std::initializer_list<const char *> names, QObject *owner = nullptr)
+    QList<Tab *> addTabs(std::initializer_list<const char *> names, QObject *owner = nullptr)
     {
-        QList<RibbonCategoriesPanelAction *> tabs;
+        QList<Tab *> tabs;
         for (const char *name : names) {
-            tabs << tab(QLatin1String(name), owner);
+            tabs << tab(name, owner);
             bar().addAction(tabs.last());
         }
         return tabs;
     }
 
-    // A yellow contextual set holding the given tabs, registered with the bar.
-    RibbonContextCategoryPanelAction *contextSet(const QString &caption, const QList<RibbonCategoriesPanelAction *> &tabs,
+    // A contextual set holding the given tabs, registered with the bar.
+    RibbonContextCategoryPanelAction *contextSet(const char *caption, const QList<Tab *> &tabs,
                                                  QColor colour = Qt::yellow)
     {
         auto *set = new RibbonContextCategoryPanelAction(colour, Qt::red, Qt::black, window.get());
-        set->setText(caption);
-        for (RibbonCategoriesPanelAction *t : tabs)
+        set->setText(QLatin1String(caption));
+        for (Tab *t : tabs)
             set->addPanelAction(t);
         bar().ribbonContextCategoryPanel().addContextPanelAction(set);
         return set;
     }
 
-    void show()
+    bool show()
     {
         window->resize(900, 400);
         window->show();
-        QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+        return QTest::qWaitForWindowExposed(window.get());
     }
 
-    // The tab texts in the order of their buttons in the tab row.
-    QStringList row() const
+    // The captions of the tab row, left to right.
+    QString row() const
     {
+        bar().layout()->activate();
         QList<RibbonMenuBarButton *> sorted = bar().findChildren<RibbonMenuBarButton *>();
         std::sort(sorted.begin(), sorted.end(), [](QWidget *a, QWidget *b) { return a->x() < b->x(); });
-        bar().layout()->activate();
         QStringList texts;
         for (RibbonMenuBarButton *b : sorted)
             texts << b->text();
-        return texts;
+        return texts.join(QLatin1Char(','));
     }
 
-    std::unique_ptr<RibbonMainWindow> window;
+    std::unique_ptr<RibbonMainWindow> window{new RibbonMainWindow};
 };
-
-QStringList texts(std::initializer_list<const char *> names)
-{
-    QStringList list;
-    for (const char *name : names)
-        list << QLatin1String(name);
-    return list;
-}
 
 // The right end of the tab row, left to right.
 QList<QWidget *> rowWidgets(RibbonMenuBar &bar)
@@ -129,26 +120,22 @@ private slots:
     void removeCurrentTab();
     void disableAndEnable();
     void clickWhilePinned();
+    void clickWhileMinimised_data();
     void clickWhileMinimised();
-    void doubleClickWhileMinimised();
     void collapseActionAndShortcut();
     void contextualSets();
     void contextualCaptionWidensTabs();
-    void unregisteringHidesSet();
     void helpAndFindButtons();
-    void lifetimeWhileShown();
-    void deleteTabsBeforeWindow();
-    void deleteWindowBeforeTabs();
+    void lifetimes();
 };
 
 void tst_RibbonMenuBar::emptyBar()
 {
     Fixture f;
-    f.show();
+    QVERIFY(f.show());
     RibbonMenuBar &bar = f.bar();
     QVERIFY(!bar.mainMenuButton()->isVisible());
-    QCOMPARE(bar.mainMenuButton()->text(), QStringLiteral("FILE"));
-    QCOMPARE(f.row(), QStringList());
+    QCOMPARE(f.row(), QString());
     const QList<QWidget *> right = rowWidgets(bar);
     QCOMPARE(right.size(), 1);
     QCOMPARE(right.first()->size(), QSize(16, 20));
@@ -158,7 +145,7 @@ void tst_RibbonMenuBar::emptyBar()
     bar.displayedContextPanelRect(untouched);
     QCOMPARE(untouched, QRect(1, 2, 3, 4));
 
-    RibbonCategoriesPanelAction *home = f.addTabs({"Home"}).first();
+    Tab *home = f.addTabs({"Home"}).first();
     QTRY_COMPARE(bar.height(), 24 + scaled(92));
     QVERIFY(bar.mainMenuButton()->isVisible());
     QCOMPARE(bar.menuBarButton(home)->height(), 24);
@@ -169,23 +156,26 @@ void tst_RibbonMenuBar::firstTabCurrent()
 {
     Fixture f;
     const auto tabs = f.addTabs({"Home", "View"});
-    QVERIFY(tabs.at(0)->isChecked());
-    QVERIFY(!tabs.at(1)->isChecked());
+    QVERIFY(tabs.at(0)->isChecked() && !tabs.at(1)->isChecked());
     QVERIFY(f.bar().menuBarButton(tabs.at(0))->isChecked());
     QCOMPARE(f.panels()->currentWidget(), f.panels()->panel(tabs.at(0)));
     // The tabs are the window's actions too, for their shortcuts.
     QVERIFY(f.window->actions().contains(tabs.at(0)) && f.window->actions().contains(tabs.at(1)));
-    QCOMPARE(f.row(), texts({"HOME", "VIEW"}));
+    QCOMPARE(f.row(), QStringLiteral("HOME,VIEW"));
 
-    // Added checked to a minimised bar: no tab is current and nothing pops up.
-    Fixture g;
-    g.bar().setMinimizeRibbon(true);
-    QVERIFY(g.bar().isRibbonMinimized());
-    RibbonCategoriesPanelAction *home = g.tab(QStringLiteral("Home"));
-    home->setChecked(true);
-    g.bar().addAction(home);
-    QVERIFY(!home->isChecked());
-    QVERIFY(!g.panels()->isVisible());
+    // Added checked, a tab becomes current at once; on a minimised bar no tab is current
+    // and nothing pops up.
+    Tab *late = f.tab("Late");
+    late->setChecked(true);
+    f.bar().addAction(late);
+    QVERIFY(late->isChecked() && !tabs.at(0)->isChecked());
+    QCOMPARE(f.panels()->currentWidget(), f.panels()->panel(late));
+    f.bar().setMinimizeRibbon(true);
+    Tab *hidden = f.tab("Hidden");
+    hidden->setChecked(true);
+    f.bar().addAction(hidden);
+    QVERIFY(!hidden->isChecked());
+    QVERIFY(!f.panels()->isVisible());
 }
 
 void tst_RibbonMenuBar::removeCurrentTab_data()
@@ -203,23 +193,23 @@ void tst_RibbonMenuBar::removeCurrentTab()
     QFETCH(QString, next);
     Fixture f;
     const auto tabs = f.addTabs({"A", "B", "C"});
-    RibbonCategoriesPanelAction *removed = tabs.at(current);
+    Tab *removed = tabs.at(current);
     removed->setChecked(true);
     f.bar().removeAction(removed);
     QVERIFY(!removed->isChecked());
     QVERIFY(!f.bar().menuBarButton(removed));
     QVERIFY(!f.panels()->panel(removed));
     QVERIFY(!f.window->actions().contains(removed));
-    for (RibbonCategoriesPanelAction *tab : tabs) {
+    for (Tab *tab : tabs) {
         if (tab != removed)
             QCOMPARE(tab->isChecked(), tab->text() == next);
     }
 
     // Down to the last tab: nothing left to be current.
-    for (RibbonCategoriesPanelAction *tab : tabs)
+    for (Tab *tab : tabs)
         f.bar().removeAction(tab);
     QCOMPARE(f.panels()->count(), 0);
-    for (RibbonCategoriesPanelAction *tab : tabs)
+    for (Tab *tab : tabs)
         QVERIFY(!tab->isChecked());
     f.bar().removeAction(tabs.first()); // unknown by now: nothing happens
 }
@@ -228,26 +218,24 @@ void tst_RibbonMenuBar::disableAndEnable()
 {
     Fixture f;
     const auto tabs = f.addTabs({"Home", "Insert", "View"});
-    RibbonCategoriesPanelAction *insert = tabs.at(1);
-    f.show();
+    Tab *insert = tabs.at(1);
+    QVERIFY(f.show());
 
     QPointer<RibbonMenuBarButton> button = f.bar().menuBarButton(insert);
     insert->setEnabled(false);
     QVERIFY(!button);
     QVERIFY(!f.panels()->panel(insert));
-    QCOMPARE(f.row(), texts({"HOME", "VIEW"}));
+    QCOMPARE(f.row(), QStringLiteral("HOME,VIEW"));
     insert->setEnabled(true);
-    QVERIFY(f.bar().menuBarButton(insert));
     QVERIFY(f.panels()->panel(insert));
-    QCOMPARE(f.row(), texts({"HOME", "VIEW", "INSERT"}));
+    QCOMPARE(f.row(), QStringLiteral("HOME,VIEW,INSERT"));
 
     // Disabling the current tab passes the current state on.
-    QVERIFY(tabs.at(0)->isChecked());
     tabs.at(0)->setEnabled(false);
     QVERIFY(insert->isChecked() || tabs.at(2)->isChecked());
 
     // A tab added disabled gets no button until it is enabled.
-    RibbonCategoriesPanelAction *late = f.tab(QStringLiteral("Late"));
+    Tab *late = f.tab("Late");
     late->setEnabled(false);
     f.bar().addAction(late);
     QVERIFY(!f.bar().menuBarButton(late));
@@ -259,24 +247,22 @@ void tst_RibbonMenuBar::clickWhilePinned()
 {
     Fixture f;
     const auto tabs = f.addTabs({"Home", "View"});
-    RibbonCategoriesPanelAction *home = tabs.at(0);
-    RibbonCategoriesPanelAction *view = tabs.at(1);
-    f.show();
+    Tab *home = tabs.at(0);
+    Tab *view = tabs.at(1);
+    QVERIFY(f.show());
 
     // A click on the current tab does nothing at all.
     QSignalSpy homeTriggered(home, &QAction::triggered);
     QSignalSpy homeChanged(home, &QAction::changed);
     QTest::mouseClick(f.bar().menuBarButton(home), Qt::LeftButton);
-    QCOMPARE(homeTriggered.count(), 0);
-    QCOMPARE(homeChanged.count(), 0);
+    QCOMPARE(homeTriggered.count() + homeChanged.count(), 0);
     QVERIFY(home->isChecked());
     QVERIFY(!f.bar().lastClickedAction());
 
     QSignalSpy triggered(view, &QAction::triggered);
     QTest::mouseClick(f.bar().menuBarButton(view), Qt::LeftButton);
     QCOMPARE(triggered.count(), 1);
-    QVERIFY(view->isChecked());
-    QVERIFY(!home->isChecked());
+    QVERIFY(view->isChecked() && !home->isChecked());
     QCOMPARE(f.bar().lastClickedAction(), view);
     QCOMPARE(f.panels()->currentWidget(), f.panels()->panel(view));
 
@@ -286,67 +272,56 @@ void tst_RibbonMenuBar::clickWhilePinned()
     QVERIFY(!f.panels()->isVisible());
 }
 
+void tst_RibbonMenuBar::clickWhileMinimised_data()
+{
+    QTest::addColumn<bool>("doubleClick");
+    QTest::newRow("single: the popup opens") << false;
+    QTest::newRow("double: pinned, no popup") << true;
+}
+
 void tst_RibbonMenuBar::clickWhileMinimised()
 {
+    QFETCH(bool, doubleClick);
     Fixture f;
-    RibbonCategoriesPanelAction *home = f.addTabs({"Home"}).first();
-    f.show();
+    Tab *home = f.addTabs({"Home"}).first();
+    QVERIFY(f.show());
     f.bar().setMinimizeRibbon(true);
     QVERIFY(!home->isChecked());
     QTRY_COMPARE(f.bar().height(), 24);
 
-    // The popup opens once the double-click interval is over.
-    QTest::mouseClick(f.bar().menuBarButton(home), Qt::LeftButton);
-    QVERIFY(!home->isChecked());
-    QVERIFY(!f.panels()->isVisible());
-    QTRY_VERIFY(home->isChecked());
-    QVERIFY(f.panels()->isVisible());
-    QVERIFY(f.panels()->isWindow());
-    QCOMPARE(f.bar().lastClickedAction(), home);
-    f.bar().collapse();
-    QVERIFY(!f.panels()->isVisible());
-    QVERIFY(!home->isChecked());
-}
-
-void tst_RibbonMenuBar::doubleClickWhileMinimised()
-{
-    Fixture f;
-    RibbonCategoriesPanelAction *home = f.addTabs({"Home"}).first();
-    f.show();
-    f.bar().setMinimizeRibbon(true);
-
-    struct ShowCounter : QObject
+    struct PopupCounter : QObject
     {
         int count = 0;
         bool eventFilter(QObject *o, QEvent *e) override
         {
-            if (e->type() == QEvent::Show && static_cast<QWidget *>(o)->isWindow())
-                ++count;
+            count += e->type() == QEvent::Show && static_cast<QWidget *>(o)->isWindow();
             return false;
         }
     } popupShows;
     f.panels()->installEventFilter(&popupShows);
 
-    RibbonMenuBarButton *button = f.bar().menuBarButton(home);
-    QTest::mouseClick(button, Qt::LeftButton);
-    QTest::mouseDClick(button, Qt::LeftButton);
-    QTRY_VERIFY(!f.bar().isRibbonMinimized());
+    // The popup waits for the double-click interval to pass.
+    QTest::mouseClick(f.bar().menuBarButton(home), Qt::LeftButton);
+    QVERIFY(!home->isChecked() && !f.panels()->isVisible());
+    if (doubleClick)
+        QTest::mouseDClick(f.bar().menuBarButton(home), Qt::LeftButton);
+    QTRY_VERIFY(home->isChecked());
     QTest::qWait(250);
-    QCOMPARE(popupShows.count, 0);
-    QVERIFY(!f.bar().isRibbonMinimized());
-    QVERIFY(!f.panels()->isWindow());
-    QVERIFY(home->isChecked());
+    QCOMPARE(popupShows.count, doubleClick ? 0 : 1);
+    QCOMPARE(f.bar().isRibbonMinimized(), !doubleClick);
+    QCOMPARE(f.panels()->isWindow(), !doubleClick);
+    QVERIFY(f.panels()->isVisible());
+    if (!doubleClick)
+        QCOMPARE(f.bar().lastClickedAction(), home);
     f.panels()->removeEventFilter(&popupShows);
 }
 
 void tst_RibbonMenuBar::collapseActionAndShortcut()
 {
     Fixture f;
-    RibbonCategoriesPanelAction *home = f.addTabs({"Home"}).first();
-    f.show();
+    Tab *home = f.addTabs({"Home"}).first();
+    QVERIFY(f.show());
     QAction *collapse = f.bar().collapseRibbonAction();
-    QCOMPARE(collapse->shortcut(), QKeySequence(Qt::CTRL + Qt::Key_F1));
-    QVERIFY(collapse->text().isEmpty());
     QCOMPARE(collapse->toolTip(), QStringLiteral("Collapse the Ribbon"));
     const QImage minimiseImage = collapse->icon().pixmap(16).toImage();
     QVERIFY(!minimiseImage.isNull());
@@ -369,21 +344,20 @@ void tst_RibbonMenuBar::collapseActionAndShortcut()
     QVERIFY(home->isChecked());
 
     f.bar().setMinimizeRibbon(false); // same value: nothing changes
-    QVERIFY(!f.bar().isRibbonMinimized());
-    QVERIFY(f.panels()->isVisible());
+    QVERIFY(!f.bar().isRibbonMinimized() && f.panels()->isVisible());
 }
 
 void tst_RibbonMenuBar::contextualSets()
 {
     Fixture f;
     f.addTabs({"Home"});
-    f.show();
-    RibbonCategoriesPanelAction *design = f.tab(QStringLiteral("Design"));
-    RibbonCategoriesPanelAction *layout = f.tab(QStringLiteral("Layout"));
-    auto *first = f.contextSet(QStringLiteral("Tools"), {design, layout});
-    auto *second = f.contextSet(QStringLiteral("More"), {f.tab(QStringLiteral("Format"))}, Qt::cyan);
+    QVERIFY(f.show());
+    Tab *design = f.tab("Design");
+    Tab *layout = f.tab("Layout");
+    auto *first = f.contextSet("Tools", {design, layout});
+    auto *second = f.contextSet("More", {f.tab("Format")}, Qt::cyan);
     auto *stranger = new RibbonContextCategoryPanelAction(Qt::yellow, Qt::red, Qt::black, f.window.get());
-    stranger->addPanelAction(f.tab(QStringLiteral("Stranger")));
+    stranger->addPanelAction(f.tab("Stranger"));
 
     QSignalSpy changed(&f.bar(), &RibbonMenuBar::contextRibbonChanged);
     f.bar().showContextPanelAction(stranger); // unregistered sets are not shown
@@ -393,7 +367,7 @@ void tst_RibbonMenuBar::contextualSets()
     f.bar().showContextPanelAction(first);
     QCOMPARE(changed.count(), 1);
     QCOMPARE(f.bar().displayedContextPanel(), first);
-    QCOMPARE(f.row(), texts({"HOME", "DESIGN", "LAYOUT"}));
+    QCOMPARE(f.row(), QStringLiteral("HOME,DESIGN,LAYOUT"));
     QRect band;
     f.bar().displayedContextPanelRect(band);
     RibbonMenuBarButton *d = f.bar().menuBarButton(design);
@@ -405,7 +379,7 @@ void tst_RibbonMenuBar::contextualSets()
     // Showing a second set hides the first.
     f.bar().showContextPanelAction(second);
     QCOMPARE(f.bar().displayedContextPanel(), second);
-    QCOMPARE(f.row(), texts({"HOME", "FORMAT"}));
+    QCOMPARE(f.row(), QStringLiteral("HOME,FORMAT"));
     QVERIFY(!f.panels()->panel(design));
     QCOMPARE(changed.count(), 3);
 
@@ -413,7 +387,7 @@ void tst_RibbonMenuBar::contextualSets()
     QCOMPARE(changed.count(), 3);
     f.bar().hideContextPanelAction(second);
     QVERIFY(!f.bar().displayedContextPanel());
-    QCOMPARE(f.row(), texts({"HOME"}));
+    QCOMPARE(f.row(), QStringLiteral("HOME"));
     QCOMPARE(changed.count(), 4);
 
     // The tab last clicked comes back current when its set is shown again.
@@ -424,21 +398,27 @@ void tst_RibbonMenuBar::contextualSets()
     QVERIFY(!layout->isChecked());
     f.bar().showContextPanelAction(first);
     QVERIFY(layout->isChecked());
+
+    // Unregistering a displayed set hides it; the registry reaches the bar through the meta-object.
+    f.bar().ribbonContextCategoryPanel().removeContextPanelAction(first);
+    QVERIFY(!f.bar().ribbonContextCategoryPanel().containsAction(first));
+    QVERIFY(!f.bar().displayedContextPanel());
+    QVERIFY(!f.bar().menuBarButton(design));
 }
 
 void tst_RibbonMenuBar::contextualCaptionWidensTabs()
 {
     Fixture f;
     f.addTabs({"Home"});
-    RibbonCategoriesPanelAction *x = f.tab(QStringLiteral("X"));
-    RibbonCategoriesPanelAction *y = f.tab(QStringLiteral("Y"));
-    auto *set = f.contextSet(QStringLiteral("A Rather Long Contextual Tools Caption"), {x, y});
+    Tab *x = f.tab("X");
+    Tab *y = f.tab("Y");
+    auto *set = f.contextSet("A Rather Long Contextual Tools Caption", {x, y});
     f.bar().showContextPanelAction(set);
 
     const QFontMetrics fm = f.bar().fontMetrics();
     const int d = fm.horizontalAdvance(set->text()) - fm.horizontalAdvance(x->text()) - fm.horizontalAdvance(y->text());
     QVERIFY(d > 48);
-    for (RibbonCategoriesPanelAction *tab : {x, y}) {
+    for (Tab *tab : {x, y}) {
         RibbonMenuBarButton *button = f.bar().menuBarButton(tab);
         const int expected = button->sizeHint().width() + int(d / 2.0 + 0.5) - 12 * 2;
         QCOMPARE(button->minimumWidth(), expected);
@@ -446,49 +426,28 @@ void tst_RibbonMenuBar::contextualCaptionWidensTabs()
     }
 
     // A caption narrower than the tab texts leaves the buttons alone.
-    RibbonCategoriesPanelAction *wide = f.tab(QStringLiteral("Wide Tab"));
-    f.bar().showContextPanelAction(f.contextSet(QStringLiteral("T"), {wide}));
+    Tab *wide = f.tab("Wide Tab");
+    f.bar().showContextPanelAction(f.contextSet("T", {wide}));
     QCOMPARE(f.bar().menuBarButton(wide)->minimumWidth(), 0);
-}
-
-void tst_RibbonMenuBar::unregisteringHidesSet()
-{
-    Fixture f;
-    f.addTabs({"Home"});
-    RibbonCategoriesPanelAction *design = f.tab(QStringLiteral("Design"));
-    auto *set = f.contextSet(QString(), {design});
-    f.bar().showContextPanelAction(set);
-    QVERIFY(f.bar().menuBarButton(design));
-
-    // The registry reaches the bar's slot through the meta-object.
-    RibbonContextCategoryPanel &registry = f.bar().ribbonContextCategoryPanel();
-    registry.removeContextPanelAction(set);
-    QVERIFY(!registry.containsAction(set));
-    QVERIFY(!f.bar().displayedContextPanel());
-    QVERIFY(!f.bar().menuBarButton(design));
 }
 
 void tst_RibbonMenuBar::helpAndFindButtons()
 {
     Fixture f;
     f.addTabs({"Home"});
-    f.show();
+    QVERIFY(f.show());
     QWidget *collapseButton = rowWidgets(f.bar()).last();
 
+    // A help button right of the collapse button; replacing the action replaces the button.
     auto *help = new RibbonSimpleAction(QStringLiteral("Help"), f.window.get());
     f.bar().setHelpAction(help);
+    auto *help2 = new RibbonSimpleAction(QStringLiteral("Help 2"), f.window.get());
+    f.bar().setHelpAction(help2);
     QList<QWidget *> right = rowWidgets(f.bar());
     QCOMPARE(right.size(), 2);
     QCOMPARE(right.at(0), collapseButton);
     QVERIFY(qobject_cast<RibbonButtonNormal *>(right.at(1)));
     QCOMPARE(right.at(1)->size(), QSize(20, 20));
-    QVERIFY(right.at(1)->actions().contains(help));
-
-    // Replacing the help action replaces its button.
-    auto *help2 = new RibbonSimpleAction(QStringLiteral("Help 2"), f.window.get());
-    f.bar().setHelpAction(help2);
-    right = rowWidgets(f.bar());
-    QCOMPARE(right.size(), 2);
     QVERIFY(right.at(1)->actions().contains(help2));
     QVERIFY(!f.bar().actions().contains(help));
 
@@ -505,11 +464,8 @@ void tst_RibbonMenuBar::helpAndFindButtons()
     QVERIFY(qobject_cast<RibbonCatComboComboBox *>(right.at(0)));
     QVERIFY(qobject_cast<RibbonCatMenuButton *>(right.at(1)));
     QCOMPARE(right.at(2), collapseButton);
-
     f.bar().setFindComboAction(nullptr);
-    right = rowWidgets(f.bar());
-    QCOMPARE(right.size(), 2);
-    QCOMPARE(right.at(0), collapseButton);
+    QCOMPARE(rowWidgets(f.bar()).first(), collapseButton);
 
     // A help action destroyed by its owner takes its button along.
     delete help2;
@@ -517,41 +473,24 @@ void tst_RibbonMenuBar::helpAndFindButtons()
     QCOMPARE(rowWidgets(f.bar()).size(), 1);
 }
 
-void tst_RibbonMenuBar::lifetimeWhileShown()
+void tst_RibbonMenuBar::lifetimes()
 {
+    QObject owner;
     Fixture f;
-    const auto tabs = f.addTabs({"Home", "View"});
-    RibbonCategoriesPanelAction *home = tabs.at(0);
-    f.show();
-
-    // Commands and groups come and go under the shown page.
-    auto *extra = new RibbonCatSimpleAction(QStringLiteral("Extra"), RibbonCatSimpleAction::SizeLarge, f.window.get());
-    home->categories().first()->addAction(extra, -1);
-    QTest::qWait(10);
-    delete extra;
-    auto *second = new RibbonCategoryAction(QStringLiteral("Second"), f.window.get());
-    second->addAction(new RibbonCatSimpleAction(QStringLiteral("S"), RibbonCatSimpleAction::SizeSmall, f.window.get()), -1);
-    home->addCategory(second);
-    QVERIFY(f.panels()->panel(home)->wrapper(second));
-    home->removeCategory(second);
-    QVERIFY(!f.panels()->panel(home)->wrapper(second));
-    home->addCategory(second);
-    delete second;
-    QTest::qWait(10);
+    const auto tabs = f.addTabs({"Home", "View", "Insert"}, &owner);
+    QVERIFY(f.show());
 
     // A current tab destroyed while shown hands the current state on.
-    QPointer<RibbonMenuBarButton> button = f.bar().menuBarButton(home);
-    QPointer<RibbonCategoryPanel> page = f.panels()->panel(home);
-    delete home;
-    QVERIFY(!button);
-    QVERIFY(!page);
+    QPointer<RibbonMenuBarButton> button = f.bar().menuBarButton(tabs.at(0));
+    QPointer<RibbonCategoryPanel> page = f.panels()->panel(tabs.at(0));
+    delete tabs.at(0);
+    QVERIFY(!button && !page);
     QVERIFY(tabs.at(1)->isChecked());
-    QCOMPARE(f.row(), texts({"VIEW"}));
-    QCOMPARE(f.panels()->count(), 1);
+    QCOMPARE(f.row(), QStringLiteral("VIEW,INSERT"));
 
     // A tab of a displayed contextual set destroyed while shown.
-    RibbonCategoriesPanelAction *design = f.tab(QStringLiteral("Design"));
-    auto *set = f.contextSet(QString(), {design});
+    Tab *design = f.tab("Design");
+    auto *set = f.contextSet("", {design});
     f.bar().showContextPanelAction(set);
     delete design;
     QRect band;
@@ -559,37 +498,22 @@ void tst_RibbonMenuBar::lifetimeWhileShown()
     QVERIFY(band.isNull());
     delete set;
     QVERIFY(!f.bar().displayedContextPanel());
-    QTest::qWait(10);
-}
 
-void tst_RibbonMenuBar::deleteTabsBeforeWindow()
-{
-    Fixture f;
-    QObject owner;
-    const auto tabs = f.addTabs({"Home", "View"}, &owner);
-    f.show();
-    f.bar().setMinimizeRibbon(true);
-    tabs.at(1)->setChecked(true);
-    QVERIFY(f.panels()->isVisible());
     // Groups, commands and tabs all go while the popup panel is open.
-    qDeleteAll(owner.children());
+    f.bar().setMinimizeRibbon(true);
+    tabs.at(2)->setChecked(true);
+    QVERIFY(f.panels()->isVisible());
+    QPointer<Tab> view = tabs.at(1);
+    const QObjectList model = owner.children();
+    qDeleteAll(model);
+    QVERIFY(!view);
     QCOMPARE(f.panels()->count(), 0);
-    QCOMPARE(f.row(), QStringList());
-    f.window.reset();
-}
+    QCOMPARE(f.row(), QString());
 
-void tst_RibbonMenuBar::deleteWindowBeforeTabs()
-{
-    QObject owner;
-    QPointer<RibbonCategoriesPanelAction> home;
-    {
-        Fixture f;
-        home = f.addTabs({"Home", "View"}, &owner).first();
-        f.show();
-    }
-    QVERIFY(home);
+    // A window deleted before its tabs: they live on, and can go to another bar.
+    Tab *home = f.addTabs({"Home"}, &owner).first();
+    f.window.reset();
     QVERIFY(home->associatedWidgets().isEmpty());
-    // The actions live on, and can go to another bar.
     Fixture g;
     g.bar().addAction(home);
     QVERIFY(g.bar().menuBarButton(home));
