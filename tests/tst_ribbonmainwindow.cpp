@@ -21,21 +21,9 @@
 #include <QPointer>
 #include <QPushButton>
 
-#include <memory>
-
 using namespace zel;
 
 Q_DECLARE_METATYPE(RibbonMainWindow::View)
-
-static QtMessageHandler s_previousHandler = nullptr;
-
-// The test platform reports every window-system request it does not carry out (masks,
-// raising windows); those reports say nothing about the window.
-static void quietHandler(QtMsgType type, const QMessageLogContext &context, const QString &message)
-{
-    if (!message.startsWith(QLatin1String("This plugin does not support")))
-        s_previousHandler(type, context, message);
-}
 
 // Bounding box of the pixels that differ between two grabs, within rows [top, top + height).
 static QRect changedRect(const QImage &a, const QImage &b, int top, int height)
@@ -51,9 +39,9 @@ static QRect changedRect(const QImage &a, const QImage &b, int top, int height)
 }
 
 // Sends a mouse move with the given buttons held to a widget, at a global position.
-static void moveMouse(QWidget *w, const QPoint &global, Qt::MouseButtons buttons = Qt::NoButton)
+static void moveMouse(QWidget *w, const QPoint &at, Qt::MouseButtons buttons = Qt::NoButton)
 {
-    QMouseEvent move(QEvent::MouseMove, w->mapFromGlobal(global), global, Qt::NoButton, buttons, Qt::NoModifier);
+    QMouseEvent move(QEvent::MouseMove, w->mapFromGlobal(at), at, Qt::NoButton, buttons, Qt::NoModifier);
     QApplication::sendEvent(w, &move);
 }
 
@@ -64,7 +52,6 @@ class tst_RibbonMainWindow : public QObject
     std::unique_ptr<RibbonMainWindow> m_window;
     std::unique_ptr<QObject> m_owner;
     RibbonCategoriesPanelAction *m_tab = nullptr;
-    RibbonCatSimpleAction *m_command = nullptr;
 
     // A window with one tab holding one category with one command, shown at a fixed place.
     void buildWindow(bool show = true)
@@ -73,8 +60,8 @@ class tst_RibbonMainWindow : public QObject
         m_window->setWindowTitle(QStringLiteral("Document"));
         m_tab = new RibbonCategoriesPanelAction(QStringLiteral("Home"), m_owner.get());
         auto *category = new RibbonCategoryAction(QStringLiteral("Clipboard"), m_owner.get());
-        m_command = new RibbonCatSimpleAction(QStringLiteral("Paste"), RibbonCatSimpleAction::SizeLarge, m_owner.get());
-        category->addAction(m_command, 0);
+        category->addAction(
+            new RibbonCatSimpleAction(QStringLiteral("Paste"), RibbonCatSimpleAction::SizeLarge, category), 0);
         m_tab->addCategory(category);
         m_window->ribbonMenuBar().addAction(m_tab);
         if (show) {
@@ -92,7 +79,6 @@ class tst_RibbonMainWindow : public QObject
     }
 
 private slots:
-    void initTestCase() { s_previousHandler = qInstallMessageHandler(quietHandler); }
     void init() { m_owner.reset(new QObject); }
 
     void cleanup()
@@ -126,7 +112,6 @@ private slots:
         if (emitted)
             QCOMPARE(spy.at(0).at(0).toInt(), int(from));
         QCOMPARE(m_window->activeView(), emitted ? to : from);
-        // Only the main view shows the ribbon bar.
         QCOMPARE(m_window->ribbonMenuBar().isVisible(), m_window->activeView() == RibbonMainWindow::MainView);
     }
 
@@ -136,12 +121,8 @@ private slots:
         m_window->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
         QSignalSpy spy(m_window.get(), SIGNAL(activeViewChanged(int)));
-        QTest::keyClick(m_window.get(), Qt::Key_Escape);
-        m_window->hideBackstagePanel();
-        QCOMPARE(spy.count(), 0);
-
         // Escape and hideBackstagePanel() leave either page for the main view.
-        for (RibbonMainWindow::View view : {RibbonMainWindow::BackstagePanel, RibbonMainWindow::WelcomeScreen}) {
+        for (auto view : {RibbonMainWindow::BackstagePanel, RibbonMainWindow::WelcomeScreen}) {
             for (bool byKey : {true, false}) {
                 m_window->setActiveView(view);
                 spy.clear();
@@ -164,53 +145,43 @@ private slots:
         QTest::mouseClick(file, Qt::LeftButton);
         QCOMPARE(m_window->activeView(), RibbonMainWindow::MainView);
         QTest::mouseClick(file, Qt::LeftButton);
-        QVERIFY(backstage.isVisible());
         emit backstage.itemClicked(QStringLiteral("Open"));
         QCOMPARE(m_window->activeView(), RibbonMainWindow::BackstagePanel);
-        spy.clear();
         QTest::mouseClick(backstage.findChild<QPushButton *>(), Qt::LeftButton);
         QCOMPARE(m_window->activeView(), RibbonMainWindow::MainView);
-        QCOMPARE(spy.count(), 1);
-        QVERIFY(m_window->ribbonMenuBar().isVisible());
 
-        // Back in the main view the key is free again for the host's widgets.
+        // In the main view the key is free for the host's widgets.
         m_window->setCentralWidget(new QLabel(QStringLiteral("central")));
         spy.clear();
         QTest::keyClick(m_window.get(), Qt::Key_Escape);
         QCOMPARE(spy.count(), 0);
     }
 
-    void titleOverBackstage_data()
+    void backstagePages()
     {
-        QTest::addColumn<RibbonMainWindow::View>("view");
-        QTest::newRow("backstage") << RibbonMainWindow::BackstagePanel;
-        QTest::newRow("welcome screen") << RibbonMainWindow::WelcomeScreen;
-    }
-
-    void titleOverBackstage()
-    {
-        QFETCH(RibbonMainWindow::View, view);
         buildWindow();
-        m_window->setActiveView(view);
-        const bool welcome = view == RibbonMainWindow::WelcomeScreen;
-        QWidget *page = welcome ? static_cast<QWidget *>(&m_window->welcomeScreen()) : &m_window->backstageView();
-        const int navigationWidth = welcome ? m_window->welcomeScreen().leftPaneRect().width()
-                                            : m_window->backstageView().leftPaneRect().width();
-        QVERIFY(page->isVisible());
-        QVERIFY(navigationWidth > 20);
-
-        const int m = m_window->frameMargin();
-        const QImage image = grabbed();
+        for (int i = 0; i < 8; ++i)
+            m_window->welcomeScreen().addTemplate(QStringLiteral("Template %1").arg(i), QPixmap());
+        const int welcomeWidth = m_window->welcomeScreen().minimumSizeHint().width();
+        QVERIFY(m_window->minimumSizeHint().width() < welcomeWidth); // hidden pages do not widen it
         const QColor column = RibbonApplication::theApp().ribbonStyle().frameBorderColor();
-        // The navigation column's colour continues up into the title row; the rest is white.
-        QCOMPARE(image.pixelColor(m + 10, m + 2), column);
-        QCOMPARE(image.pixelColor(m + navigationWidth + 10, m + 2), QColor(Qt::white));
-        QCOMPARE(image.pixelColor(page->mapTo(m_window.get(), QPoint(10, 10))), column);
-        // The title is drawn over the white part.
-        m_window->setWindowTitle(QString());
-        const QRect changed = changedRect(image, grabbed(), m, 26);
-        QVERIFY(changed.isValid());
-        QVERIFY(changed.left() > m + navigationWidth);
+        const int m = m_window->frameMargin();
+        for (auto view : {RibbonMainWindow::BackstagePanel, RibbonMainWindow::WelcomeScreen}) {
+            m_window->setWindowTitle(QStringLiteral("Document"));
+            m_window->setActiveView(view);
+            const QRect left = view == RibbonMainWindow::WelcomeScreen ? m_window->welcomeScreen().leftPaneRect()
+                                                                       : m_window->backstageView().leftPaneRect();
+            const QImage image = grabbed();
+            // The navigation column's colour continues up into the title row; the rest is white.
+            QCOMPARE(image.pixelColor(m + 10, m + 2), column);
+            QCOMPARE(image.pixelColor(m + left.width() + 10, m + 2), QColor(Qt::white));
+            QCOMPARE(image.pixelColor(m_window->mapFromGlobal(left.topLeft()) + QPoint(10, 10)), column);
+            // The title is drawn over the white part.
+            m_window->setWindowTitle(QString());
+            const QRect changed = changedRect(image, grabbed(), m, 26);
+            QVERIFY(changed.isValid() && changed.left() > m + left.width());
+        }
+        QVERIFY(m_window->minimumSizeHint().width() >= welcomeWidth);
     }
 
     void centralWidgetAreaStretches()
@@ -219,8 +190,8 @@ private slots:
         RibbonMenuBar &bar = m_window->ribbonMenuBar();
         RibbonStatusBar &status = m_window->ribbonStatusBar();
         const auto gap = [&] {
-            return status.mapTo(m_window.get(), QPoint()).y() - bar.mapTo(m_window.get(), bar.rect().bottomLeft()).y()
-                   - 1;
+            const int barBottom = bar.mapTo(m_window.get(), bar.rect().bottomLeft()).y();
+            return status.mapTo(m_window.get(), QPoint()).y() - barBottom - 1;
         };
         const auto statusAtBottom = [&] {
             return status.mapTo(m_window.get(), status.rect().bottomLeft()).y()
@@ -228,35 +199,26 @@ private slots:
         };
         QPointer<QLabel> central = new QLabel(QStringLiteral("text"), m_window.get());
         m_window->setCentralWidget(central);
-        QTRY_COMPARE(central->sizePolicy().verticalPolicy(), QSizePolicy::Expanding);
         QTRY_VERIFY(central->isVisible());
 
         // A null widget leaves the host's widget alone (neither deleted nor hidden) and an area
         // that stretches in its place, not the ribbon bar.
         m_window->setCentralWidget(nullptr);
-        QCOMPARE(m_window->centralWidget(), nullptr);
         QVERIFY(central && !central->isHidden());
         QTRY_VERIFY(statusAtBottom());
         const int before = gap();
         const int barHeight = bar.height();
-        QVERIFY(before > 0);
         m_window->resize(m_window->width(), m_window->height() + 120);
         QTRY_COMPARE(gap(), before + 120);
-        QVERIFY(statusAtBottom());
         QCOMPARE(bar.height(), barHeight);
         m_window->setCentralWidget(central);
         QTRY_COMPARE(central->height(), before + 120);
 
-        // So does a deleted one; a later widget takes the area as usual.
+        // So does a deleted one.
         delete central;
         QCOMPARE(m_window->centralWidget(), nullptr);
         m_window->resize(m_window->width(), m_window->height() + 80);
         QTRY_COMPARE(gap(), before + 200);
-        QVERIFY(statusAtBottom());
-        auto *next = new QLabel(QStringLiteral("next"));
-        m_window->setCentralWidget(next);
-        QTRY_VERIFY(next->isVisible());
-        QTRY_COMPARE(next->height(), before + 200);
     }
 
     void showTitleBar()
@@ -270,12 +232,20 @@ private slots:
                 QVERIFY2(w && w->isVisible() == expected, qPrintable(w ? w->objectName() : QString()));
         };
         visible(true);
+        // The title is centred in its row: the change lies around the middle, not at the ends.
+        const QImage titled = grabbed();
+        m_window->setWindowTitle(QString());
+        const QRect changed = changedRect(titled, grabbed(), m_window->frameMargin(), 26);
+        QVERIFY(qAbs(changed.center().x() - titled.width() / 2) < 60);
+        m_window->setWindowTitle(QStringLiteral("Document"));
         const auto barTop = [&] { return m_window->ribbonMenuBar().mapTo(m_window.get(), QPoint()).y(); };
         const int top = barTop();
         m_window->setShowTitleBar(false);
-        QVERIFY(!m_window->showTitleBar());
         visible(false);
-        QTRY_VERIFY(barTop() < top); // the title row collapses
+        QTRY_VERIFY(barTop() < top); // the title row collapses, and no title is drawn
+        const QImage hiddenTitled = grabbed();
+        m_window->setWindowTitle(QString());
+        QCOMPARE(grabbed(), hiddenTitled);
         m_window->setShowTitleBar(true);
         visible(true);
         QTRY_COMPARE(barTop(), top);
@@ -286,44 +256,55 @@ private slots:
         QVERIFY(child("closeButton")->isVisible());
         m_window->setActiveView(RibbonMainWindow::MainView);
         visible(true);
-    }
 
-    void frameCell_data()
-    {
-        QTest::addColumn<QPoint>("offset"); // from the frame's top-left; negative from its right/bottom end
-        QTest::addColumn<int>("row");
-        QTest::addColumn<int>("column");
-        using P = RibbonPlatform;
-        const int f = P::sizingFrameThickness();
-        const int c = P::captionHeight();
-        QTest::newRow("caption") << QPoint(300, f + 2) << int(P::FrameTop) << int(P::FrameCentre);
-        QTest::newRow("frame over menu button") << QPoint(f + 5, 1) << int(P::FrameTop) << int(P::FrameCentre);
-        QTest::newRow("menu button") << QPoint(f + 5, f + 5) << int(P::FrameMiddle) << int(P::FrameCentre);
-        QTest::newRow("right of menu button") << QPoint(31, f + 5) << int(P::FrameTop) << int(P::FrameCentre);
-        QTest::newRow("top-left corner") << QPoint(0, 0) << int(P::FrameTop) << int(P::FrameLeft);
-        QTest::newRow("left of caption") << QPoint(1, f + 3) << int(P::FrameMiddle) << int(P::FrameLeft);
-        QTest::newRow("right of caption") << QPoint(-1, f + 3) << int(P::FrameMiddle) << int(P::FrameRight);
-        QTest::newRow("below caption") << QPoint(300, f + c) << int(P::FrameMiddle) << int(P::FrameCentre);
-        QTest::newRow("bottom frame") << QPoint(300, -1) << int(P::FrameBottom) << int(P::FrameCentre);
-        QTest::newRow("above bottom frame") << QPoint(300, -f - 1) << int(P::FrameMiddle) << int(P::FrameCentre);
+        // The close button has three looks; the system-menu button shows the application icon.
+        auto *close = qobject_cast<QPushButton *>(child("closeButton"));
+        const QImage normal = close->grab().toImage();
+        close->setAttribute(Qt::WA_UnderMouse, true);
+        const QImage hover = close->grab().toImage();
+        close->setDown(true);
+        const QImage pressed = close->grab().toImage();
+        close->setDown(false);
+        close->setAttribute(Qt::WA_UnderMouse, false);
+        QVERIFY(hover != normal && pressed != normal && pressed != hover);
+        QCOMPARE(close->grab().toImage(), normal);
+        QPixmap red(18, 18);
+        red.fill(Qt::red);
+        QApplication::setWindowIcon(QIcon(red));
+        const QImage withIcon = child("sysMenuButton")->grab().toImage();
+        QApplication::setWindowIcon(QIcon());
+        QCOMPARE(withIcon.pixelColor(10, 10), QColor(Qt::red));
     }
 
     void frameCell()
     {
-        QFETCH(QPoint, offset);
-        QFETCH(int, row);
-        QFETCH(int, column);
+        using P = RibbonPlatform;
+        const int f = P::sizingFrameThickness();
+        const int c = P::captionHeight();
         const QRect frame(50, 40, 600, 400);
-        const QPoint p(offset.x() >= 0 ? frame.left() + offset.x() : frame.left() + frame.width() + offset.x(),
-                       offset.y() >= 0 ? frame.top() + offset.y() : frame.top() + frame.height() + offset.y());
-        RibbonPlatform::FrameRow r = RibbonPlatform::FrameBottom;
-        RibbonPlatform::FrameColumn col = RibbonPlatform::FrameLeft;
-        RibbonPlatform::frameCell(frame, p, &r, &col);
-        QCOMPARE(int(r), row);
-        QCOMPARE(int(col), column);
+        // Offsets from the frame's top-left; negative ones from its right or bottom end.
+        const struct { const char *name; QPoint offset; P::FrameRow row; P::FrameColumn column; } cases[] = {
+            {"frame over menu button", {f + 5, 1}, P::FrameTop, P::FrameCentre},
+            {"menu button", {f + 5, f + 5}, P::FrameMiddle, P::FrameCentre},
+            {"right of menu button", {31, f + 5}, P::FrameTop, P::FrameCentre},
+            {"left of caption", {1, f + 3}, P::FrameMiddle, P::FrameLeft},
+            {"right of caption", {-1, f + 3}, P::FrameMiddle, P::FrameRight},
+            {"below caption", {300, f + c}, P::FrameMiddle, P::FrameCentre},
+            {"bottom frame", {300, -1}, P::FrameBottom, P::FrameCentre},
+            {"above bottom frame", {300, -f - 1}, P::FrameMiddle, P::FrameCentre},
+        };
+        for (const auto &t : cases) {
+            const QPoint o = t.offset;
+            const QPoint p(frame.left() + (o.x() >= 0 ? o.x() : frame.width() + o.x()),
+                           frame.top() + (o.y() >= 0 ? o.y() : frame.height() + o.y()));
+            P::FrameRow row = P::FrameBottom;
+            P::FrameColumn column = P::FrameLeft;
+            P::frameCell(frame, p, &row, &column);
+            QVERIFY2(row == t.row && column == t.column, t.name);
+        }
     }
 
-    void hitTest()
+    void captionMouse()
     {
         buildWindow();
         QTest::qWait(0);
@@ -335,22 +316,15 @@ private slots:
         QCOMPARE(w.hitTest(w.quickAccessBar().mapToGlobal(QPoint(2, 10))), RibbonMainWindow::HitClient);
         // An empty part of the tab row drags; a tab button does not.
         const QPoint tabRowEmpty = bar.mapToGlobal(QPoint(bar.width() / 2, 12));
-        QCOMPARE(w.childAt(w.mapFromGlobal(tabRowEmpty)), &bar);
         QCOMPARE(w.hitTest(tabRowEmpty), RibbonMainWindow::HitCaption);
-        QCOMPARE(w.hitTest(bar.menuBarButton(m_tab)->mapToGlobal(QPoint(5, 5))), RibbonMainWindow::HitClient);
-        // The central area, the status bar and the outside are client.
-        QCOMPARE(w.hitTest(w.mapToGlobal(QPoint(w.width() / 2, w.height() / 2 + 60))), RibbonMainWindow::HitClient);
-        QCOMPARE(w.hitTest(w.ribbonStatusBar().mapToGlobal(QPoint(w.ribbonStatusBar().width() / 2, 10))),
-                 RibbonMainWindow::HitClient);
+        QWidget *tabButton = bar.menuBarButton(m_tab);
+        QCOMPARE(w.hitTest(tabButton->mapToGlobal(QPoint(5, 5))), RibbonMainWindow::HitClient);
+        // The central area and the outside are client.
+        const QPoint centre(w.width() / 2, w.height() / 2 + 60);
+        QCOMPARE(w.hitTest(w.mapToGlobal(centre)), RibbonMainWindow::HitClient);
         QCOMPARE(w.hitTest(w.mapToGlobal(QPoint(-20, 5))), RibbonMainWindow::HitClient);
-    }
 
-    void captionMouse()
-    {
         // The test platform declines to move windows, so the window follows the mouse itself.
-        buildWindow();
-        QTest::qWait(0);
-        RibbonMainWindow &w = *m_window;
         const QPoint start = w.pos();
         QTest::mousePress(&w, Qt::LeftButton, Qt::NoModifier, caption());
         const QPoint to = w.mapToGlobal(caption()) + QPoint(30, 40);
@@ -359,7 +333,6 @@ private slots:
         QTest::mouseRelease(&w, Qt::LeftButton, Qt::NoModifier, w.mapFromGlobal(to));
         // After the release, or with the press on a tab button, the mouse moves nothing.
         moveMouse(&w, to + QPoint(50, 50));
-        QWidget *tabButton = w.ribbonMenuBar().menuBarButton(m_tab);
         QTest::mousePress(tabButton, Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));
         moveMouse(tabButton, tabButton->mapToGlobal(QPoint(60, 60)), Qt::LeftButton);
         QTest::mouseRelease(tabButton, Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));
@@ -373,7 +346,7 @@ private slots:
         QTRY_COMPARE(w.geometry(), RibbonPlatform::availableGeometry(&w));
         QTest::mouseDClick(&w, Qt::LeftButton, Qt::NoModifier, caption());
         QTRY_VERIFY(!w.isMaximized());
-        QTest::mouseDClick(&w, Qt::LeftButton, Qt::NoModifier, QPoint(w.width() / 2, w.height() / 2 + 60));
+        QTest::mouseDClick(&w, Qt::LeftButton, Qt::NoModifier, centre);
         QTest::qWait(10);
         QVERIFY(!w.isMaximized());
     }
@@ -406,7 +379,7 @@ private slots:
         QCOMPARE(m_window->geometry(), QRect(100, 100, 900, 700));
         action("minimizeAction")->trigger();
         QTRY_VERIFY(m_window->isMinimized());
-        action("restoreAction")->trigger();
+        m_window->activateWindow(); // activating a minimised window brings it back
         QTRY_VERIFY(!m_window->isMinimized());
         m_window->setFixedSize(m_window->size());
         QCOMPARE(enabled(), QStringLiteral("moveAction minimizeAction closeAction"));
@@ -423,8 +396,6 @@ private slots:
         QTest::newRow("move, click") << QStringLiteral("moveAction") << 0 << start.translated(40, 30);
         QTest::newRow("size, click") << QStringLiteral("sizeAction") << 0 << start.adjusted(0, 0, 40, 30);
         QTest::newRow("move, Escape") << QStringLiteral("moveAction") << int(Qt::Key_Escape) << start;
-        QTest::newRow("size, Return") << QStringLiteral("sizeAction") << int(Qt::Key_Return)
-                                      << start.adjusted(0, 0, 40, 30);
     }
 
     void systemMenuMoveAndSize()
@@ -451,93 +422,62 @@ private slots:
         QCOMPARE(QWidget::mouseGrabber(), nullptr);
     }
 
-    void activateWindowUnminimizes()
+    void geometryAndMargins()
     {
-        buildWindow();
-        QWidget other;
-        other.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&other));
-        other.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&other));
-        m_window->showMinimized();
-        QTRY_VERIFY(m_window->isMinimized());
-        m_window->activateWindow();
-        QTRY_VERIFY(!m_window->isMinimized());
-        QTRY_VERIFY(m_window->isActiveWindow());
-    }
-
-    void restoreGeometry()
-    {
-        // An invalid geometry given to a hidden window leaves its state alone.
+        // An invalid restore geometry given to a hidden window leaves its state alone; a valid
+        // one shows it maximised and is used once, by the next restore.
         buildWindow(false);
         m_window->setRestoreGeometry(QRect());
         QVERIFY(!m_window->isMaximized());
-
         const QRect normal(60, 70, 760, 660);
         m_window->setRestoreGeometry(normal);
         m_window->show();
         QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
         QTRY_VERIFY(m_window->isMaximized());
-        QCOMPARE(m_window->restoreGeometry(), normal);
         m_window->showNormal();
         QTRY_COMPARE(m_window->geometry(), normal);
         QVERIFY(!m_window->restoreGeometry().isValid());
-        // Once used, maximising and restoring again keeps the window's own geometry.
-        m_window->showMaximized();
-        QTRY_VERIFY(m_window->isMaximized());
-        m_window->showNormal();
-        QTRY_COMPARE(m_window->geometry(), normal);
-    }
 
-    void marginsFollowState()
-    {
-        buildWindow();
         const int frame = RibbonPlatform::sizingFrameThickness();
         QCOMPARE(m_window->frameMargin(), frame);
         QCOMPARE(m_window->contentsMargins(), QMargins(frame, frame, frame, frame));
         // A one-pixel frame line stays visible around the contents.
-        QCOMPARE(m_window->mask().boundingRect(), m_window->rect().adjusted(frame - 1, frame - 1, 1 - frame, 1 - frame));
+        QCOMPARE(m_window->mask().boundingRect(),
+                 m_window->rect().adjusted(frame - 1, frame - 1, 1 - frame, 1 - frame));
         m_window->setActiveView(RibbonMainWindow::BackstagePanel);
         QCOMPARE(m_window->contentsMargins(), QMargins(frame, frame + 3, frame, frame));
         m_window->setActiveView(RibbonMainWindow::MainView);
+        QWidget *maximize = child("maximizeButton");
+        const QImage normalMax = maximize->grab().toImage();
         m_window->showMaximized();
         QTRY_VERIFY(m_window->isMaximized());
         QTRY_COMPARE(m_window->frameMargin(), 0);
         QCOMPARE(m_window->contentsMargins(), QMargins());
-    }
+        QCOMPARE(maximize->toolTip(), QStringLiteral("Restore"));
+        QVERIFY(maximize->grab().toImage() != normalMax);
 
-    void titleIsPainted()
-    {
-        buildWindow();
-        m_window->setWindowTitle(QString());
-        const QImage empty = grabbed();
-        m_window->setWindowTitle(QStringLiteral("Quarterly report"));
-        const QImage titled = grabbed();
-        // Centred in the title row: the change lies around the middle, not at the ends.
-        const QRect changed = changedRect(titled, empty, m_window->frameMargin(), 26);
-        QVERIFY(changed.isValid());
-        QVERIFY2(qAbs(changed.center().x() - titled.width() / 2) < 60, qPrintable(QString::number(changed.center().x())));
-
-        // Without the title bar no title is drawn.
-        m_window->setShowTitleBar(false);
-        const QImage hiddenTitled = grabbed();
-        m_window->setWindowTitle(QString());
-        QCOMPARE(grabbed(), hiddenTitled);
+        // A palette change re-applies the client colour over the host's palette.
+        QPalette other = m_window->palette();
+        other.setColor(QPalette::Window, Qt::magenta);
+        m_window->setPalette(other);
+        emit RibbonApplication::theApp().ribbonStyleChanged();
+        const QColor client = RibbonApplication::theApp().ribbonStyle().mainClientColor();
+        QCOMPARE(m_window->palette().color(QPalette::Active, QPalette::Window), client);
+        QCOMPARE(m_window->palette().color(QPalette::Inactive, QPalette::Window), client);
     }
 
     void contextualBandBesideTitle()
     {
         buildWindow();
         const QColor background(255, 200, 0);
-        auto *set = new RibbonContextCategoryPanelAction(background, QColor(200, 0, 0), QColor(0, 0, 120), m_owner.get());
+        auto *set = new RibbonContextCategoryPanelAction(background, QColor(200, 0, 0), QColor(0, 0, 120),
+                                                         m_owner.get());
         set->setText(QStringLiteral("Picture Tools"));
         set->addPanelAction(new RibbonCategoriesPanelAction(QStringLiteral("Format"), m_owner.get()));
         RibbonMenuBar &bar = m_window->ribbonMenuBar();
         bar.ribbonContextCategoryPanel().addContextPanelAction(set);
         bar.showContextPanelAction(set);
-        QCOMPARE(bar.displayedContextPanel(), set);
         QTest::qWait(0);
-
         QRect band;
         bar.displayedContextPanelRect(band);
         const QRect local(m_window->mapFromGlobal(band.topLeft()), band.size());
@@ -550,94 +490,26 @@ private slots:
         m_window->setWindowTitle(QString());
         const QRect title = changedRect(image, grabbed(), m_window->frameMargin(), 26);
         QVERIFY(title.isValid() && title.right() >= local.right() + 3);
-        bar.hideContextPanelAction(set);
-        QTRY_VERIFY(m_window->grab().toImage().pixelColor(local.left() + 3, titleY) != background);
     }
 
-    void titleButtonsPaintTheirStates()
+    void lifetimes()
     {
+        // The model belongs to the host and outlives the window; the central widget goes with it.
         buildWindow();
-        QWidget *maximize = child("maximizeButton");
-        const QImage normalMax = maximize->grab().toImage();
-        m_window->showMaximized();
-        QTRY_VERIFY(m_window->isMaximized());
-        QCOMPARE(maximize->toolTip(), QStringLiteral("Restore"));
-        QVERIFY(maximize->grab().toImage() != normalMax);
-        m_window->showNormal();
-        QTRY_VERIFY(!m_window->isMaximized());
-        QCOMPARE(maximize->grab().toImage(), normalMax);
-
-        auto *close = qobject_cast<QPushButton *>(child("closeButton"));
-        const QImage normal = close->grab().toImage();
-        close->setAttribute(Qt::WA_UnderMouse, true);
-        const QImage hover = close->grab().toImage();
-        close->setDown(true);
-        const QImage pressed = close->grab().toImage();
-        close->setDown(false);
-        close->setAttribute(Qt::WA_UnderMouse, false);
-        QVERIFY(hover != normal && pressed != normal && pressed != hover);
-        QCOMPARE(close->grab().toImage(), normal);
-
-        // The system-menu button shows the application icon and nothing else.
-        QWidget *sysMenu = child("sysMenuButton");
-        const QImage noIcon = sysMenu->grab().toImage();
-        QPixmap red(18, 18);
-        red.fill(Qt::red);
-        const QIcon previous = QApplication::windowIcon();
-        QApplication::setWindowIcon(QIcon(red));
-        const QImage withIcon = sysMenu->grab().toImage();
-        QApplication::setWindowIcon(previous);
-        QCOMPARE(withIcon.pixelColor(10, 10), QColor(Qt::red));
-        QVERIFY(noIcon.pixelColor(10, 10) != QColor(Qt::red));
-    }
-
-    void styleChangeResetsPalette()
-    {
-        buildWindow();
-        const QColor client = RibbonApplication::theApp().ribbonStyle().mainClientColor();
-        QPalette other = m_window->palette();
-        other.setColor(QPalette::Window, Qt::magenta);
-        m_window->setPalette(other);
-        emit RibbonApplication::theApp().ribbonStyleChanged();
-        QCOMPARE(m_window->palette().color(QPalette::Active, QPalette::Window), client);
-        QCOMPARE(m_window->palette().color(QPalette::Inactive, QPalette::Window), client);
-    }
-
-    void hiddenPagesDoNotWidenTheWindow()
-    {
-        buildWindow();
-        for (int i = 0; i < 8; ++i)
-            m_window->welcomeScreen().addTemplate(QStringLiteral("Template %1").arg(i), QPixmap());
-        const int welcomeWidth = m_window->welcomeScreen().minimumSizeHint().width();
-        QVERIFY(m_window->minimumSizeHint().width() < welcomeWidth);
-        m_window->setActiveView(RibbonMainWindow::WelcomeScreen);
-        QVERIFY(m_window->minimumSizeHint().width() >= welcomeWidth);
-        m_window->setActiveView(RibbonMainWindow::MainView);
-        QVERIFY(m_window->minimumSizeHint().width() < welcomeWidth);
-    }
-
-    void deleteWindowWithModelInPlace()
-    {
-        buildWindow();
-        QPointer<RibbonCatSimpleAction> command = m_command;
+        QPointer<QAction> tab = m_tab;
         QPointer<QLabel> central = new QLabel(QStringLiteral("central"));
         m_window->setCentralWidget(central);
         m_window->setActiveView(RibbonMainWindow::BackstagePanel);
         m_window.reset();
-        // The model belongs to the host and outlives the window; the central widget went with it.
-        QVERIFY(command);
+        QVERIFY(tab && !central);
         QVERIFY(m_tab->associatedWidgets().isEmpty());
-        QVERIFY(!central);
-    }
 
-    void deleteActionsBeforeWindow()
-    {
+        // A model deleted first takes its widgets along; the window keeps working without it.
         buildWindow();
         QPointer<RibbonMenuBarButton> tabButton = m_window->ribbonMenuBar().menuBarButton(m_tab);
         QVERIFY(tabButton);
         m_owner.reset();
         QVERIFY(!tabButton);
-        // The window keeps working without the model.
         m_window->setActiveView(RibbonMainWindow::BackstagePanel);
         m_window->setActiveView(RibbonMainWindow::MainView);
         m_window->grab();
