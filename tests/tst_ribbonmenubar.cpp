@@ -404,10 +404,14 @@ void tst_RibbonMenuBar::contextualSets()
     QVERIFY(!bar.ribbonContextCategoryPanel().containsAction(first));
     QVERIFY(!bar.displayedContextPanel());
     QVERIFY(!bar.menuBarButton(layout));
-    // A displayed set destroyed leaves nothing displayed.
+    // A displayed set destroyed leaves nothing displayed, and its tabs (owned elsewhere)
+    // leave the row with it.
     bar.showContextPanelAction(second);
+    QSignalSpy gone(&bar, &RibbonMenuBar::contextRibbonChanged);
     delete second;
     QVERIFY(!bar.displayedContextPanel());
+    QCOMPARE(f.row(), QStringLiteral("HOME"));
+    QCOMPARE(gone.count(), 1);
 }
 
 void tst_RibbonMenuBar::helpAndFindButtons()

@@ -48,6 +48,10 @@ struct RibbonMenuBar::Priv
     RibbonButtonNormal *collapseButton = nullptr;
     RibbonContextCategoryPanel *contextPanels = nullptr;
     QPointer<RibbonContextCategoryPanelAction> displayedContext;
+    // The displayed set's tabs, kept apart from the set: when the set is destroyed its
+    // list is gone, yet tabs it did not own still stand in the row.
+    QList<QPointer<RibbonCategoriesPanelAction>> displayedTabs;
+    QMetaObject::Connection displayedContextDestroyed;
     QPointer<RibbonAction> lastClicked;
 
     // Tab buttons by tab, and the widgets made for the help, find-combo and find
@@ -210,6 +214,19 @@ void RibbonMenuBar::showContextPanelAction(RibbonContextCategoryPanelAction *set
     }
 
     d->displayedContext = set;
+    d->displayedTabs.clear();
+    for (RibbonCategoriesPanelAction *tab : tabs)
+        d->displayedTabs << tab;
+    disconnect(d->displayedContextDestroyed);
+    d->displayedContextDestroyed = connect(set, &QObject::destroyed, this, [this] {
+        for (const QPointer<RibbonCategoriesPanelAction> &tab : qAsConst(d->displayedTabs)) {
+            if (tab)
+                removeAction(tab);
+        }
+        d->displayedTabs.clear();
+        emit contextRibbonChanged();
+        update();
+    });
     emit contextRibbonChanged();
     update();
 }
@@ -221,6 +238,8 @@ void RibbonMenuBar::hideContextPanelAction(RibbonContextCategoryPanelAction *set
     const QList<RibbonCategoriesPanelAction *> tabs = set->panelActions();
     for (RibbonCategoriesPanelAction *tab : tabs)
         removeAction(tab);
+    disconnect(d->displayedContextDestroyed);
+    d->displayedTabs.clear();
     d->displayedContext = nullptr;
     emit contextRibbonChanged();
     update();
