@@ -200,6 +200,9 @@ private slots:
         QVERIFY(!late.isEditable());
         action.setEditable(true);
         QVERIFY(box.isEditable() && late.isEditable());
+        // A box made read-only takes the input rules when it becomes editable.
+        QCOMPARE(late.lineEdit()->inputMask(), QStringLiteral("99"));
+        QCOMPARE(late.validator(), &validator);
     }
 
     void twoCombosOfOneActionStayInStep()

@@ -15,13 +15,7 @@ RibbonCatComboComboBox::RibbonCatComboComboBox(RibbonCatComboAction &action, QWi
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     setIconSize(QSize(action.iconWidth(), 22));
     setFixedWidth(action.width());
-    setEditable(action.isEditable());
-    if (action.isEditable()) {
-        if (!action.comboInputMask().isEmpty())
-            lineEdit()->setInputMask(action.comboInputMask());
-        if (action.validator())
-            setValidator(action.validator());
-    }
+    onEditableChanged();
 
     const QStringList items = action.items();
     const QList<QIcon> icons = action.icons();
@@ -51,8 +45,18 @@ void RibbonCatComboComboBox::onItemAdded(const QIcon &icon, const QString &item)
 
 void RibbonCatComboComboBox::onEditableChanged()
 {
-    if (m_action)
-        setEditable(m_action->isEditable());
+    if (!m_action)
+        return;
+    const bool wasEditable = isEditable();
+    setEditable(m_action->isEditable());
+    // A box that becomes editable gets a fresh line edit: give it the action's input
+    // rules, as a box made editable from the start has them.
+    if (isEditable() && !wasEditable) {
+        if (!m_action->comboInputMask().isEmpty())
+            lineEdit()->setInputMask(m_action->comboInputMask());
+        if (m_action->validator())
+            setValidator(m_action->validator());
+    }
 }
 
 void RibbonCatComboComboBox::updateActionSelection(const QString &item)
