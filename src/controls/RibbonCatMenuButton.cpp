@@ -81,7 +81,7 @@ RibbonCatMenuButton::~RibbonCatMenuButton() = default;
 
 RibbonCatMenuAction *RibbonCatMenuButton::action() const
 {
-    return m_action;
+    return qobject_cast<RibbonCatMenuAction *>(m_action);
 }
 
 QSize RibbonCatMenuButton::sizeHint() const
@@ -117,8 +117,6 @@ void RibbonCatMenuButton::drawBorder(bool draw)
 void RibbonCatMenuButton::actionEvent(QActionEvent *event)
 {
     QWidget::actionEvent(event);
-    // Test the type first: an action is removed from its widgets while it is destroyed,
-    // when it may no longer be read as a menu action.
     if (event->type() != QEvent::ActionAdded && event->type() != QEvent::ActionChanged)
         return;
     if (!m_action || event->action() != m_action)
@@ -128,16 +126,19 @@ void RibbonCatMenuButton::actionEvent(QActionEvent *event)
 
 void RibbonCatMenuButton::refreshFromAction(QActionEvent *event)
 {
-    if (m_action->menuType() == RibbonCatMenuAction::MenuTypeButton
+    RibbonCatMenuAction *action = this->action();
+    if (!action)
+        return;
+    if (action->menuType() == RibbonCatMenuAction::MenuTypeButton
         && !qobject_cast<RibbonCatMenuButtonBPriv *>(d)) {
         const bool border = d && d->drawBorder;
         delete d;
         d = new RibbonCatMenuButtonBPriv(*this);
         d->drawBorder = border;
     }
-    setEnabled(m_action->isEnabled());
-    const RibbonAction *defaultAction = m_action->defaultAction();
-    setToolTip(defaultAction ? defaultAction->toolTip() : m_action->toolTip());
+    setEnabled(action->isEnabled());
+    const RibbonAction *defaultAction = action->defaultAction();
+    setToolTip(defaultAction ? defaultAction->toolTip() : action->toolTip());
     if (d)
         d->actionEvent(event);
     updateGeometry();
@@ -156,7 +157,7 @@ void RibbonCatMenuButton::changeEvent(QEvent *event)
 {
     QWidget::changeEvent(event);
     // The caption is measured in the widget's font.
-    if (m_action && d && (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)) {
+    if (action() && d && (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)) {
         QActionEvent changed(QEvent::ActionChanged, m_action);
         d->actionEvent(&changed);
         updateGeometry();
@@ -165,7 +166,7 @@ void RibbonCatMenuButton::changeEvent(QEvent *event)
 
 void RibbonCatMenuButton::paintEvent(QPaintEvent *event)
 {
-    if (d && m_action)
+    if (d && action())
         d->paintEvent(event);
 }
 

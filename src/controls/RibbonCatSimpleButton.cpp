@@ -28,12 +28,9 @@ const int kLargeTextFlags = Qt::AlignTop | Qt::AlignHCenter | Qt::TextWordWrap;
 
 struct RibbonCatSimpleButton::Priv
 {
-    // Guarded as a QAction: a QPointer of the derived type would downcast the action when
-    // its removal event arrives during its destruction.
-    RibbonCatSimpleAction *action = nullptr;
-    QPointer<QAction> alive;
+    QPointer<QAction> action;
 
-    RibbonCatSimpleAction *liveAction() const { return alive ? action : nullptr; }
+    RibbonCatSimpleAction *liveAction() const { return qobject_cast<RibbonCatSimpleAction *>(action); }
 
     RibbonCatSimpleAction::eSize size = RibbonCatSimpleAction::SizeLarge;
     mutable QSize sizeHint; // invalid until computed
@@ -45,7 +42,6 @@ RibbonCatSimpleButton::RibbonCatSimpleButton(RibbonCatSimpleAction &action, QWid
     , d(new Priv)
 {
     d->action = &action;
-    d->alive = &action;
     d->size = action.size();
     addAction(&action);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
@@ -94,7 +90,7 @@ QSize RibbonCatSimpleButton::sizeHint() const
 void RibbonCatSimpleButton::actionEvent(QActionEvent *event)
 {
     QAbstractButton::actionEvent(event);
-    QAction *own = d->alive;
+    QAction *own = d->action;
     switch (event->type()) {
     case QEvent::ActionAdded:
     case QEvent::ActionChanged:
@@ -111,10 +107,8 @@ void RibbonCatSimpleButton::actionEvent(QActionEvent *event)
         break;
     case QEvent::ActionRemoved:
         // Also reached while the action is being destroyed: compare addresses only.
-        if (own && event->action() == own) {
+        if (own && event->action() == own)
             d->action = nullptr;
-            d->alive = nullptr;
-        }
         break;
     default:
         break;
