@@ -1,5 +1,6 @@
 #include "RibbonCatActionGroup.h"
 
+#include "RibbonClassChecks_p.h"
 #include "RibbonMembers_p.h"
 
 namespace zel {
@@ -97,8 +98,7 @@ void RibbonCatActionGroup::actionActivated()
 {
     // A colour menu in a strip is activated while its picker stays open; it must not
     // close the surrounding popup.
-    QObject *member = sender();
-    if (member && member->inherits("zel::RibbonCatColorMenuAction"))
+    if (RibbonClassChecks::isColorMenuAction(sender()))
         return;
     emit ribbonActionActivated();
 }

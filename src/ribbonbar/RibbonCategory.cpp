@@ -16,6 +16,7 @@
 #include "RibbonCatSimpleButton.h"
 #include "RibbonCategoryAction.h"
 #include "RibbonCategoryLayout.h"
+#include "RibbonClassChecks_p.h"
 #include "RibbonPaint_p.h"
 #include "RibbonStyle.h"
 
@@ -267,7 +268,7 @@ void RibbonCategory::paintEvent(QPaintEvent *)
     painter.setPen(QColor(QStringLiteral("#afafaf")));
     painter.setBrush(Qt::NoBrush);
     for (const QWidget *control : d->widgets.widgets()) {
-        if (control->inherits("zel::RibbonCatListPreview")) {
+        if (RibbonClassChecks::isListPreview(control)) {
             const QRect g = control->geometry();
             painter.drawRect(g.x() - 1, g.y() - 1, g.width() + 1, g.height() + 1);
         }
