@@ -30,7 +30,7 @@ RibbonStatusBarWidget::~RibbonStatusBarWidget() = default;
 
 RibbonSimpleAction *RibbonStatusBarWidget::action() const
 {
-    return m_action.data();
+    return qobject_cast<RibbonSimpleAction *>(m_action);
 }
 
 QSize RibbonStatusBarWidget::sizeHint() const
@@ -40,20 +40,19 @@ QSize RibbonStatusBarWidget::sizeHint() const
 
 void RibbonStatusBarWidget::syncFromAction()
 {
-    if (!m_action)
+    RibbonSimpleAction *action = this->action();
+    if (!action)
         return;
-    m_pressed = m_action->isCheckable() && m_action->isChecked();
-    setToolTip(m_action->toolTip());
-    setEnabled(m_action->isEnabled());
+    m_pressed = action->isCheckable() && action->isChecked();
+    setToolTip(action->toolTip());
+    setEnabled(action->isEnabled());
 }
 
 void RibbonStatusBarWidget::actionEvent(QActionEvent *event)
 {
     QWidget::actionEvent(event);
-    // Only additions and changes are looked at: the action of a removal may be half
-    // destroyed.
     if ((event->type() == QEvent::ActionAdded || event->type() == QEvent::ActionChanged)
-        && event->action() == m_action.data())
+        && event->action() == m_action)
         syncFromAction();
     update();
 }
