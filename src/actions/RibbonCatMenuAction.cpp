@@ -88,7 +88,10 @@ int RibbonCatMenuAction::menuMarkerOffset() const
 
 void RibbonCatMenuAction::setMenuMarkerOffset(int offset)
 {
+    if (offset == m_menuMarkerOffset)
+        return;
     m_menuMarkerOffset = offset;
+    announceLookChanged();
 }
 
 int RibbonCatMenuAction::listPreviewVisibleIconsCount() const
@@ -108,7 +111,17 @@ bool RibbonCatMenuAction::drawCheckedMarker() const
 
 void RibbonCatMenuAction::setDrawCheckedMarker(bool draw)
 {
+    if (draw == m_drawCheckedMarker)
+        return;
     m_drawCheckedMarker = draw;
+    announceLookChanged();
+}
+
+void RibbonCatMenuAction::announceLookChanged()
+{
+    // The widgets measure and paint again on the action-changed event.
+    sendActionChangedEvt();
+    emitChanged();
 }
 
 void RibbonCatMenuAction::addTopAction(RibbonSimpleAction *action)
