@@ -1,6 +1,7 @@
 #include "RibbonPercWidget.h"
 
 #include "RibbonApplication.h"
+#include "RibbonImageRows_p.h"
 #include "RibbonPercAction.h"
 #include "RibbonStyle.h"
 
@@ -205,7 +206,8 @@ void RibbonPercWidget::paintEvent(QPaintEvent *)
     painter.drawLine(Centre + 1, 7, Centre + 1, 14);
 
     const auto frameOf = [this](bool pressed, const QRect &area) {
-        return pressed ? 2 : (isHovered(area) ? 1 : 0);
+        namespace SliderPart = RibbonImageRows::SliderPart;
+        return pressed ? SliderPart::Pressed : isHovered(area) ? SliderPart::Hover : SliderPart::Normal;
     };
 
     QRect button(0, 0, ButtonExtent, ButtonExtent);

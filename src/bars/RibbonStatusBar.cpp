@@ -4,6 +4,7 @@
 #include "RibbonApplication.h"
 #include "RibbonCatMenuAction.h"
 #include "RibbonCatMenuButton.h"
+#include "RibbonImageRows_p.h"
 #include "RibbonMainWindow.h"
 #include "RibbonPaint_p.h"
 #include "RibbonPercAction.h"
@@ -207,8 +208,8 @@ void RibbonStatusBar::changeEvent(QEvent *event)
 void RibbonStatusBar::paintEvent(QPaintEvent *)
 {
     const QPixmap &image = ribbonStyle().statusBar();
-    // Two halves of 34 columns: the active window's, then the inactive one's.
-    const int k = isActiveWindow() ? 0 : 34;
+    namespace StatusBarHalf = RibbonImageRows::StatusBarHalf;
+    const int k = 34 * (isActiveWindow() ? StatusBarHalf::Active : StatusBarHalf::Inactive);
     QPainter painter(this);
     RibbonPaint::drawThreeSlice(painter, rect(), image, QRect(k, 0, 34, image.height()), 10, 10);
 }

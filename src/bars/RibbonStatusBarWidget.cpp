@@ -1,6 +1,7 @@
 #include "RibbonStatusBarWidget.h"
 
 #include "RibbonApplication.h"
+#include "RibbonImageRows_p.h"
 #include "RibbonPaint_p.h"
 #include "RibbonSimpleAction.h"
 #include "RibbonStyle.h"
@@ -65,7 +66,8 @@ bool RibbonStatusBarWidget::isHovered() const
 void RibbonStatusBarWidget::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    const int frame = m_pressed ? 2 : (isHovered() ? 1 : 0);
+    namespace SmallButton = RibbonImageRows::SmallButton;
+    const int frame = m_pressed ? SmallButton::Pressed : isHovered() ? SmallButton::Hover : SmallButton::Outline;
     const QPixmap &sheet = RibbonApplication::theApp().ribbonStyle().normalButtonSmall();
     painter.drawPixmap(QRect(0, 0, 20, 22), sheet,
                        QRect(0, RibbonPaint::SmallRowHeight * frame, 22, 23));

@@ -6,6 +6,7 @@
 #include "RibbonCatActionGroup.h"
 #include "RibbonCatMenuAction.h"
 #include "RibbonCatMenuButton.h"
+#include "RibbonImageRows_p.h"
 #include "RibbonPaint_p.h"
 #include "RibbonStyle.h"
 
@@ -223,20 +224,21 @@ void RibbonCatActionGroupWidget::paintEvent(QPaintEvent *)
         const QRect main = wide ? kWideMain.translated(cell.topLeft()) : cell;
         const bool hovered = mouseInside && cell.contains(cursor);
 
-        int state = 0;
-        if (!enabled)
-            state = 0;
-        else if (i == d->pressedIndex && !wide)
-            state = 2;
-        else if (action->isChecked())
-            state = hovered ? 4 : 3;
-        else if (hovered)
-            state = 1;
+        // Always drawn: a disabled cell has the normal look.
+        using namespace RibbonImageRows;
+        int state = GroupCell::Normal;
+        if (enabled && i == d->pressedIndex && !wide)
+            state = GroupCell::Pressed;
+        else if (enabled && action->isChecked())
+            state = hovered ? GroupCell::CheckedHover : GroupCell::Checked;
+        else if (enabled && hovered)
+            state = GroupCell::Hover;
 
         const QPixmap &segment = i == 0 ? style.btnGroupFirst()
                                  : i == count - 1 ? style.btnGroupLast()
                                                   : style.btnGroupMidle();
         if (!wide) {
+            // A cell alone is a small tool button, read with the strip's row numbers.
             const QPixmap &image = count == 1 ? style.normalButtonSmall() : segment;
             painter.drawPixmap(cell, image, QRect(0, row * state, kPlainCell, row));
         } else {

@@ -2,6 +2,7 @@
 
 #include "RibbonApplication.h"
 #include "RibbonCatSimpleAction.h"
+#include "RibbonImageRows_p.h"
 #include "RibbonPaint_p.h"
 #include "RibbonScale_p.h"
 #include "RibbonStyle.h"
@@ -14,9 +15,6 @@
 namespace zel {
 
 namespace {
-
-// Rows of the state sheets; -1 paints no background.
-enum { NoState = -1 };
 
 const int kLargeRow = 66;
 const int kSmallRow = 22;
@@ -147,15 +145,16 @@ void RibbonCatSimpleButton::paintEvent(QPaintEvent *)
     const bool enabled = isEnabled();
     const bool hovered = underMouse();
 
-    int state = NoState;
+    using namespace RibbonImageRows;
+    int state = NoRow;
     if (!enabled)
-        state = isCheckable() && isChecked() ? 4 : NoState;
+        state = isCheckable() && isChecked() ? PaletteItem::Disabled : NoRow;
     else if (isDown())
-        state = 1;
+        state = PaletteItem::Pressed;
     else if (isCheckable() && isChecked())
-        state = hovered ? 3 : 2;
+        state = hovered ? PaletteItem::CheckedHover : PaletteItem::Checked;
     else if (hovered)
-        state = 0;
+        state = PaletteItem::Hover;
 
     const int w = width();
     const int h = height();
@@ -163,7 +162,7 @@ void RibbonCatSimpleButton::paintEvent(QPaintEvent *)
     QPainter painter(this);
 
     if (d->size == RibbonCatSimpleAction::SizeLarge) {
-        if (state != NoState) {
+        if (state != NoRow) {
             d->background.set(rect(), QRect(0, 0, style.paletteItemLarge().width(), kLargeRow), border);
             d->background.draw(painter, style.paletteItemLarge(), state * kLargeRow);
         }
@@ -180,7 +179,7 @@ void RibbonCatSimpleButton::paintEvent(QPaintEvent *)
         return;
     }
 
-    if (state != NoState) {
+    if (state != NoRow) {
         d->background.set(rect(), QRect(0, 0, style.paletteItemSmall().width(), kSmallRow), border);
         d->background.draw(painter, style.paletteItemSmall(), state * kSmallRow);
     }

@@ -3,6 +3,7 @@
 #include "RibbonApplication.h"
 #include "RibbonCategoriesPanelAction.h"
 #include "RibbonContextCategoryPanelAction.h"
+#include "RibbonImageRows_p.h"
 #include "RibbonMenuBar.h"
 #include "RibbonPaint_p.h"
 #include "RibbonStyle.h"
@@ -178,14 +179,15 @@ void RibbonMenuBarButton::paintEvent(QPaintEvent *)
 
     const bool hover = rect().contains(mapFromGlobal(QCursor::pos()));
     const bool checked = isChecked();
-    int rowY = -1;
+    using namespace RibbonImageRows;
+    int row = NoRow;
     if (checked)
-        rowY = hover ? 96 : 72;
+        row = hover ? TabButton::CurrentHover : TabButton::Current;
     else if (hover)
-        rowY = 48;
-    if (rowY >= 0) {
+        row = TabButton::Hover;
+    if (row != NoRow) {
         RibbonPaint::drawThreeSlice(painter, QRect(0, 0, width(), 24), style.menuBarButton(),
-                                    QRect(0, rowY, 57, 24), 5, 5);
+                                    QRect(0, row * 24, 57, 24), 5, 5);
     }
 
     painter.setPen(checked ? style.highlightedCategoryTextColor() : style.normalCategoryTextColor());
