@@ -31,6 +31,8 @@ struct RibbonMenuBarButton::Priv
     }
 
     RibbonMenuBar &bar;
+    // Delays a click of the minimised ribbon until a double click can no longer follow.
+    // A named child, so that tests can reach it; it leaves the children with Priv.
     QTimer timer;
     // Unchecking a button outside a group makes Qt search the parent's whole subtree for
     // sibling buttons, and the bar's subtree holds every control of every tab. The tab
@@ -50,6 +52,8 @@ RibbonMenuBarButton::RibbonMenuBarButton(RibbonMenuBar &menuBar)
     d->ownGroup.setExclusive(false);
     d->ownGroup.addButton(this);
 
+    d->timer.setParent(this);
+    d->timer.setObjectName(QStringLiteral("clickDelay"));
     d->timer.setInterval(200);
     d->timer.setSingleShot(true);
     connect(&d->timer, SIGNAL(timeout()), this, SLOT(onDoubleClickTimeout()));
