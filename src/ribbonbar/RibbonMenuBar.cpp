@@ -76,18 +76,20 @@ struct RibbonMenuBar::Priv
     QActionGroup *group = nullptr;
     RibbonCategoryPanelsProxy *panels = nullptr;
     RibbonButtonMain *mainButton = nullptr;
-    QPointer<RibbonAction> helpAction;
-    QPointer<RibbonAction> findComboAction;
-    QPointer<RibbonAction> findAction;
+    // Actions the bar keeps are guarded as QAction and read through qobject_cast, as
+    // everywhere (RibbonActionWidgetMap_p.h).
+    QPointer<QAction> helpAction;
+    QPointer<QAction> findComboAction;
+    QPointer<QAction> findAction;
     RibbonSimpleAction *collapseAction = nullptr;
     RibbonButtonNormal *collapseButton = nullptr;
     RibbonContextCategoryPanel *contextPanels = nullptr;
-    QPointer<RibbonContextCategoryPanelAction> displayedContext;
+    QPointer<QAction> displayedContext;
     // The displayed set's tabs, kept apart from the set: when the set is destroyed its
     // list is gone, yet tabs it did not own still stand in the row.
-    QList<QPointer<RibbonCategoriesPanelAction>> displayedTabs;
+    QList<QPointer<QAction>> displayedTabs;
     QMetaObject::Connection displayedContextDestroyed;
-    QPointer<RibbonAction> lastClicked;
+    QPointer<QAction> lastClicked;
 
     // Tab buttons by tab, and the widgets of the help, find-combo and find actions (a
     // tab is never one of those).
@@ -193,12 +195,12 @@ RibbonContextCategoryPanel &RibbonMenuBar::ribbonContextCategoryPanel() const
 
 RibbonContextCategoryPanelAction *RibbonMenuBar::displayedContextPanel() const
 {
-    return d->displayedContext.data();
+    return qobject_cast<RibbonContextCategoryPanelAction *>(d->displayedContext);
 }
 
 void RibbonMenuBar::displayedContextPanelRect(QRect &rect) const
 {
-    RibbonContextCategoryPanelAction *set = d->displayedContext.data();
+    RibbonContextCategoryPanelAction *set = displayedContextPanel();
     if (!set)
         return;
     for (RibbonCategoriesPanelAction *tab : set->panelActions()) {
@@ -214,8 +216,9 @@ void RibbonMenuBar::showContextPanelAction(RibbonContextCategoryPanelAction *set
 {
     if (!set || !d->contextPanels->containsAction(set))
         return;
-    if (d->displayedContext && d->displayedContext != set)
-        hideContextPanelAction(d->displayedContext);
+    RibbonContextCategoryPanelAction *shown = displayedContextPanel();
+    if (shown && shown != set)
+        hideContextPanelAction(shown);
 
     const QFontMetrics fm = fontMetrics();
     const QList<RibbonCategoriesPanelAction *> tabs = set->panelActions();
@@ -248,7 +251,7 @@ void RibbonMenuBar::showContextPanelAction(RibbonContextCategoryPanelAction *set
         d->displayedTabs << tab;
     disconnect(d->displayedContextDestroyed);
     d->displayedContextDestroyed = connect(set, &QObject::destroyed, this, [this] {
-        for (const QPointer<RibbonCategoriesPanelAction> &tab : qAsConst(d->displayedTabs)) {
+        for (const QPointer<QAction> &tab : qAsConst(d->displayedTabs)) {
             if (tab)
                 removeAction(tab);
         }
@@ -284,23 +287,23 @@ void RibbonMenuBar::replaceCommandAction(QAction *oldAction, RibbonAction *newAc
 
 void RibbonMenuBar::setHelpAction(RibbonAction *action)
 {
-    QPointer<RibbonAction> old = d->helpAction;
+    QPointer<QAction> old = d->helpAction;
     d->helpAction = action;
     replaceCommandAction(old.data(), action);
 }
 
 RibbonAction *RibbonMenuBar::helpAction() const
 {
-    return d->helpAction.data();
+    return qobject_cast<RibbonAction *>(d->helpAction);
 }
 
 void RibbonMenuBar::setFindComboAction(RibbonAction *action)
 {
-    QPointer<RibbonAction> old = d->findComboAction;
+    QPointer<QAction> old = d->findComboAction;
     d->findComboAction = action;
     replaceCommandAction(old.data(), action);
     // The find button goes with the combo.
-    if (RibbonAction *find = d->findAction.data()) {
+    if (RibbonAction *find = findAction()) {
         if (action)
             replaceCommandAction(nullptr, find);
         else
@@ -310,12 +313,12 @@ void RibbonMenuBar::setFindComboAction(RibbonAction *action)
 
 RibbonAction *RibbonMenuBar::findComboAction() const
 {
-    return d->findComboAction.data();
+    return qobject_cast<RibbonAction *>(d->findComboAction);
 }
 
 void RibbonMenuBar::setFindAction(RibbonAction *action)
 {
-    QPointer<RibbonAction> old = d->findAction;
+    QPointer<QAction> old = d->findAction;
     d->findAction = action;
     if (old && old != action)
         removeAction(old);
@@ -325,12 +328,12 @@ void RibbonMenuBar::setFindAction(RibbonAction *action)
 
 RibbonAction *RibbonMenuBar::findAction() const
 {
-    return d->findAction.data();
+    return qobject_cast<RibbonAction *>(d->findAction);
 }
 
 RibbonAction *RibbonMenuBar::lastClickedAction() const
 {
-    return d->lastClicked.data();
+    return qobject_cast<RibbonAction *>(d->lastClicked);
 }
 
 void RibbonMenuBar::setLastClickedAction(RibbonAction *action)
