@@ -197,6 +197,9 @@ void tst_ActionWidgetMap::insertAgainReplaces()
     QCOMPARE(container.map.widget(&action), second.data());
     QCOMPARE(container.map.action(second), static_cast<QAction *>(&action));
     QCOMPARE(container.map.keys().size(), 1);
+    container.map.insert(&action, second); // the same one again: kept
+    QVERIFY(second);
+    QCOMPARE(container.map.widget(&action), second.data());
 }
 
 void tst_ActionWidgetMap::unknownActions()

@@ -107,11 +107,11 @@ public:
     {
     }
 
-    // Records widget as made for action; a widget recorded before under the same
+    // Records widget as made for action; another widget recorded before under the same
     // address is dropped first.
     void insert(QAction *action, W *widget)
     {
-        if (!action)
+        if (!action || (widget && this->widget(action) == widget))
             return;
         drop(action);
         m_entries.insert(action, Entry{action, widget});
@@ -132,6 +132,7 @@ public:
         return qobject_cast<T *>(widget(action));
     }
 
+    // Whether a widget made for action is still there.
     bool contains(const QObject *action) const { return widget(action) != nullptr; }
 
     // The action widget was made for, null when none (a reverse lookup: linear).
