@@ -564,6 +564,36 @@ private slots:
         QCOMPARE(button.grab().toImage(), plain);
     }
 
+    // The marker offset widens a medium button already laid out, and the checked marker
+    // comes and goes on a button already shown; each change is announced once.
+    void lookSettersReachTheButton()
+    {
+        Menu action(QStringLiteral("Bold"), Menu::MenuSizeMedium);
+        RibbonSimpleAction bold(QStringLiteral("Bold on"), nullptr);
+        bold.setCheckable(true);
+        bold.setChecked(true);
+        action.addAction(&bold, true);
+        Host host(action);
+        QVERIFY(host.exposed());
+        QSignalSpy changed(&action, &QAction::changed);
+        const int width = host.button->width();
+
+        action.setMenuMarkerOffset(20);
+        QCOMPARE(changed.count(), 1);
+        QTRY_COMPARE(host.button->width(), width + 20);
+        action.setMenuMarkerOffset(20);
+        QCOMPARE(changed.count(), 1);
+
+        const QImage marked = host.button->grab().toImage();
+        action.setDrawCheckedMarker(false);
+        QCOMPARE(changed.count(), 2);
+        QVERIFY(host.button->grab().toImage() != marked);
+        action.setDrawCheckedMarker(false);
+        QCOMPARE(changed.count(), 2);
+        action.setDrawCheckedMarker(true);
+        QCOMPARE(host.button->grab().toImage(), marked);
+    }
+
     void largeArrowPosition_data()
     {
         QTest::addColumn<QString>("text");

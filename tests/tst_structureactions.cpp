@@ -42,7 +42,16 @@ public slots:
 class TestContextPanel : public RibbonContextCategoryPanel
 {
 public:
-    explicit TestContextPanel(QObject *bar) : RibbonContextCategoryPanel(bar) {}
+    explicit TestContextPanel(FakeMenuBar *bar) : RibbonContextCategoryPanel(bar), m_bar(bar) {}
+
+protected:
+    void hideContextPanel(RibbonContextCategoryPanelAction *action) override
+    {
+        m_bar->hideContextPanelAction(action);
+    }
+
+private:
+    FakeMenuBar *m_bar;
 };
 
 class ChangeCounter : public QWidget

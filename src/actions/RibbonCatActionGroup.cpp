@@ -1,5 +1,8 @@
 #include "RibbonCatActionGroup.h"
 
+#include "RibbonClassChecks_p.h"
+#include "RibbonMembers_p.h"
+
 namespace zel {
 
 RibbonCatActionGroup::RibbonCatActionGroup(QObject *parent)
@@ -95,26 +98,19 @@ void RibbonCatActionGroup::actionActivated()
 {
     // A colour menu in a strip is activated while its picker stays open; it must not
     // close the surrounding popup.
-    QObject *member = sender();
-    if (member && member->inherits("zel::RibbonCatColorMenuAction"))
+    if (RibbonClassChecks::isColorMenuAction(sender()))
         return;
     emit ribbonActionActivated();
 }
 
 void RibbonCatActionGroup::forgetAction(QObject *action)
 {
-    for (int i = m_actions.size() - 1; i >= 0; --i) {
-        if (static_cast<QObject *>(m_actions.at(i)) == action)
-            m_actions.removeAt(i);
-    }
-    if (static_cast<QObject *>(m_checkedAction) == action)
-        m_checkedAction = nullptr;
-    // Announced later: the dying member, or an owner in the middle of deleting its
-    // children, may still be connected to this container's signals.
-    QMetaObject::invokeMethod(this, [this] {
+    RibbonMembers::forget(m_actions, action);
+    RibbonMembers::forget(m_checkedAction, action);
+    RibbonMembers::announceLater(this, [this] {
         sendActionChangedEvt();
         emit changed();
-    }, Qt::QueuedConnection);
+    });
 }
 
 } // namespace zel

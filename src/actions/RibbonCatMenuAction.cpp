@@ -1,5 +1,6 @@
 #include "RibbonCatMenuAction.h"
 
+#include "RibbonMembers_p.h"
 #include "RibbonSimpleAction.h"
 #include "RibbonViewPopup.h"
 
@@ -87,7 +88,10 @@ int RibbonCatMenuAction::menuMarkerOffset() const
 
 void RibbonCatMenuAction::setMenuMarkerOffset(int offset)
 {
+    if (offset == m_menuMarkerOffset)
+        return;
     m_menuMarkerOffset = offset;
+    announceLookChanged();
 }
 
 int RibbonCatMenuAction::listPreviewVisibleIconsCount() const
@@ -107,7 +111,17 @@ bool RibbonCatMenuAction::drawCheckedMarker() const
 
 void RibbonCatMenuAction::setDrawCheckedMarker(bool draw)
 {
+    if (draw == m_drawCheckedMarker)
+        return;
     m_drawCheckedMarker = draw;
+    announceLookChanged();
+}
+
+void RibbonCatMenuAction::announceLookChanged()
+{
+    // The widgets measure and paint again on the action-changed event.
+    sendActionChangedEvt();
+    emitChanged();
 }
 
 void RibbonCatMenuAction::addTopAction(RibbonSimpleAction *action)
@@ -181,20 +195,20 @@ void RibbonCatMenuAction::fillSubMenu(QMenu &menu, RibbonMenuAction *sub,
 void RibbonCatMenuAction::actionChanged()
 {
     // Guarded copies: a receiver of an action's changed() may destroy another one.
-    QList<QPointer<RibbonSimpleAction>> top, bottom;
+    QList<QPointer<QAction>> top, bottom;
     for (RibbonSimpleAction *action : qAsConst(m_topActions))
         top.append(action);
     for (RibbonSimpleAction *action : qAsConst(m_bottomActions))
         bottom.append(action);
 
     const bool enabled = isEnabled();
-    for (const QPointer<RibbonSimpleAction> &action : qAsConst(top)) {
+    for (const QPointer<QAction> &action : qAsConst(top)) {
         if (action)
             action->setEnabled(enabled);
     }
     if (m_iconActionGroup)
         m_iconActionGroup->setEnabled(enabled);
-    for (const QPointer<RibbonSimpleAction> &action : qAsConst(bottom)) {
+    for (const QPointer<QAction> &action : qAsConst(bottom)) {
         if (action)
             action->setEnabled(enabled);
     }
@@ -202,14 +216,8 @@ void RibbonCatMenuAction::actionChanged()
 
 void RibbonCatMenuAction::forgetListed(QObject *action)
 {
-    for (int i = m_topActions.size() - 1; i >= 0; --i) {
-        if (static_cast<QObject *>(m_topActions.at(i)) == action)
-            m_topActions.removeAt(i);
-    }
-    for (int i = m_bottomActions.size() - 1; i >= 0; --i) {
-        if (static_cast<QObject *>(m_bottomActions.at(i)) == action)
-            m_bottomActions.removeAt(i);
-    }
+    RibbonMembers::forget(m_topActions, action);
+    RibbonMembers::forget(m_bottomActions, action);
 }
 
 } // namespace zel

@@ -59,10 +59,12 @@ public:
     // Replaces the group whose actions become the tiles of the view popup.
     void addIconActionGroup(QActionGroup *group);
 
+    // Extra width, in pixels, of a medium button; its widgets follow.
     int menuMarkerOffset() const;
     void setMenuMarkerOffset(int offset);
     int listPreviewVisibleIconsCount() const;
     void setListPreviewVisibleIconsCount(int count);
+    // Whether the button shows the toggled state; its widgets follow.
     bool drawCheckedMarker() const;
     void setDrawCheckedMarker(bool draw);
 
@@ -85,6 +87,7 @@ private slots:
 
 private:
     void init(eMenuType type, eMenuSize size, ePopupType popup);
+    void announceLookChanged();
     void fillItems(QMenu &menu, const QList<RibbonAction*> &items,
                    QList<const RibbonMenuAction*> &path);
     void fillSubMenu(QMenu &menu, RibbonMenuAction *sub, QList<const RibbonMenuAction*> &path);

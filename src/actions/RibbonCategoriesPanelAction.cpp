@@ -1,6 +1,7 @@
 #include "RibbonCategoriesPanelAction.h"
 
 #include "RibbonCategoryAction.h"
+#include "RibbonMembers_p.h"
 
 namespace zel {
 
@@ -70,15 +71,8 @@ void RibbonCategoriesPanelAction::categoryChanged()
 
 void RibbonCategoriesPanelAction::forgetCategory(QObject *category)
 {
-    // The category is being destroyed: only its address is compared, and no signal
-    // carries it, since a receiver could not use it any more.
-    for (int i = m_categories.size() - 1; i >= 0; --i) {
-        if (static_cast<QObject *>(m_categories.at(i)) == category)
-            m_categories.removeAt(i);
-    }
-    // Announced later: the dying member, or an owner in the middle of deleting its
-    // children, may still be connected to this container's signals.
-    QMetaObject::invokeMethod(this, [this] { emit changed(); }, Qt::QueuedConnection);
+    RibbonMembers::forget(m_categories, category);
+    RibbonMembers::announceLater(this, [this] { emit changed(); });
 }
 
 } // namespace zel

@@ -1,5 +1,7 @@
 #include "RibbonCategoryAction.h"
 
+#include "RibbonMembers_p.h"
+
 namespace zel {
 
 RibbonCategoryAction::RibbonCategoryAction(QObject *parent)
@@ -69,18 +71,10 @@ void RibbonCategoryAction::actionActivated()
 
 void RibbonCategoryAction::forgetAction(QObject *action)
 {
-    // The member is being destroyed: its widgets have already dropped it; compare the
-    // address only and emit no signal that carries it.
-    for (int i = m_actions.size() - 1; i >= 0; --i) {
-        RibbonAction *member = m_actions.at(i);
-        if (static_cast<QObject *>(member) == action) {
-            m_actions.removeAt(i);
-            m_rows.remove(member);
-        }
-    }
-    // Announced later: the dying member, or an owner in the middle of deleting its
-    // children, may still be connected to this container's signals.
-    QMetaObject::invokeMethod(this, [this] { emit changed(); }, Qt::QueuedConnection);
+    // Its widgets have already dropped it, when QAction's destructor removed it.
+    if (RibbonAction *member = RibbonMembers::forget(m_actions, action))
+        m_rows.remove(member);
+    RibbonMembers::announceLater(this, [this] { emit changed(); });
 }
 
 } // namespace zel

@@ -1,20 +1,19 @@
 #include "RibbonContextCategoryPanel.h"
 
 #include "RibbonContextCategoryPanelAction.h"
+#include "RibbonMembers_p.h"
+// The registry belongs to the ribbon bar and asks it to hide a set before forgetting it.
 #include "RibbonMenuBar.h"
-
-#include <QMetaMethod>
 
 namespace zel {
 
 RibbonContextCategoryPanel::RibbonContextCategoryPanel(RibbonMenuBar &menuBar)
-    : RibbonContextCategoryPanel(static_cast<QObject *>(&menuBar))
+    : QObject(&menuBar)
 {
 }
 
-RibbonContextCategoryPanel::RibbonContextCategoryPanel(QObject *menuBar)
-    : QObject(menuBar)
-    , m_menuBar(menuBar)
+RibbonContextCategoryPanel::RibbonContextCategoryPanel(QObject *owner)
+    : QObject(owner)
 {
 }
 
@@ -33,26 +32,20 @@ void RibbonContextCategoryPanel::removeContextPanelAction(RibbonContextCategoryP
     if (!action || !m_actions.contains(action))
         return;
 
-    QPointer<RibbonContextCategoryPanelAction> guard(action);
-    // Hide the set first, while it is still registered. The owner's slot is called through
-    // the meta-object, so an owner other than the ribbon bar can take its place.
-    if (QObject *bar = m_menuBar.data()) {
-        const QMetaObject *meta = bar->metaObject();
-        for (int i = meta->methodCount() - 1; i >= 0; --i) {
-            const QMetaMethod method = meta->method(i);
-            if (method.name() == "hideContextPanelAction" && method.parameterCount() == 1) {
-                method.invoke(bar, Qt::DirectConnection,
-                              QGenericArgument(method.parameterTypes().constFirst().constData(),
-                                               &action));
-                break;
-            }
-        }
-    }
-
+    // Hidden first, while it is still registered.
+    QPointer<QAction> guard(action);
+    hideContextPanel(action);
     if (!guard)
         return; // destroyed while being hidden: already forgotten
     disconnect(action, &QObject::destroyed, this, &RibbonContextCategoryPanel::forgetAction);
     m_actions.removeAll(action);
+}
+
+void RibbonContextCategoryPanel::hideContextPanel(RibbonContextCategoryPanelAction *action)
+{
+    // Checked, not assumed: the registry may be reached while the bar is being destroyed.
+    if (auto *bar = qobject_cast<RibbonMenuBar *>(parent()))
+        bar->hideContextPanelAction(action);
 }
 
 bool RibbonContextCategoryPanel::containsAction(RibbonContextCategoryPanelAction *action)
@@ -69,10 +62,7 @@ QString RibbonContextCategoryPanel::name(RibbonContextCategoryPanelAction *actio
 
 void RibbonContextCategoryPanel::forgetAction(QObject *action)
 {
-    for (int i = m_actions.size() - 1; i >= 0; --i) {
-        if (static_cast<QObject *>(m_actions.at(i)) == action)
-            m_actions.removeAt(i);
-    }
+    RibbonMembers::forget(m_actions, action);
 }
 
 } // namespace zel

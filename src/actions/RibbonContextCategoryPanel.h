@@ -28,15 +28,18 @@ public:
     QString name(RibbonContextCategoryPanelAction *action);
 
 protected:
-    // For owners other than the ribbon bar itself: any object with a slot
-    // hideContextPanelAction(RibbonContextCategoryPanelAction*) can play its part.
-    explicit RibbonContextCategoryPanel(QObject *menuBar);
+    // For an owner other than the ribbon bar: there is no bar to ask, and a subclass
+    // hides sets itself by overriding hideContextPanel().
+    explicit RibbonContextCategoryPanel(QObject *owner);
+
+    // Hides a set that is about to be unregistered: asks the ribbon bar that owns the
+    // registry (RibbonMenuBar::hideContextPanelAction); nothing for another owner.
+    virtual void hideContextPanel(RibbonContextCategoryPanelAction *action);
 
 private:
     void forgetAction(QObject *action);
 
     QList<RibbonContextCategoryPanelAction*> m_actions;
-    QPointer<QObject> m_menuBar;
 };
 
 } // namespace zel

@@ -1,6 +1,7 @@
 #include "RibbonContextCategoryPanelAction.h"
 
 #include "RibbonCategoriesPanelAction.h"
+#include "RibbonMembers_p.h"
 
 namespace zel {
 
@@ -68,12 +69,9 @@ RibbonCategoriesPanelAction *RibbonContextCategoryPanelAction::panelAction(const
 
 void RibbonContextCategoryPanelAction::forgetPanelAction(QObject *action)
 {
-    // A destroyed tab is dropped silently: panelActionRemoved() would hand receivers
-    // a pointer they can no longer use.
-    for (int i = m_panelActions.size() - 1; i >= 0; --i) {
-        if (static_cast<QObject *>(m_panelActions.at(i)) == action)
-            m_panelActions.removeAt(i);
-    }
+    // Dropped silently: panelActionRemoved() would hand receivers a pointer they can
+    // no longer use.
+    RibbonMembers::forget(m_panelActions, action);
 }
 
 } // namespace zel

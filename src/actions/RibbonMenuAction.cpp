@@ -1,5 +1,7 @@
 #include "RibbonMenuAction.h"
 
+#include "RibbonMembers_p.h"
+
 namespace zel {
 
 // Items and the menu itself are connected to this class's actionChanged() by address:
@@ -257,18 +259,10 @@ void RibbonMenuAction::disconnectItem(RibbonAction *action)
 
 void RibbonMenuAction::forgetItem(QObject *action)
 {
-    // The item is being destroyed: compare its address only; no signal carries it.
-    for (int i = m_menuActions.size() - 1; i >= 0; --i) {
-        if (static_cast<QObject *>(m_menuActions.at(i)) == action)
-            m_menuActions.removeAt(i);
-    }
-    if (static_cast<QObject *>(m_defaultAction) == action)
-        m_defaultAction = nullptr;
-    if (static_cast<QObject *>(m_checkedItem) == action)
-        m_checkedItem = nullptr;
-    // Announced later: the dying member, or an owner in the middle of deleting its
-    // children, may still be connected to this container's signals.
-    QMetaObject::invokeMethod(this, [this] { emitChanged(); }, Qt::QueuedConnection);
+    RibbonMembers::forget(m_menuActions, action);
+    RibbonMembers::forget(m_defaultAction, action);
+    RibbonMembers::forget(m_checkedItem, action);
+    RibbonMembers::announceLater(this, [this] { emitChanged(); });
 }
 
 } // namespace zel

@@ -54,6 +54,10 @@ protected:
     virtual void actionChanged(RibbonMenuAction *menu);
     virtual void actionChanged(RibbonAction *item);
 
+    // Emits changed() as a change of the menu's own look: its enabled state is not
+    // pushed to the items for it.
+    void emitChanged();
+
 private slots:
     void actionChanged();
     void onAliasDefaultActionChanged();
@@ -63,7 +67,6 @@ private slots:
 private:
     void init();
     void connectAliasMenu();
-    void emitChanged();
     void disconnectItem(RibbonAction *action);
     void forgetItem(QObject *action);
 

@@ -1,6 +1,7 @@
 #include "RibbonPercWidget.h"
 
 #include "RibbonApplication.h"
+#include "RibbonImageRows_p.h"
 #include "RibbonPercAction.h"
 #include "RibbonStyle.h"
 
@@ -56,7 +57,7 @@ RibbonPercWidget::~RibbonPercWidget() = default;
 
 RibbonPercAction *RibbonPercWidget::action() const
 {
-    return m_action.data();
+    return qobject_cast<RibbonPercAction *>(m_action);
 }
 
 int RibbonPercWidget::value() const
@@ -76,10 +77,11 @@ QSize RibbonPercWidget::sizeHint() const
 
 int RibbonPercWidget::thumbPosition(int v) const
 {
-    if (!m_action)
+    RibbonPercAction *action = this->action();
+    if (!action)
         return Centre;
-    const int minimum = m_action->minimum();
-    const int maximum = m_action->maximum();
+    const int minimum = action->minimum();
+    const int maximum = action->maximum();
     if (v < 100) {
         const int span = 100 - minimum;
         return span > 0 ? LowEnd + HalfLength * qMax(0, v - minimum) / span : LowEnd;
@@ -110,8 +112,9 @@ bool RibbonPercWidget::isHovered(const QRect &area) const
 
 int RibbonPercWidget::valueAt(int x) const
 {
-    const int minimum = m_action->minimum();
-    const int maximum = m_action->maximum();
+    RibbonPercAction *action = this->action();
+    const int minimum = action->minimum();
+    const int maximum = action->maximum();
     int v;
     if (qAbs(x - Centre) < SnapDistance)
         v = 100;
@@ -124,21 +127,23 @@ int RibbonPercWidget::valueAt(int x) const
 
 int RibbonPercWidget::stepped(int delta) const
 {
-    if (!m_action)
+    RibbonPercAction *action = this->action();
+    if (!action)
         return m_value;
     const int v = m_value + delta;
-    return delta < 0 ? qMax(v, m_action->minimum()) : qMin(v, m_action->maximum());
+    return delta < 0 ? qMax(v, action->minimum()) : qMin(v, action->maximum());
 }
 
 void RibbonPercWidget::dragTo(int x)
 {
-    if (!m_action)
+    RibbonPercAction *action = this->action();
+    if (!action)
         return;
     const int v = valueAt(x);
     if (v == m_value)
         return;
     m_value = v;
-    m_action->setPercentage(v);
+    action->setPercentage(v);
 }
 
 void RibbonPercWidget::displayPercentage(int percentage)
@@ -156,11 +161,12 @@ void RibbonPercWidget::timerEvent()
         v = stepped(-Step);
     else if (m_plusPressed)
         v = stepped(Step);
-    if (v == m_value || !m_action)
+    RibbonPercAction *action = this->action();
+    if (v == m_value || !action)
         return;
     m_value = v;
     QPointer<RibbonPercWidget> self(this);
-    m_action->setPercentage(v);
+    action->setPercentage(v);
     if (self)
         update();
 }
@@ -168,18 +174,18 @@ void RibbonPercWidget::timerEvent()
 void RibbonPercWidget::actionEvent(QActionEvent *event)
 {
     QWidget::actionEvent(event);
-    // Only a change is looked at: the action of a removal may be half destroyed.
-    if (event->type() == QEvent::ActionChanged && event->action() == m_action.data()) {
-        m_value = m_action->percentage();
+    RibbonPercAction *action = this->action();
+    if (event->type() == QEvent::ActionChanged && action && event->action() == action) {
+        m_value = action->percentage();
         m_text = percentText(m_value);
-        setEnabled(m_action->isEnabled());
+        setEnabled(action->isEnabled());
     }
     update();
 }
 
 void RibbonPercWidget::paintEvent(QPaintEvent *)
 {
-    if (!m_action)
+    if (!action())
         return;
     const RibbonStyle &style = RibbonApplication::theApp().ribbonStyle();
     QPainter painter(this);
@@ -200,7 +206,8 @@ void RibbonPercWidget::paintEvent(QPaintEvent *)
     painter.drawLine(Centre + 1, 7, Centre + 1, 14);
 
     const auto frameOf = [this](bool pressed, const QRect &area) {
-        return pressed ? 2 : (isHovered(area) ? 1 : 0);
+        namespace SliderPart = RibbonImageRows::SliderPart;
+        return pressed ? SliderPart::Pressed : isHovered(area) ? SliderPart::Hover : SliderPart::Normal;
     };
 
     QRect button(0, 0, ButtonExtent, ButtonExtent);
@@ -219,7 +226,7 @@ void RibbonPercWidget::paintEvent(QPaintEvent *)
 
 void RibbonPercWidget::mousePressEvent(QMouseEvent *event)
 {
-    if (event->button() != Qt::LeftButton || !m_action) {
+    if (event->button() != Qt::LeftButton || !action()) {
         QWidget::mousePressEvent(event);
         return;
     }
@@ -275,8 +282,10 @@ void RibbonPercWidget::mouseReleaseEvent(QMouseEvent *event)
     m_minusPressed = m_plusPressed = m_thumbPressed = false;
     repeatTimer.stop();
     update();
-    if (m_value != old && m_action)
-        m_action->setPercentage(m_value);
+    if (m_value != old) {
+        if (RibbonPercAction *action = this->action())
+            action->setPercentage(m_value);
+    }
 }
 
 void RibbonPercWidget::enterEvent(QEvent *event)

@@ -58,7 +58,7 @@ private:
     int stepped(int delta) const;
     void dragTo(int x);
 
-    QPointer<RibbonPercAction> m_action;
+    QPointer<QAction> m_action;
     QTimer repeatTimer;
     int m_value = 0;
     bool m_minusPressed = false;

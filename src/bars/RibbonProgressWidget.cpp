@@ -41,7 +41,7 @@ RibbonProgressWidget::~RibbonProgressWidget() = default;
 
 RibbonProgressAction *RibbonProgressWidget::action() const
 {
-    return m_action.data();
+    return qobject_cast<RibbonProgressAction *>(m_action);
 }
 
 QLabel *RibbonProgressWidget::label() const
@@ -78,18 +78,18 @@ void RibbonProgressWidget::setProgressText(const QString &text)
 
 void RibbonProgressWidget::onProgressRangeChanged()
 {
-    if (!m_action)
+    RibbonProgressAction *action = this->action();
+    if (!action)
         return;
-    m_progressBar->setRange(m_action->minimum(), m_action->maximum());
+    m_progressBar->setRange(action->minimum(), action->maximum());
     // QProgressBar resets a value that fell outside the old range; take it again.
-    m_progressBar->setValue(m_action->value());
+    m_progressBar->setValue(action->value());
 }
 
 void RibbonProgressWidget::actionEvent(QActionEvent *event)
 {
     QWidget::actionEvent(event);
-    // Only a change is looked at: the action of a removal may be half destroyed.
-    if (event->type() == QEvent::ActionChanged && event->action() == m_action.data())
+    if (event->type() == QEvent::ActionChanged && event->action() == m_action)
         setEnabled(m_action->isEnabled());
 }
 

@@ -40,7 +40,7 @@ protected:
 private:
     void applyTextColor();
 
-    QPointer<RibbonProgressAction> m_action;
+    QPointer<QAction> m_action;
     QHBoxLayout *m_layout;
     QLabel *m_label;
     QProgressBar *m_progressBar;

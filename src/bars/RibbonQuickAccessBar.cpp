@@ -1,5 +1,6 @@
 #include "RibbonQuickAccessBar.h"
 
+#include "RibbonActionWidgetMap_p.h"
 #include "RibbonButtonNormal.h"
 #include "RibbonMainWindow.h"
 #include "RibbonMenuBar.h"
@@ -8,9 +9,7 @@
 #include <QActionEvent>
 #include <QCoreApplication>
 #include <QHBoxLayout>
-#include <QHash>
 #include <QMenu>
-#include <QPointer>
 #include <QSpacerItem>
 
 namespace zel {
@@ -29,6 +28,22 @@ QString commandName(const QAction *action)
     return action->data().toString();
 }
 
+QWidget *makeCommandButton(QAction *action, QWidget *parent)
+{
+    auto *command = qobject_cast<RibbonSimpleAction *>(action);
+    if (!command)
+        return nullptr;
+    auto *button = new RibbonButtonNormal(parent);
+    button->setFixedSize(20, 20);
+    button->addAction(command);
+    return button;
+}
+
+// The button of a command; a command that gets one also gets a menu entry.
+const RibbonWidgetMaker buttonMakers[] = {
+    makeCommandButton,
+};
+
 } // namespace
 
 struct RibbonQuickAccessBar::Priv
@@ -41,13 +56,10 @@ struct RibbonQuickAccessBar::Priv
     QStringList disabledItems;
     QAction *minimizeEntry = nullptr;
 
-    // What the bar made for one command, dropped when the command leaves the bar.
-    struct Command
-    {
-        QPointer<RibbonButtonNormal> button;
-        QPointer<QAction> entry;
-    };
-    QHash<QAction *, Command> commands;
+    // What the bar made for each command: its button and its menu entry, dropped when
+    // the command leaves the bar (both leave their layout and menu by themselves).
+    RibbonActionWidgetMap<> buttons;
+    RibbonActionWidgetMap<QAction> entries;
 };
 
 RibbonQuickAccessBar::RibbonQuickAccessBar(RibbonMainWindow *mainWindow)
@@ -114,25 +126,18 @@ void RibbonQuickAccessBar::showQuickAccessBarItem(const QString &name)
 void RibbonQuickAccessBar::actionEvent(QActionEvent *event)
 {
     QWidget::actionEvent(event);
-    if (event->type() == QEvent::ActionRemoved) {
-        // Looked up by address: an action being destroyed is no longer a
-        // RibbonSimpleAction. A command that leaves the bar takes its button and its
-        // menu entry along; a hidden name stays in the list for the next session.
-        const Priv::Command made = d->commands.take(event->action());
-        delete made.button.data();
-        delete made.entry.data();
-        return;
-    }
-    auto *command = qobject_cast<RibbonSimpleAction *>(event->action());
-    if (!command)
-        return;
-
+    QAction *command = event->action();
     switch (event->type()) {
+    case QEvent::ActionRemoved:
+        // A hidden name stays in the list for the next session.
+        d->buttons.drop(command);
+        d->entries.drop(command);
+        break;
     case QEvent::ActionAdded: {
+        QWidget *button = makeWidget(buttonMakers, command, this).widget;
+        if (!button)
+            return;
         const QString name = commandName(command);
-        auto *button = new RibbonButtonNormal(this);
-        button->setFixedSize(20, 20);
-        button->addAction(command);
         d->buttonsLayout->addWidget(button);
         // A nameless command cannot be listed, so it always starts visible.
         const bool visible = name.isEmpty() || !d->disabledItems.contains(name);
@@ -147,21 +152,16 @@ void RibbonQuickAccessBar::actionEvent(QActionEvent *event)
         const QList<QAction *> entries = d->menu->actions();
         d->menu->insertAction(entries.at(entries.size() - 2), entry);
 
-        Priv::Command &made = d->commands[command];
         // A command added again gets fresh ones; the old ones must not linger.
-        delete made.button.data();
-        delete made.entry.data();
-        made.button = button;
-        made.entry = entry;
+        d->buttons.insert(command, button);
+        d->entries.insert(command, entry);
         event->accept();
         break;
     }
-    case QEvent::ActionChanged: {
-        const Priv::Command made = d->commands.value(command);
-        if (made.entry)
-            made.entry->setText(command->text());
+    case QEvent::ActionChanged:
+        if (QAction *entry = d->entries.widget(command))
+            entry->setText(command->text());
         break;
-    }
     default:
         break;
     }
@@ -191,10 +191,7 @@ void RibbonQuickAccessBar::onMenuActionTriggered(QAction *entry)
     const QString name = entry->data().toString();
     RibbonButtonNormal *button = nullptr;
     if (name.isEmpty()) {
-        for (const Priv::Command &made : qAsConst(d->commands)) {
-            if (made.entry == entry)
-                button = made.button.data();
-        }
+        button = d->buttons.widgetAs<RibbonButtonNormal>(d->entries.action(entry));
         if (button)
             button->setVisible(entry->isChecked());
         return;

@@ -1,8 +1,10 @@
 #include "RibbonStatusBar.h"
 
+#include "RibbonActionWidgetMap_p.h"
 #include "RibbonApplication.h"
 #include "RibbonCatMenuAction.h"
 #include "RibbonCatMenuButton.h"
+#include "RibbonImageRows_p.h"
 #include "RibbonMainWindow.h"
 #include "RibbonPaint_p.h"
 #include "RibbonPercAction.h"
@@ -16,6 +18,7 @@
 #include <QActionEvent>
 #include <QHBoxLayout>
 #include <QPainter>
+#include <QPointer>
 #include <QSpacerItem>
 
 namespace zel {
@@ -27,26 +30,72 @@ const RibbonStyle &ribbonStyle()
     return RibbonApplication::theApp().ribbonStyle();
 }
 
+QWidget *makeBorderedMenuButton(QAction *action, QWidget *parent)
+{
+    auto *menu = qobject_cast<RibbonCatMenuAction *>(action);
+    if (!menu)
+        return nullptr;
+    auto *button = new RibbonCatMenuButton(*menu, parent);
+    button->drawBorder(true);
+    return button;
+}
+
+// Where a widget goes: the area at the right (extensions) or the menu area at the
+// left (popups), at the front of it or at its end, with its alignment there.
+enum class Area { Extensions, Popups };
+
+struct WidgetMaker
+{
+    RibbonWidgetMaker make;
+    Area area;
+    bool atFront;
+    Qt::Alignment alignment;
+};
+
+const WidgetMaker widgetMakers[] = {
+    {makeWidgetFor<RibbonSimpleAction, RibbonStatusBarWidget>, Area::Extensions, true, Qt::AlignVCenter},
+    {makeWidgetFor<RibbonProgressAction, RibbonProgressWidget>, Area::Extensions, true, Qt::AlignVCenter},
+    {makeWidgetFor<RibbonPercAction, RibbonPercWidget>, Area::Extensions, false,
+     Qt::AlignRight | Qt::AlignVCenter},
+    {makeBorderedMenuButton, Area::Popups, true, Qt::AlignRight | Qt::AlignVCenter},
+};
+
 } // namespace
+
+struct RibbonStatusBar::Priv
+{
+    explicit Priv(RibbonMainWindow &window)
+        : mainWindow(&window)
+    {
+    }
+
+    QPointer<RibbonMainWindow> mainWindow;
+    QHBoxLayout *mainLayout = nullptr;
+    QHBoxLayout *extensionsLayout = nullptr;
+    QHBoxLayout *popupLayout = nullptr;
+    QHBoxLayout *loginLayout = nullptr;
+    // A widget leaves its layout by itself when it is deleted.
+    RibbonActionWidgetMap<> widgets;
+};
 
 RibbonStatusBar::RibbonStatusBar(RibbonMainWindow &mainWindow)
     : QWidget(&mainWindow)
-    , m_mainWindow(&mainWindow)
-    , mainLayout(new QHBoxLayout(this))
-    , extensionsLayout(new QHBoxLayout)
-    , popupLayout(new QHBoxLayout)
-    , loginLayout(new QHBoxLayout)
+    , d(new Priv(mainWindow))
 {
-    mainLayout->setContentsMargins(0, 0, 0, 0);
-    extensionsLayout->setContentsMargins(5, 3, 5, 0);
-    extensionsLayout->setSpacing(0);
-    popupLayout->setContentsMargins(5, 0, 5, 3);
-    loginLayout->setContentsMargins(0, 2, 0, 0);
+    d->mainLayout = new QHBoxLayout(this);
+    d->extensionsLayout = new QHBoxLayout;
+    d->popupLayout = new QHBoxLayout;
+    d->loginLayout = new QHBoxLayout;
+    d->mainLayout->setContentsMargins(0, 0, 0, 0);
+    d->extensionsLayout->setContentsMargins(5, 3, 5, 0);
+    d->extensionsLayout->setSpacing(0);
+    d->popupLayout->setContentsMargins(5, 0, 5, 3);
+    d->loginLayout->setContentsMargins(0, 2, 0, 0);
 
-    mainLayout->addLayout(loginLayout);
-    mainLayout->addLayout(popupLayout);
-    mainLayout->addItem(new QSpacerItem(0, 20, QSizePolicy::Expanding, QSizePolicy::Fixed));
-    mainLayout->addLayout(extensionsLayout);
+    d->mainLayout->addLayout(d->loginLayout);
+    d->mainLayout->addLayout(d->popupLayout);
+    d->mainLayout->addItem(new QSpacerItem(0, 20, QSizePolicy::Expanding, QSizePolicy::Fixed));
+    d->mainLayout->addLayout(d->extensionsLayout);
 
     setSizePolicy(QSizePolicy::MinimumExpanding, QSizePolicy::Fixed);
     setFixedHeight(ribbonStyle().statusBar().height());
@@ -60,81 +109,64 @@ RibbonStatusBar::~RibbonStatusBar() = default;
 
 RibbonMainWindow *RibbonStatusBar::mainWindow() const
 {
-    return m_mainWindow.data();
+    return d->mainWindow.data();
 }
 
 void RibbonStatusBar::addLoginStatusIcon(QWidget *icon)
 {
-    if (!icon || loginLayout->indexOf(icon) >= 0)
+    if (!icon || d->loginLayout->indexOf(icon) >= 0)
         return;
-    loginLayout->addWidget(icon);
+    d->loginLayout->addWidget(icon);
 }
 
 void RibbonStatusBar::removeLoginStatusIcon(QWidget *icon)
 {
-    if (!icon || loginLayout->indexOf(icon) < 0)
+    if (!icon || d->loginLayout->indexOf(icon) < 0)
         return;
-    loginLayout->removeWidget(icon);
+    d->loginLayout->removeWidget(icon);
     delete icon;
 }
 
 int RibbonStatusBar::loginLayoutWidth() const
 {
-    return loginLayout->geometry().width();
+    return d->loginLayout->geometry().width();
 }
 
 int RibbonStatusBar::popupLayoutWidth() const
 {
-    return loginLayout->geometry().width() + popupLayout->geometry().width() + 5;
+    return d->loginLayout->geometry().width() + d->popupLayout->geometry().width() + 5;
 }
 
 int RibbonStatusBar::extensionsWidth() const
 {
-    return extensionsLayout->geometry().width();
+    return d->extensionsLayout->geometry().width();
 }
 
 QWidget *RibbonStatusBar::widgetForAction(QAction *action) const
 {
-    return widgets.value(action).data();
+    return d->widgets.widget(action);
 }
 
 void RibbonStatusBar::addActionWidget(QAction *action)
 {
-    QWidget *widget = nullptr;
-    if (auto *simple = qobject_cast<RibbonSimpleAction *>(action)) {
-        widget = new RibbonStatusBarWidget(*simple, this);
-        extensionsLayout->insertWidget(0, widget, 0, Qt::AlignVCenter);
-    } else if (auto *progress = qobject_cast<RibbonProgressAction *>(action)) {
-        widget = new RibbonProgressWidget(*progress, this);
-        extensionsLayout->insertWidget(0, widget, 0, Qt::AlignVCenter);
-    } else if (auto *percentage = qobject_cast<RibbonPercAction *>(action)) {
-        widget = new RibbonPercWidget(*percentage, this);
-        extensionsLayout->addWidget(widget, 0, Qt::AlignRight | Qt::AlignVCenter);
-    } else if (auto *menu = qobject_cast<RibbonCatMenuAction *>(action)) {
-        auto *button = new RibbonCatMenuButton(*menu, this);
-        button->drawBorder(true);
-        popupLayout->insertWidget(0, button, 0, Qt::AlignRight | Qt::AlignVCenter);
-        widget = button;
-    }
-    if (!widget)
+    const auto made = makeWidget(widgetMakers, action, this);
+    if (!made.widget)
         return;
+    const WidgetMaker &row = *made.row;
+    QHBoxLayout *area = row.area == Area::Extensions ? d->extensionsLayout : d->popupLayout;
+    area->insertWidget(row.atFront ? 0 : -1, made.widget, 0, row.alignment);
     // Shown now rather than by the layout's queued call, so that it takes its place
     // in the layout below.
-    widget->show();
-    widgets.insert(action, widget);
+    made.widget->show();
+    d->widgets.insert(action, made.widget);
     layoutNow();
     emit statusBarChanged();
 }
 
 bool RibbonStatusBar::removeActionWidget(QAction *action)
 {
-    const auto it = widgets.find(action);
-    if (it == widgets.end())
+    if (!d->widgets.drop(action))
         return false;
-    QWidget *widget = it.value().data();
-    widgets.erase(it);
-    // The widget goes with its layout item; one deleted elsewhere has nothing left.
-    delete widget;
     layoutNow();
     emit statusBarChanged();
     return true;
@@ -144,7 +176,7 @@ void RibbonStatusBar::layoutNow()
 {
     // Lay out at once rather than at the next layout request, so that the widths the
     // bar reports are current when statusBarChanged() goes out.
-    mainLayout->activate();
+    d->mainLayout->activate();
 }
 
 void RibbonStatusBar::actionEvent(QActionEvent *event)
@@ -176,8 +208,8 @@ void RibbonStatusBar::changeEvent(QEvent *event)
 void RibbonStatusBar::paintEvent(QPaintEvent *)
 {
     const QPixmap &image = ribbonStyle().statusBar();
-    // Two halves of 34 columns: the active window's, then the inactive one's.
-    const int k = isActiveWindow() ? 0 : 34;
+    namespace StatusBarHalf = RibbonImageRows::StatusBarHalf;
+    const int k = 34 * (isActiveWindow() ? StatusBarHalf::Active : StatusBarHalf::Inactive);
     QPainter painter(this);
     RibbonPaint::drawThreeSlice(painter, rect(), image, QRect(k, 0, 34, image.height()), 10, 10);
 }

@@ -2,14 +2,11 @@
 
 #include "zelribbon_export.h"
 
-#include <QHash>
-#include <QPointer>
 #include <QWidget>
 
 #include <memory>
 
 class QAction;
-class QHBoxLayout;
 
 namespace zel {
 
@@ -59,13 +56,8 @@ private:
     bool removeActionWidget(QAction *action);
     void layoutNow();
 
-    QPointer<RibbonMainWindow> m_mainWindow;
-    QHBoxLayout *mainLayout;
-    QHBoxLayout *extensionsLayout;
-    QHBoxLayout *popupLayout;
-    QHBoxLayout *loginLayout;
-    QHash<QAction *, QPointer<QWidget>> widgets;
-
+    struct Priv;
+    std::unique_ptr<Priv> d;
     Q_DISABLE_COPY(RibbonStatusBar)
 };
 

@@ -1,6 +1,7 @@
 #include "RibbonStatusBarWidget.h"
 
 #include "RibbonApplication.h"
+#include "RibbonImageRows_p.h"
 #include "RibbonPaint_p.h"
 #include "RibbonSimpleAction.h"
 #include "RibbonStyle.h"
@@ -30,7 +31,7 @@ RibbonStatusBarWidget::~RibbonStatusBarWidget() = default;
 
 RibbonSimpleAction *RibbonStatusBarWidget::action() const
 {
-    return m_action.data();
+    return qobject_cast<RibbonSimpleAction *>(m_action);
 }
 
 QSize RibbonStatusBarWidget::sizeHint() const
@@ -40,20 +41,19 @@ QSize RibbonStatusBarWidget::sizeHint() const
 
 void RibbonStatusBarWidget::syncFromAction()
 {
-    if (!m_action)
+    RibbonSimpleAction *action = this->action();
+    if (!action)
         return;
-    m_pressed = m_action->isCheckable() && m_action->isChecked();
-    setToolTip(m_action->toolTip());
-    setEnabled(m_action->isEnabled());
+    m_pressed = action->isCheckable() && action->isChecked();
+    setToolTip(action->toolTip());
+    setEnabled(action->isEnabled());
 }
 
 void RibbonStatusBarWidget::actionEvent(QActionEvent *event)
 {
     QWidget::actionEvent(event);
-    // Only additions and changes are looked at: the action of a removal may be half
-    // destroyed.
     if ((event->type() == QEvent::ActionAdded || event->type() == QEvent::ActionChanged)
-        && event->action() == m_action.data())
+        && event->action() == m_action)
         syncFromAction();
     update();
 }
@@ -66,7 +66,8 @@ bool RibbonStatusBarWidget::isHovered() const
 void RibbonStatusBarWidget::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    const int frame = m_pressed ? 2 : (isHovered() ? 1 : 0);
+    namespace SmallButton = RibbonImageRows::SmallButton;
+    const int frame = m_pressed ? SmallButton::Pressed : isHovered() ? SmallButton::Hover : SmallButton::Outline;
     const QPixmap &sheet = RibbonApplication::theApp().ribbonStyle().normalButtonSmall();
     painter.drawPixmap(QRect(0, 0, 20, 22), sheet,
                        QRect(0, RibbonPaint::SmallRowHeight * frame, 22, 23));

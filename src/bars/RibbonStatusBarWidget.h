@@ -36,7 +36,7 @@ private:
     bool isHovered() const;
     void syncFromAction();
 
-    QPointer<RibbonSimpleAction> m_action;
+    QPointer<QAction> m_action;
     // Last cursor position seen over the widget; none after it left.
     QPoint m_mousePos;
     bool m_mouseInside = false;

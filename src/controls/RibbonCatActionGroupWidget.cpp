@@ -1,16 +1,17 @@
 #include "RibbonCatActionGroupWidget.h"
 
 #include "IRibbonGroupWidget.h"
+#include "RibbonActionWidgetMap_p.h"
 #include "RibbonApplication.h"
 #include "RibbonCatActionGroup.h"
 #include "RibbonCatMenuAction.h"
 #include "RibbonCatMenuButton.h"
+#include "RibbonImageRows_p.h"
 #include "RibbonPaint_p.h"
 #include "RibbonStyle.h"
 
 #include <QActionEvent>
 #include <QCursor>
-#include <QMap>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
@@ -29,39 +30,27 @@ const QRect kWideMain(0, 0, 20, 22);
 const QRect kWideArrow(20, 0, 8, 22);
 const QRect kWideRightEdge(28, 0, 2, 22);
 
-// The hidden button behind a member of a wide strip that opens a popup of its own; it
-// implements IRibbonGroupWidget. Null for members that are plain commands.
-QWidget *makePopupButton(RibbonAction *action, QWidget *parent)
-{
-    if (auto *menu = qobject_cast<RibbonCatMenuAction *>(action))
-        return new RibbonCatMenuButton(*menu, parent);
-    return nullptr;
-}
+// The hidden buttons behind the members of a wide strip that open a popup of their
+// own; each implements IRibbonGroupWidget. Plain commands get none.
+const RibbonWidgetMaker popupButtonMakers[] = {
+    makeWidgetFor<RibbonCatMenuAction, RibbonCatMenuButton>,
+};
 
 } // namespace
 
 struct RibbonCatActionGroupWidget::Priv
 {
-    struct PopupWidget
-    {
-        QPointer<QWidget> widget;
-        IRibbonGroupWidget *groupWidget = nullptr;
-    };
-
-    // Guarded as a QAction: a QPointer of the derived type would downcast the group when
-    // its removal event arrives during its destruction.
-    RibbonCatActionGroup *groupAction = nullptr;
-    QPointer<QAction> alive;
+    QPointer<QAction> group;
     int pressedIndex = -1;
-    QMap<RibbonAction *, PopupWidget> popupWidgets;
+    // By member; the buttons are children of the strip.
+    RibbonActionWidgetMap<> popupWidgets;
 };
 
 RibbonCatActionGroupWidget::RibbonCatActionGroupWidget(RibbonCatActionGroup &group, QWidget *parent)
     : QWidget(parent)
     , d(new Priv)
 {
-    d->groupAction = &group;
-    d->alive = &group;
+    d->group = &group;
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setMouseTracking(true);
     addAction(&group);
@@ -71,7 +60,7 @@ RibbonCatActionGroupWidget::~RibbonCatActionGroupWidget() = default;
 
 RibbonCatActionGroup *RibbonCatActionGroupWidget::group() const
 {
-    return d->alive ? d->groupAction : nullptr;
+    return qobject_cast<RibbonCatActionGroup *>(d->group);
 }
 
 int RibbonCatActionGroupWidget::cellWidth() const
@@ -99,34 +88,37 @@ void RibbonCatActionGroupWidget::syncPopupWidgets()
     const bool wide = group && group->isWide();
 
     // Drop the buttons of members that left the group (or of a strip no longer wide).
-    for (auto it = d->popupWidgets.begin(); it != d->popupWidgets.end();) {
-        if (!wide || !group->actions().contains(it.key())) {
-            delete it->widget.data();
-            it = d->popupWidgets.erase(it);
-        } else {
-            ++it;
+    // Members are compared by address: a key may be that of a member destroyed since.
+    const auto isMember = [group](const QObject *key) {
+        for (const RibbonAction *member : group->actions()) {
+            if (member == key)
+                return true;
         }
+        return false;
+    };
+    for (const QObject *key : d->popupWidgets.keys()) {
+        if (!wide || !isMember(key))
+            d->popupWidgets.drop(key);
     }
     if (!wide)
         return;
     for (RibbonAction *action : group->actions()) {
         if (d->popupWidgets.contains(action))
             continue;
-        QWidget *button = makePopupButton(action, this);
-        IRibbonGroupWidget *groupWidget = IRibbonGroupWidget::groupWidget(button);
-        if (!groupWidget) {
+        QWidget *button = makeWidget(popupButtonMakers, action, this).widget;
+        if (!IRibbonGroupWidget::groupWidget(button)) {
             delete button;
             continue;
         }
         button->hide();
-        d->popupWidgets.insert(action, {button, groupWidget});
+        d->popupWidgets.insert(action, button);
     }
 }
 
 void RibbonCatActionGroupWidget::actionEvent(QActionEvent *event)
 {
     QWidget::actionEvent(event);
-    QAction *group = d->alive;
+    QAction *group = d->group;
     if (group && event->action() == group) {
         switch (event->type()) {
         case QEvent::ActionAdded:
@@ -138,8 +130,7 @@ void RibbonCatActionGroupWidget::actionEvent(QActionEvent *event)
         case QEvent::ActionRemoved:
             // Also reached while the group is being destroyed: forget it without
             // touching it.
-            d->groupAction = nullptr;
-            d->alive = nullptr;
+            d->group = nullptr;
             d->pressedIndex = -1;
             break;
         default:
@@ -164,17 +155,17 @@ void RibbonCatActionGroupWidget::mousePressEvent(QMouseEvent *event)
     if (index >= 0 && group()->actions().at(index)->isEnabled()) {
         d->pressedIndex = index;
         if (group()->isWide()) {
-            const auto it = d->popupWidgets.constFind(group()->actions().at(index));
-            if (it != d->popupWidgets.constEnd() && it->widget) {
+            QWidget *button = d->popupWidgets.widget(group()->actions().at(index));
+            if (IRibbonGroupWidget *groupWidget = IRibbonGroupWidget::groupWidget(button)) {
                 // The hidden button stands on its cell, so that its popup opens below
                 // the cell, and receives the press in its own coordinates.
                 const QRect cell(index * kWideCell, 0, kWideCell, kStripHeight);
-                it->widget->setGeometry(cell);
+                button->setGeometry(cell);
                 QMouseEvent press(event->type(), event->localPos() - cell.topLeft(), event->windowPos(),
                                   event->screenPos(), event->button(), event->buttons(), event->modifiers());
                 // A popup run modally may end with this strip deleted.
                 QPointer<RibbonCatActionGroupWidget> self(this);
-                it->groupWidget->processEvents(&press);
+                groupWidget->processEvents(&press);
                 if (!self)
                     return;
             }
@@ -233,20 +224,21 @@ void RibbonCatActionGroupWidget::paintEvent(QPaintEvent *)
         const QRect main = wide ? kWideMain.translated(cell.topLeft()) : cell;
         const bool hovered = mouseInside && cell.contains(cursor);
 
-        int state = 0;
-        if (!enabled)
-            state = 0;
-        else if (i == d->pressedIndex && !wide)
-            state = 2;
-        else if (action->isChecked())
-            state = hovered ? 4 : 3;
-        else if (hovered)
-            state = 1;
+        // Always drawn: a disabled cell has the normal look.
+        using namespace RibbonImageRows;
+        int state = GroupCell::Normal;
+        if (enabled && i == d->pressedIndex && !wide)
+            state = GroupCell::Pressed;
+        else if (enabled && action->isChecked())
+            state = hovered ? GroupCell::CheckedHover : GroupCell::Checked;
+        else if (enabled && hovered)
+            state = GroupCell::Hover;
 
         const QPixmap &segment = i == 0 ? style.btnGroupFirst()
                                  : i == count - 1 ? style.btnGroupLast()
                                                   : style.btnGroupMidle();
         if (!wide) {
+            // A cell alone is a small tool button, read with the strip's row numbers.
             const QPixmap &image = count == 1 ? style.normalButtonSmall() : segment;
             painter.drawPixmap(cell, image, QRect(0, row * state, kPlainCell, row));
         } else {

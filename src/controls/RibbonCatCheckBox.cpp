@@ -41,13 +41,14 @@ QSize RibbonCatCheckBox::sizeHint() const
 
 void RibbonCatCheckBox::onActionChanged()
 {
-    if (!m_action)
+    auto *action = qobject_cast<RibbonCatCheckBoxAction *>(m_action);
+    if (!action)
         return;
-    if (text() != m_action->textLabel()) {
-        setText(m_action->textLabel());
+    if (text() != action->textLabel()) {
+        setText(action->textLabel());
         updateGeometry();
     }
-    setToolTip(m_action->toolTip());
+    setToolTip(action->toolTip());
 }
 
 } // namespace zel

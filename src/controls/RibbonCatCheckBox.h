@@ -24,7 +24,7 @@ private slots:
     void onActionChanged();
 
 private:
-    QPointer<RibbonCatCheckBoxAction> m_action;
+    QPointer<QAction> m_action;
 };
 
 } // namespace zel

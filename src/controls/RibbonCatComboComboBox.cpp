@@ -45,17 +45,18 @@ void RibbonCatComboComboBox::onItemAdded(const QIcon &icon, const QString &item)
 
 void RibbonCatComboComboBox::onEditableChanged()
 {
-    if (!m_action)
+    auto *action = qobject_cast<RibbonCatComboAction *>(m_action);
+    if (!action)
         return;
     const bool wasEditable = isEditable();
-    setEditable(m_action->isEditable());
+    setEditable(action->isEditable());
     // A box that becomes editable gets a fresh line edit: give it the action's input
     // rules, as a box made editable from the start has them.
     if (isEditable() && !wasEditable) {
-        if (!m_action->comboInputMask().isEmpty())
-            lineEdit()->setInputMask(m_action->comboInputMask());
-        if (m_action->validator())
-            setValidator(m_action->validator());
+        if (!action->comboInputMask().isEmpty())
+            lineEdit()->setInputMask(action->comboInputMask());
+        if (action->validator())
+            setValidator(action->validator());
     }
 }
 
@@ -68,11 +69,12 @@ void RibbonCatComboComboBox::updateActionSelection(const QString &item)
 void RibbonCatComboComboBox::keyPressEvent(QKeyEvent *event)
 {
     QComboBox::keyPressEvent(event);
-    if (!m_action)
+    auto *action = qobject_cast<RibbonCatComboAction *>(m_action);
+    if (!action)
         return;
     const int key = event->key();
-    m_action->emitKeyPressed(key);
-    if (m_action->isSearchable() && (key == Qt::Key_Return || key == Qt::Key_Enter)) {
+    action->emitKeyPressed(key);
+    if (action->isSearchable() && (key == Qt::Key_Return || key == Qt::Key_Enter)) {
         setFocus();
         if (QLineEdit *edit = lineEdit())
             edit->selectAll();
@@ -82,12 +84,12 @@ void RibbonCatComboComboBox::keyPressEvent(QKeyEvent *event)
 void RibbonCatComboComboBox::actionEvent(QActionEvent *event)
 {
     QComboBox::actionEvent(event);
-    // The action may be in its destructor when it is removed: read nothing from it then.
-    if (event->type() == QEvent::ActionRemoved || !m_action || event->action() != m_action)
+    auto *action = qobject_cast<RibbonCatComboAction *>(m_action);
+    if (event->type() == QEvent::ActionRemoved || !action || event->action() != action)
         return;
     if (event->type() == QEvent::ActionAdded || event->type() == QEvent::ActionChanged)
-        updateActionSelection(m_action->selectionText());
-    setEnabled(m_action->isEnabled());
+        updateActionSelection(action->selectionText());
+    setEnabled(action->isEnabled());
 }
 
 } // namespace zel

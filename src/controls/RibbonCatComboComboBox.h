@@ -29,7 +29,7 @@ protected:
     void actionEvent(QActionEvent *event) override;
 
 private:
-    QPointer<RibbonCatComboAction> m_action;
+    QPointer<QAction> m_action;
 };
 
 } // namespace zel

@@ -27,7 +27,7 @@ public:
     QSize sizeHint() const override;
 
 private:
-    QPointer<RibbonCatComboAction> m_action;
+    QPointer<QAction> m_action;
     RibbonCatComboComboBox *m_comboBox;
     QLabel *m_label;
 };

@@ -25,16 +25,16 @@ RibbonCatFontFamilyComboBox::~RibbonCatFontFamilyComboBox() = default;
 void RibbonCatFontFamilyComboBox::actionEvent(QActionEvent *event)
 {
     QFontComboBox::actionEvent(event);
-    // Test the type first: a removed action may be in its destructor.
     if (event->type() != QEvent::ActionAdded && event->type() != QEvent::ActionChanged)
         return;
-    if (!m_action || event->action() != m_action)
+    auto *action = qobject_cast<RibbonCatFontFamilyAction *>(m_action);
+    if (!action || event->action() != action)
         return;
     // Showing the action's font must not send it back: the signals stay blocked until
     // control returns to the event loop.
     blockSignals(true);
-    setEnabled(m_action->isEnabled());
-    setCurrentFont(m_action->fontFamily());
+    setEnabled(action->isEnabled());
+    setCurrentFont(action->fontFamily());
     QMetaObject::invokeMethod(this, "unblockSignals", Qt::QueuedConnection);
 }
 

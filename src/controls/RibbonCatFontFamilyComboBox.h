@@ -26,7 +26,7 @@ private slots:
     void unblockSignals();
 
 private:
-    QPointer<RibbonCatFontFamilyAction> m_action;
+    QPointer<QAction> m_action;
 };
 
 } // namespace zel

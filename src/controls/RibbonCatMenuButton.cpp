@@ -3,6 +3,7 @@
 
 #include "RibbonApplication.h"
 #include "RibbonCatMenuAction.h"
+#include "RibbonImageRows_p.h"
 #include "RibbonPaint_p.h"
 #include "RibbonPlatform.h"
 #include "RibbonScale_p.h"
@@ -29,7 +30,10 @@ const int ArrowWidth = 11;         // width of the arrow part of a one-row butto
 const int LargeCaptionHeight = 39; // verticalMenuButtonCaption rows
 const int LargeArrowHeight = 27;   // verticalMenuButtonMenu rows
 const int LargeCaptionHit = 37;    // presses above this line hit a large button's caption
-const int NoState = -1;
+
+namespace MenuArrow = RibbonImageRows::MenuArrow;
+namespace MenuCaption = RibbonImageRows::MenuCaption;
+using RibbonImageRows::NoRow;
 
 const RibbonStyle &palette()
 {
@@ -81,7 +85,7 @@ RibbonCatMenuButton::~RibbonCatMenuButton() = default;
 
 RibbonCatMenuAction *RibbonCatMenuButton::action() const
 {
-    return m_action;
+    return qobject_cast<RibbonCatMenuAction *>(m_action);
 }
 
 QSize RibbonCatMenuButton::sizeHint() const
@@ -117,8 +121,6 @@ void RibbonCatMenuButton::drawBorder(bool draw)
 void RibbonCatMenuButton::actionEvent(QActionEvent *event)
 {
     QWidget::actionEvent(event);
-    // Test the type first: an action is removed from its widgets while it is destroyed,
-    // when it may no longer be read as a menu action.
     if (event->type() != QEvent::ActionAdded && event->type() != QEvent::ActionChanged)
         return;
     if (!m_action || event->action() != m_action)
@@ -128,16 +130,19 @@ void RibbonCatMenuButton::actionEvent(QActionEvent *event)
 
 void RibbonCatMenuButton::refreshFromAction(QActionEvent *event)
 {
-    if (m_action->menuType() == RibbonCatMenuAction::MenuTypeButton
+    RibbonCatMenuAction *action = this->action();
+    if (!action)
+        return;
+    if (action->menuType() == RibbonCatMenuAction::MenuTypeButton
         && !qobject_cast<RibbonCatMenuButtonBPriv *>(d)) {
         const bool border = d && d->drawBorder;
         delete d;
         d = new RibbonCatMenuButtonBPriv(*this);
         d->drawBorder = border;
     }
-    setEnabled(m_action->isEnabled());
-    const RibbonAction *defaultAction = m_action->defaultAction();
-    setToolTip(defaultAction ? defaultAction->toolTip() : m_action->toolTip());
+    setEnabled(action->isEnabled());
+    const RibbonAction *defaultAction = action->defaultAction();
+    setToolTip(defaultAction ? defaultAction->toolTip() : action->toolTip());
     if (d)
         d->actionEvent(event);
     updateGeometry();
@@ -156,7 +161,7 @@ void RibbonCatMenuButton::changeEvent(QEvent *event)
 {
     QWidget::changeEvent(event);
     // The caption is measured in the widget's font.
-    if (m_action && d && (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)) {
+    if (action() && d && (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)) {
         QActionEvent changed(QEvent::ActionChanged, m_action);
         d->actionEvent(&changed);
         updateGeometry();
@@ -165,7 +170,7 @@ void RibbonCatMenuButton::changeEvent(QEvent *event)
 
 void RibbonCatMenuButton::paintEvent(QPaintEvent *event)
 {
-    if (d && m_action)
+    if (d && action())
         d->paintEvent(event);
 }
 
@@ -505,25 +510,25 @@ void RibbonCatMenuButtonBPriv::splitButtonStates(int &captionState, int &arrowSt
     const bool hoverArrow = hover && !hoverCaption;
     const bool checkMark = action->toBeToggled() && action->drawCheckedMarker();
 
-    captionState = NoState;
+    captionState = NoRow;
     if ((hover || menuPressed) && !defaultAction->isEnabled())
-        captionState = 4;
+        captionState = MenuCaption::Framed;
     else if (captionPressed)
-        captionState = 1;
+        captionState = MenuCaption::Pressed;
     else if (hoverCaption)
-        captionState = checkMark ? 3 : 0;
+        captionState = checkMark ? MenuCaption::CheckedHover : MenuCaption::Hover;
     else if (menuPressed || hover)
-        captionState = checkMark ? 1 : 5;
+        captionState = checkMark ? MenuCaption::Checked : MenuCaption::OtherPartHovered;
     else if (checkMark)
-        captionState = 1;
+        captionState = MenuCaption::Checked;
 
-    arrowState = NoState;
+    arrowState = NoRow;
     if (menuPressed)
-        arrowState = 2;
+        arrowState = MenuArrow::Open;
     else if (hoverArrow)
-        arrowState = 0;
+        arrowState = MenuArrow::Hover;
     else if (captionPressed || hover)
-        arrowState = 4;
+        arrowState = MenuArrow::OtherPartHovered;
 }
 
 void RibbonCatMenuButtonBPriv::paintRow(QPainter &painter)
@@ -541,36 +546,38 @@ void RibbonCatMenuButtonBPriv::paintRow(QPainter &painter)
     // its background must not be cut off.
     const int rowHeight = qMin(scaled(RowHeight), h);
 
-    int captionState = NoState;
-    int arrowState = NoState;
+    int captionState = NoRow;
+    int arrowState = NoRow;
     if (defaultAction) {
         splitButtonStates(captionState, arrowState);
         if (enabled) {
             // Caption: 2-pixel left cap, stretched centre, 1-pixel right cap; the arrow
             // part keeps its width.
-            if (captionState != NoState)
+            if (captionState != NoRow)
                 drawThreeSlice(painter, QRect(0, 0, w - 11, rowHeight), captionImage,
                                QRect(0, RowHeight * captionState, 22, RowHeight), 2, 1);
-            if (arrowState != NoState)
+            if (arrowState != NoRow)
                 painter.drawPixmap(QRect(w - ArrowWidth, 0, ArrowWidth, rowHeight), arrowImage,
                                    QRect(0, RowHeight * arrowState, ArrowWidth, RowHeight));
         }
     } else {
         if (drawBorder) {
-            captionState = 4;
-            arrowState = 3;
+            captionState = MenuCaption::Framed;
+            arrowState = MenuArrow::Framed;
         }
         if (enabled && menuPressed) {
-            captionState = arrowState = popupShown ? 2 : 1;
+            captionState = popupShown ? MenuCaption::Open : MenuCaption::Pressed;
+            arrowState = popupShown ? MenuArrow::Open : MenuArrow::Pressed;
         } else if (hover) {
-            captionState = arrowState = 0;
+            captionState = MenuCaption::Hover;
+            arrowState = MenuArrow::Hover;
         }
         // One outline: the caption image without its right cap meets the arrow image
         // without its left edge.
-        if (captionState != NoState)
+        if (captionState != NoRow)
             drawThreeSlice(painter, QRect(0, 0, w - 12, rowHeight), captionImage,
                            QRect(0, RowHeight * captionState, 21, RowHeight), 2, 0);
-        if (arrowState != NoState)
+        if (arrowState != NoRow)
             drawThreeSlice(painter, QRect(w - 12, 0, 12, rowHeight), arrowImage,
                            QRect(0, RowHeight * arrowState, ArrowWidth, RowHeight), 0, 2);
     }
@@ -611,31 +618,35 @@ void RibbonCatMenuButtonBPriv::paintLarge(QPainter &painter)
     const int captionHeight = scaled(LargeCaptionHeight);
 
     if (defaultAction) {
-        int captionState = NoState;
-        int arrowState = NoState;
+        int captionState = NoRow;
+        int arrowState = NoRow;
         splitButtonStates(captionState, arrowState);
         if (enabled) {
-            if (captionState != NoState)
+            if (captionState != NoRow)
                 drawVerticalRow(painter, captionImage, LargeCaptionHeight * captionState,
                                 LargeCaptionHeight, 0, captionHeight, w);
-            if (arrowState != NoState)
+            if (arrowState != NoRow)
                 drawVerticalRow(painter, arrowImage, LargeArrowHeight * arrowState, LargeArrowHeight,
                                 captionHeight, scaled(LargeArrowHeight), w);
         }
     } else {
-        int state = NoState;
-        if (enabled && menuPressed)
-            state = 2;
-        else if (hover)
-            state = 0;
-        if (state != NoState) {
+        int captionState = NoRow;
+        int arrowState = NoRow;
+        if (enabled && menuPressed) {
+            captionState = MenuCaption::Open;
+            arrowState = MenuArrow::Open;
+        } else if (hover) {
+            captionState = MenuCaption::Hover;
+            arrowState = MenuArrow::Hover;
+        }
+        if (captionState != NoRow) {
             // The two images join into one button: the arrow image's top overlaps
             // the caption's bottom edge.
-            drawVerticalRow(painter, captionImage, LargeCaptionHeight * state, LargeCaptionHeight, 0,
+            drawVerticalRow(painter, captionImage, LargeCaptionHeight * captionState, LargeCaptionHeight, 0,
                             captionHeight, w);
-            drawVerticalRow(painter, arrowImage, LargeArrowHeight * state, 25, scaled(37),
+            drawVerticalRow(painter, arrowImage, LargeArrowHeight * arrowState, 25, scaled(37),
                             scaled(LargeArrowHeight), w);
-            drawVerticalRow(painter, arrowImage, LargeArrowHeight * state + 25, 2, scaled(64), 2, w);
+            drawVerticalRow(painter, arrowImage, LargeArrowHeight * arrowState + 25, 2, scaled(64), 2, w);
         }
     }
 

@@ -49,7 +49,9 @@ private slots:
 private:
     void refreshFromAction(QActionEvent *event);
 
-    QPointer<RibbonCatMenuAction> m_action;
+    // Guarded as a QAction and read through qobject_cast: a QPointer of the menu action's
+    // own class would cast it down while it is being destroyed.
+    QPointer<QAction> m_action;
     RibbonCatMenuButtonPriv *d = nullptr;
 
     Q_DISABLE_COPY(RibbonCatMenuButton)

@@ -2,6 +2,7 @@
 
 #include "RibbonApplication.h"
 #include "RibbonCatSimpleAction.h"
+#include "RibbonImageRows_p.h"
 #include "RibbonPaint_p.h"
 #include "RibbonScale_p.h"
 #include "RibbonStyle.h"
@@ -15,9 +16,6 @@ namespace zel {
 
 namespace {
 
-// Rows of the state sheets; -1 paints no background.
-enum { NoState = -1 };
-
 const int kLargeRow = 66;
 const int kSmallRow = 22;
 const int kLargeIcon = 32;
@@ -28,12 +26,9 @@ const int kLargeTextFlags = Qt::AlignTop | Qt::AlignHCenter | Qt::TextWordWrap;
 
 struct RibbonCatSimpleButton::Priv
 {
-    // Guarded as a QAction: a QPointer of the derived type would downcast the action when
-    // its removal event arrives during its destruction.
-    RibbonCatSimpleAction *action = nullptr;
-    QPointer<QAction> alive;
+    QPointer<QAction> action;
 
-    RibbonCatSimpleAction *liveAction() const { return alive ? action : nullptr; }
+    RibbonCatSimpleAction *liveAction() const { return qobject_cast<RibbonCatSimpleAction *>(action); }
 
     RibbonCatSimpleAction::eSize size = RibbonCatSimpleAction::SizeLarge;
     mutable QSize sizeHint; // invalid until computed
@@ -45,7 +40,6 @@ RibbonCatSimpleButton::RibbonCatSimpleButton(RibbonCatSimpleAction &action, QWid
     , d(new Priv)
 {
     d->action = &action;
-    d->alive = &action;
     d->size = action.size();
     addAction(&action);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
@@ -94,7 +88,7 @@ QSize RibbonCatSimpleButton::sizeHint() const
 void RibbonCatSimpleButton::actionEvent(QActionEvent *event)
 {
     QAbstractButton::actionEvent(event);
-    QAction *own = d->alive;
+    QAction *own = d->action;
     switch (event->type()) {
     case QEvent::ActionAdded:
     case QEvent::ActionChanged:
@@ -111,10 +105,8 @@ void RibbonCatSimpleButton::actionEvent(QActionEvent *event)
         break;
     case QEvent::ActionRemoved:
         // Also reached while the action is being destroyed: compare addresses only.
-        if (own && event->action() == own) {
+        if (own && event->action() == own)
             d->action = nullptr;
-            d->alive = nullptr;
-        }
         break;
     default:
         break;
@@ -153,15 +145,16 @@ void RibbonCatSimpleButton::paintEvent(QPaintEvent *)
     const bool enabled = isEnabled();
     const bool hovered = underMouse();
 
-    int state = NoState;
+    using namespace RibbonImageRows;
+    int state = NoRow;
     if (!enabled)
-        state = isCheckable() && isChecked() ? 4 : NoState;
+        state = isCheckable() && isChecked() ? PaletteItem::Disabled : NoRow;
     else if (isDown())
-        state = 1;
+        state = PaletteItem::Pressed;
     else if (isCheckable() && isChecked())
-        state = hovered ? 3 : 2;
+        state = hovered ? PaletteItem::CheckedHover : PaletteItem::Checked;
     else if (hovered)
-        state = 0;
+        state = PaletteItem::Hover;
 
     const int w = width();
     const int h = height();
@@ -169,7 +162,7 @@ void RibbonCatSimpleButton::paintEvent(QPaintEvent *)
     QPainter painter(this);
 
     if (d->size == RibbonCatSimpleAction::SizeLarge) {
-        if (state != NoState) {
+        if (state != NoRow) {
             d->background.set(rect(), QRect(0, 0, style.paletteItemLarge().width(), kLargeRow), border);
             d->background.draw(painter, style.paletteItemLarge(), state * kLargeRow);
         }
@@ -186,7 +179,7 @@ void RibbonCatSimpleButton::paintEvent(QPaintEvent *)
         return;
     }
 
-    if (state != NoState) {
+    if (state != NoRow) {
         d->background.set(rect(), QRect(0, 0, style.paletteItemSmall().width(), kSmallRow), border);
         d->background.draw(painter, style.paletteItemSmall(), state * kSmallRow);
     }

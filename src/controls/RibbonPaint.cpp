@@ -1,6 +1,7 @@
 #include "RibbonPaint_p.h"
 
 #include "RibbonApplication.h"
+#include "RibbonImageRows_p.h"
 #include "RibbonStyle.h"
 
 #include <QAbstractButton>
@@ -63,21 +64,22 @@ QColor textColor(bool enabled)
 
 int smallButtonRow(const QAbstractButton &button)
 {
+    using namespace RibbonImageRows;
     const bool checked = button.isCheckable() && button.isChecked();
     if (!button.isEnabled())
-        return checked ? 0 : -1;
+        return checked ? SmallButton::Outline : NoRow;
     if (button.isDown())
-        return 2;
+        return SmallButton::Pressed;
     if (checked)
-        return button.underMouse() ? 3 : 4;
-    return button.underMouse() ? 1 : -1;
+        return button.underMouse() ? SmallButton::CheckedHover : SmallButton::Checked;
+    return button.underMouse() ? SmallButton::Hover : NoRow;
 }
 
 void drawSmallButtonBackground(QPainter &painter, const QAbstractButton &button,
                                RibbonSlices &slices)
 {
     const int state = smallButtonRow(button);
-    if (state < 0)
+    if (state == RibbonImageRows::NoRow)
         return;
     const QPixmap &sheet = RibbonApplication::theApp().ribbonStyle().normalButtonSmall();
     slices.set(button.rect(), QRect(0, 0, sheet.width(), SmallRowHeight), QMargins(2, 2, 2, 2));

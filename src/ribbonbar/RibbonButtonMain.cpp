@@ -1,6 +1,7 @@
 #include "RibbonButtonMain.h"
 
 #include "RibbonApplication.h"
+#include "RibbonImageRows_p.h"
 #include "RibbonMenuBar.h"
 #include "RibbonPaint_p.h"
 #include "RibbonStyle.h"
@@ -53,9 +54,10 @@ void RibbonButtonMain::paintEvent(QPaintEvent *)
     const RibbonStyle &style = RibbonApplication::theApp().ribbonStyle();
     QPainter painter(this);
 
-    const int rowY = (underMouse() || isChecked()) ? 0 : 24;
+    namespace FileButton = RibbonImageRows::FileButton;
+    const int row = (underMouse() || isChecked()) ? FileButton::HoverOrChecked : FileButton::Normal;
     RibbonPaint::drawThreeSlice(painter, QRect(0, 0, width(), 24), style.fileBarButton(),
-                                QRect(0, rowY, 57, 24), 5, 5);
+                                QRect(0, row * 24, 57, 24), 5, 5);
 
     painter.setPen(style.fileMenuBarTextColor());
     painter.drawText(rect().adjusted(6, 0, -6, 0),

@@ -1,5 +1,6 @@
 #include "RibbonCategory.h"
 
+#include "RibbonActionWidgetMap_p.h"
 #include "RibbonApplication.h"
 #include "RibbonCatActionGroup.h"
 #include "RibbonCatActionGroupWidget.h"
@@ -15,12 +16,12 @@
 #include "RibbonCatSimpleButton.h"
 #include "RibbonCategoryAction.h"
 #include "RibbonCategoryLayout.h"
+#include "RibbonClassChecks_p.h"
 #include "RibbonPaint_p.h"
 #include "RibbonStyle.h"
 
 #include <QActionEvent>
 #include <QCursor>
-#include <QMap>
 #include <QPainter>
 #include <QPointer>
 
@@ -33,18 +34,7 @@ int dpiRound(double v)
     return int(v * RibbonApplication::theApp().dpiFactor().second + 0.5);
 }
 
-// Makers of the control for a member, tried in order (subclasses before their bases);
-// each returns null for an action it does not handle.
-using ControlMaker = QWidget *(*)(RibbonAction *action, QWidget *parent);
-
-template<typename Action, typename Control>
-QWidget *makeFor(RibbonAction *action, QWidget *parent)
-{
-    auto *typed = qobject_cast<Action *>(action);
-    return typed ? new Control(*typed, parent) : nullptr;
-}
-
-QWidget *makeMenuButton(RibbonAction *action, QWidget *parent)
+QWidget *makeMenuButton(QAction *action, QWidget *parent)
 {
     auto *menu = qobject_cast<RibbonCatMenuAction *>(action);
     if (!menu)
@@ -56,23 +46,15 @@ QWidget *makeMenuButton(RibbonAction *action, QWidget *parent)
     return new RibbonCatMenuButton(*menu, parent);
 }
 
-const ControlMaker controlMakers[] = {
+// The control of a member, by its class; the first maker that accepts it wins.
+const RibbonWidgetMaker controlMakers[] = {
     makeMenuButton,
-    makeFor<RibbonCatSimpleAction, RibbonCatSimpleButton>,
-    makeFor<RibbonCatActionGroup, RibbonCatActionGroupWidget>,
-    makeFor<RibbonCatFontFamilyAction, RibbonCatFontFamilyComboBox>,
-    makeFor<RibbonCatCheckBoxAction, RibbonCatCheckBox>,
-    makeFor<RibbonCatComboAction, RibbonCatComboWidget>,
+    makeWidgetFor<RibbonCatSimpleAction, RibbonCatSimpleButton>,
+    makeWidgetFor<RibbonCatActionGroup, RibbonCatActionGroupWidget>,
+    makeWidgetFor<RibbonCatFontFamilyAction, RibbonCatFontFamilyComboBox>,
+    makeWidgetFor<RibbonCatCheckBoxAction, RibbonCatCheckBox>,
+    makeWidgetFor<RibbonCatComboAction, RibbonCatComboWidget>,
 };
-
-QWidget *makeControl(RibbonAction *action, QWidget *parent)
-{
-    for (ControlMaker maker : controlMakers) {
-        if (QWidget *control = maker(action, parent))
-            return control;
-    }
-    return nullptr;
-}
 
 const int kCapWidth = 3;
 const int kImageWidth = 100;
@@ -83,15 +65,12 @@ const int kBottomHoverOffset = 17;
 
 struct RibbonCategory::Priv
 {
-    // The guard is untyped so that reading it never downcasts an action that is being
-    // destroyed.
-    RibbonCategoryAction *categoryAction = nullptr;
-    QPointer<QObject> alive;
+    QPointer<QAction> categoryAction;
 
-    RibbonCategoryAction *action() const { return alive ? categoryAction : nullptr; }
+    RibbonCategoryAction *action() const { return qobject_cast<RibbonCategoryAction *>(categoryAction); }
 
     RibbonCategoryLayout *layout = nullptr;
-    QMap<RibbonAction *, QPointer<QWidget>> widgets;
+    RibbonActionWidgetMap<> widgets{[this](QWidget *control) { layout->removeWidget(control); }};
     QString caption;
     mutable int captionWidth = -1; // measured on demand; -1 until then
 
@@ -101,17 +80,6 @@ struct RibbonCategory::Priv
     RibbonSlices captionBand;
     RibbonSlices bottomEdge;
     QRect captionRect;
-
-    // The entry of the map whose key is action, compared by address only: the action
-    // may be in the middle of its destruction.
-    QMap<RibbonAction *, QPointer<QWidget>>::iterator find(const QAction *action)
-    {
-        for (auto it = widgets.begin(); it != widgets.end(); ++it) {
-            if (static_cast<QAction *>(it.key()) == action)
-                return it;
-        }
-        return widgets.end();
-    }
 };
 
 RibbonCategory::RibbonCategory(QWidget *parent, RibbonCategoryAction &action)
@@ -119,7 +87,6 @@ RibbonCategory::RibbonCategory(QWidget *parent, RibbonCategoryAction &action)
     , d(new Priv)
 {
     d->categoryAction = &action;
-    d->alive = &action;
     d->caption = action.text();
     setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
     setMouseTracking(true);
@@ -149,18 +116,12 @@ RibbonCategoryAction *RibbonCategory::action() const
 
 RibbonAction *RibbonCategory::action(QWidget *widget) const
 {
-    if (!widget)
-        return nullptr;
-    for (auto it = d->widgets.cbegin(); it != d->widgets.cend(); ++it) {
-        if (it.value() == widget)
-            return it.key();
-    }
-    return nullptr;
+    return qobject_cast<RibbonAction *>(d->widgets.action(widget));
 }
 
 QWidget *RibbonCategory::widget(RibbonAction *action) const
 {
-    return d->widgets.value(action);
+    return d->widgets.widget(action);
 }
 
 int RibbonCategory::actionRow(RibbonAction *action) const
@@ -207,7 +168,7 @@ void RibbonCategory::actionEvent(QActionEvent *event)
         RibbonAction *action = qobject_cast<RibbonAction *>(event->action());
         if (!action || d->widgets.contains(action))
             return;
-        QWidget *control = makeControl(action, this);
+        QWidget *control = makeWidget(controlMakers, action, this).widget;
         if (!control)
             return;
         d->widgets.insert(action, control);
@@ -220,20 +181,12 @@ void RibbonCategory::actionEvent(QActionEvent *event)
         update();
         break;
     }
-    case QEvent::ActionRemoved: {
-        const auto it = d->find(event->action());
-        if (it == d->widgets.end())
+    case QEvent::ActionRemoved:
+        if (!d->widgets.drop(event->action()))
             return;
-        QWidget *control = it.value();
-        d->widgets.erase(it);
-        if (control) {
-            d->layout->removeWidget(control);
-            delete control;
-        }
         updateGeometry();
         update();
         break;
-    }
     default:
         break;
     }
@@ -314,8 +267,8 @@ void RibbonCategory::paintEvent(QPaintEvent *)
     // In-ribbon galleries get a thin frame.
     painter.setPen(QColor(QStringLiteral("#afafaf")));
     painter.setBrush(Qt::NoBrush);
-    for (const QPointer<QWidget> &control : qAsConst(d->widgets)) {
-        if (control && control->inherits("zel::RibbonCatListPreview")) {
+    for (const QWidget *control : d->widgets.widgets()) {
+        if (RibbonClassChecks::isListPreview(control)) {
             const QRect g = control->geometry();
             painter.drawRect(g.x() - 1, g.y() - 1, g.width() + 1, g.height() + 1);
         }

@@ -1,6 +1,7 @@
 #include "RibbonCategoryLayout.h"
 
 #include "RibbonApplication.h"
+#include "RibbonCatComboWidget.h"
 #include "RibbonCategory.h"
 
 #include <QVector>
@@ -124,9 +125,8 @@ QRect RibbonCategoryLayout::itemRect(int index) const
 bool RibbonCategoryLayout::countsAsShort(int index) const
 {
     QLayoutItem *item = m_items.at(index);
-    // A combo widget joins a run of short controls whatever its height. Compared by
-    // class name: the layout needs nothing else from the value controls.
-    if (item->widget() && item->widget()->inherits("zel::RibbonCatComboWidget"))
+    // A combo widget joins a run of short controls whatever its height.
+    if (qobject_cast<RibbonCatComboWidget *>(item->widget()))
         return true;
     return item->sizeHint().height() <= shortThreshold();
 }

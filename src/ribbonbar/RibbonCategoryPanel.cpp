@@ -1,5 +1,6 @@
 #include "RibbonCategoryPanel.h"
 
+#include "RibbonActionWidgetMap_p.h"
 #include "RibbonCategoriesPanelAction.h"
 #include "RibbonCategoryAction.h"
 #include "RibbonCategoryPanelLayout.h"
@@ -7,7 +8,6 @@
 #include "RibbonCategoryWrapper.h"
 
 #include <QActionEvent>
-#include <QMap>
 
 namespace zel {
 
@@ -22,9 +22,9 @@ struct RibbonCategoryPanel::Priv
     RibbonCategoryPanels &panels;
     RibbonCategoriesPanelAction &tab;
     RibbonCategoryPanelLayout *layout = nullptr;
-    // Keyed by plain QAction: a group being destroyed is no longer a RibbonCategoryAction
-    // when its removal arrives, but its wrapper must still go.
-    QMap<QAction *, RibbonCategoryWrapper *> wrappers;
+    // The wrappers stand in the layout's own list, not as items of the box layout.
+    RibbonActionWidgetMap<RibbonCategoryWrapper> wrappers{
+        [this](RibbonCategoryWrapper *wrapper) { layout->removeCategory(wrapper); }};
 };
 
 RibbonCategoryPanel::RibbonCategoryPanel(RibbonCategoryPanels &panels, RibbonCategoriesPanelAction &tab)
@@ -59,7 +59,7 @@ RibbonCategoryPanelLayout *RibbonCategoryPanel::panelLayout() const
 
 RibbonCategoryWrapper *RibbonCategoryPanel::wrapper(RibbonCategoryAction *category) const
 {
-    return d->wrappers.value(category);
+    return d->wrappers.widget(category);
 }
 
 void RibbonCategoryPanel::addCategory(RibbonCategoryAction *category)
@@ -91,11 +91,8 @@ void RibbonCategoryPanel::actionEvent(QActionEvent *event)
         }
         break;
     case QEvent::ActionRemoved:
-        if (RibbonCategoryWrapper *wrapper = d->wrappers.take(action)) {
-            d->layout->removeCategory(wrapper);
-            delete wrapper;
+        if (d->wrappers.drop(action))
             updateGeometry();
-        }
         break;
     default:
         break;

@@ -1,5 +1,6 @@
 #include "RibbonCategoryPanels.h"
 
+#include "RibbonActionWidgetMap_p.h"
 #include "RibbonApplication.h"
 #include "RibbonCategoriesPanelAction.h"
 #include "RibbonCategoryPanel.h"
@@ -11,7 +12,6 @@
 
 #include <QActionEvent>
 #include <QApplication>
-#include <QMap>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -19,20 +19,19 @@ namespace zel {
 
 struct RibbonCategoryPanels::Priv
 {
-    explicit Priv(RibbonMenuBar &b)
+    Priv(RibbonMenuBar &b, QStackedWidget &stack)
         : bar(b)
+        , pages([&stack](RibbonCategoryPanel *page) { stack.removeWidget(page); })
     {
     }
 
     RibbonMenuBar &bar;
-    // Keyed by plain QAction: a tab being destroyed is no longer a
-    // RibbonCategoriesPanelAction when its removal arrives, but its page must still go.
-    QMap<QAction *, RibbonCategoryPanel *> pages;
+    RibbonActionWidgetMap<RibbonCategoryPanel> pages;
 };
 
 RibbonCategoryPanels::RibbonCategoryPanels(RibbonMenuBar &menuBar)
     : QStackedWidget(nullptr)
-    , d(new Priv(menuBar))
+    , d(new Priv(menuBar, *this))
 {
     setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
     setFixedHeight(scaled(92));
@@ -48,18 +47,12 @@ RibbonMenuBar &RibbonCategoryPanels::menuBar() const
 
 RibbonCategoryPanel *RibbonCategoryPanels::panel(RibbonCategoriesPanelAction *tab) const
 {
-    return d->pages.value(tab);
+    return d->pages.widget(tab);
 }
 
 QPointer<RibbonCategoriesPanelAction> RibbonCategoryPanels::action(QWidget *page) const
 {
-    if (!page)
-        return nullptr;
-    for (auto it = d->pages.cbegin(); it != d->pages.cend(); ++it) {
-        if (it.value() == page)
-            return qobject_cast<RibbonCategoriesPanelAction *>(it.key());
-    }
-    return nullptr;
+    return qobject_cast<RibbonCategoriesPanelAction *>(d->pages.action(page));
 }
 
 RibbonMenuBarButton *RibbonCategoryPanels::panelMenuButton(QWidget *page) const
@@ -84,14 +77,11 @@ void RibbonCategoryPanels::actionEvent(QActionEvent *event)
         }
         break;
     case QEvent::ActionRemoved:
-        if (RibbonCategoryPanel *page = d->pages.take(tabAction)) {
-            removeWidget(page);
-            delete page;
-        }
+        d->pages.drop(tabAction);
         break;
     case QEvent::ActionChanged:
         if (tab && tab->isChecked()) {
-            if (RibbonCategoryPanel *page = d->pages.value(tabAction)) {
+            if (RibbonCategoryPanel *page = d->pages.widget(tabAction)) {
                 if (currentWidget() != page)
                     setCurrentWidget(page);
                 // While the ribbon is minimised this opens the popup.

@@ -5,8 +5,8 @@
 #include "RibbonMenuBar.h"
 
 #include <QActionEvent>
-#include <QElapsedTimer>
 #include <QPointer>
+#include <QTimer>
 
 namespace zel {
 
@@ -15,14 +15,16 @@ namespace {
 constexpr int WindowBits = 0x9;
 // A tab clicked within this time after its popup closed stays closed: the click that
 // closed the popup must not open it again.
-constexpr qint64 ReopenGuardMs = 100;
+constexpr int ReopenGuardMs = 100;
 } // namespace
 
 struct RibbonCategoryPanelsProxy::Priv
 {
     QPointer<RibbonCategoryPanels> subject;
     QPointer<QAction> lastHidden;
-    QElapsedTimer stopwatch;
+    // Runs while the tab of the popup just closed may not open it again. A named child,
+    // so that tests can shorten or lengthen it.
+    QTimer *reopenGuard = nullptr;
 };
 
 RibbonCategoryPanelsProxy::RibbonCategoryPanelsProxy(RibbonMenuBar &menuBar)
@@ -33,6 +35,10 @@ RibbonCategoryPanelsProxy::RibbonCategoryPanelsProxy(RibbonMenuBar &menuBar)
     d->subject = new RibbonCategoryPanels(menuBar);
     d->subject->setParent(this);
     d->subject->installEventFilter(this);
+    d->reopenGuard = new QTimer(this);
+    d->reopenGuard->setObjectName(QStringLiteral("reopenGuard"));
+    d->reopenGuard->setSingleShot(true);
+    d->reopenGuard->setInterval(ReopenGuardMs);
 }
 
 RibbonCategoryPanelsProxy::~RibbonCategoryPanelsProxy()
@@ -126,8 +132,7 @@ void RibbonCategoryPanelsProxy::actionEvent(QActionEvent *event)
     QAction *action = event->action();
     const bool changed = event->type() == QEvent::ActionChanged;
 
-    if (changed && isCollapsable() && action == d->lastHidden && d->stopwatch.isValid()
-        && d->stopwatch.elapsed() < ReopenGuardMs) {
+    if (changed && isCollapsable() && action == d->lastHidden && d->reopenGuard->isActive()) {
         action->setChecked(false);
         return;
     }
@@ -142,7 +147,7 @@ void RibbonCategoryPanelsProxy::actionEvent(QActionEvent *event)
         auto *tab = qobject_cast<RibbonCategoriesPanelAction *>(action);
         if (tab && !tab->isChecked()) {
             d->lastHidden = tab;
-            d->stopwatch.start();
+            d->reopenGuard->start();
             d->subject->hide();
         }
     }

@@ -5,6 +5,7 @@
 #include "RibbonCategoryAction.h"
 #include "RibbonCategoryPanel.h"
 #include "RibbonCategoryWrapperPopup.h"
+#include "RibbonImageRows_p.h"
 #include "RibbonPaint_p.h"
 #include "RibbonScale_p.h"
 #include "RibbonStyle.h"
@@ -185,10 +186,13 @@ void RibbonCategoryWrapper::paintEvent(QPaintEvent *)
     QStyleOption option;
     option.initFrom(this);
 
-    const int rowY = d->myChecked ? 170 : (option.state & QStyle::State_MouseOver) ? 85 : 0;
+    namespace FoldedGroup = RibbonImageRows::FoldedGroup;
+    const int row = d->myChecked                               ? FoldedGroup::Open
+                    : (option.state & QStyle::State_MouseOver) ? FoldedGroup::Hover
+                                                               : FoldedGroup::Normal;
     const int h = scaled(85);
     RibbonPaint::drawThreeSlice(painter, QRect(0, 0, width(), h), style.categoryWrapperBack(),
-                                QRect(0, rowY, 52, 85), 3, 3);
+                                QRect(0, row * 85, 52, 85), 3, 3);
 
     painter.drawPixmap(QRect(width() / 2 - 3, height() - 10, 5, 3), style.categoryWrapperIcon(),
                        QRect(0, 0, 5, 3));

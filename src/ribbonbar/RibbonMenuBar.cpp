@@ -1,6 +1,7 @@
 #include "RibbonMenuBar.h"
 
 #include "MenuHLayout.h"
+#include "RibbonActionWidgetMap_p.h"
 #include "RibbonButtonMain.h"
 #include "RibbonButtonNormal.h"
 #include "RibbonCatComboAction.h"
@@ -19,12 +20,46 @@
 #include <QActionGroup>
 #include <QCoreApplication>
 #include <QGridLayout>
-#include <QHash>
 #include <QIcon>
 #include <QPointer>
 #include <QSpacerItem>
 
 namespace zel {
+
+namespace {
+
+// Where a command widget of the tab row goes.
+enum class Place {
+    End,                 // appended to the tab row
+    BeforeCollapseButton // between the spacer and the collapse button
+};
+
+struct CommandMaker
+{
+    RibbonWidgetMaker make;
+    Place place;
+};
+
+QWidget *makeHelpButton(QAction *action, QWidget *parent)
+{
+    if (!action || action != static_cast<RibbonMenuBar *>(parent)->helpAction())
+        return nullptr;
+    auto *button = new RibbonButtonNormal(parent);
+    button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    button->setFixedSize(20, 20);
+    button->addAction(action);
+    return button;
+}
+
+// The widgets of the commands at the right end of the tab row; tabs get their buttons
+// when they enter the row of current tabs (addPanelAction).
+const CommandMaker commandMakers[] = {
+    {makeHelpButton, Place::End},
+    {makeWidgetFor<RibbonCatComboAction, RibbonCatComboComboBox>, Place::BeforeCollapseButton},
+    {makeWidgetFor<RibbonCatMenuAction, RibbonCatMenuButton>, Place::BeforeCollapseButton},
+};
+
+} // namespace
 
 struct RibbonMenuBar::Priv
 {
@@ -41,24 +76,27 @@ struct RibbonMenuBar::Priv
     QActionGroup *group = nullptr;
     RibbonCategoryPanelsProxy *panels = nullptr;
     RibbonButtonMain *mainButton = nullptr;
-    QPointer<RibbonAction> helpAction;
-    QPointer<RibbonAction> findComboAction;
-    QPointer<RibbonAction> findAction;
+    // Actions the bar keeps are guarded as QAction and read through qobject_cast, as
+    // everywhere (RibbonActionWidgetMap_p.h).
+    QPointer<QAction> helpAction;
+    QPointer<QAction> findComboAction;
+    QPointer<QAction> findAction;
     RibbonSimpleAction *collapseAction = nullptr;
     RibbonButtonNormal *collapseButton = nullptr;
     RibbonContextCategoryPanel *contextPanels = nullptr;
-    QPointer<RibbonContextCategoryPanelAction> displayedContext;
+    QPointer<QAction> displayedContext;
     // The displayed set's tabs, kept apart from the set: when the set is destroyed its
     // list is gone, yet tabs it did not own still stand in the row.
-    QList<QPointer<RibbonCategoriesPanelAction>> displayedTabs;
+    QList<QPointer<QAction>> displayedTabs;
     QMetaObject::Connection displayedContextDestroyed;
-    QPointer<RibbonAction> lastClicked;
+    QPointer<QAction> lastClicked;
 
-    // Tab buttons by tab, and the widgets made for the help, find-combo and find
-    // actions. Keyed by plain QAction so that an action being destroyed (no longer of
-    // its ribbon class by then) is still found.
-    QHash<QAction *, QPointer<RibbonMenuBarButton>> tabButtons;
-    QHash<QAction *, QPointer<QWidget>> commandWidgets;
+    // Tab buttons by tab, and the widgets of the help, find-combo and find actions (a
+    // tab is never one of those).
+    RibbonActionWidgetMap<> widgets{[this](QWidget *widget) {
+        tabStrip->removeWidget(widget);
+        tabRow->removeWidget(widget);
+    }};
 };
 
 RibbonMenuBar::RibbonMenuBar(RibbonMainWindow &window)
@@ -142,14 +180,7 @@ RibbonButtonMain *RibbonMenuBar::mainMenuButton() const
 
 RibbonMenuBarButton *RibbonMenuBar::menuBarButton(RibbonCategoriesPanelAction *tab) const
 {
-    if (!tab)
-        return nullptr;
-    for (int i = 0; i < d->tabStrip->count(); ++i) {
-        auto *button = qobject_cast<RibbonMenuBarButton *>(d->tabStrip->itemAt(i)->widget());
-        if (button && !button->actions().isEmpty() && button->actions().first() == tab)
-            return button;
-    }
-    return nullptr;
+    return d->widgets.widgetAs<RibbonMenuBarButton>(tab);
 }
 
 QAction *RibbonMenuBar::collapseRibbonAction() const
@@ -164,12 +195,12 @@ RibbonContextCategoryPanel &RibbonMenuBar::ribbonContextCategoryPanel() const
 
 RibbonContextCategoryPanelAction *RibbonMenuBar::displayedContextPanel() const
 {
-    return d->displayedContext.data();
+    return qobject_cast<RibbonContextCategoryPanelAction *>(d->displayedContext);
 }
 
 void RibbonMenuBar::displayedContextPanelRect(QRect &rect) const
 {
-    RibbonContextCategoryPanelAction *set = d->displayedContext.data();
+    RibbonContextCategoryPanelAction *set = displayedContextPanel();
     if (!set)
         return;
     for (RibbonCategoriesPanelAction *tab : set->panelActions()) {
@@ -185,8 +216,9 @@ void RibbonMenuBar::showContextPanelAction(RibbonContextCategoryPanelAction *set
 {
     if (!set || !d->contextPanels->containsAction(set))
         return;
-    if (d->displayedContext && d->displayedContext != set)
-        hideContextPanelAction(d->displayedContext);
+    RibbonContextCategoryPanelAction *shown = displayedContextPanel();
+    if (shown && shown != set)
+        hideContextPanelAction(shown);
 
     const QFontMetrics fm = fontMetrics();
     const QList<RibbonCategoriesPanelAction *> tabs = set->panelActions();
@@ -219,7 +251,7 @@ void RibbonMenuBar::showContextPanelAction(RibbonContextCategoryPanelAction *set
         d->displayedTabs << tab;
     disconnect(d->displayedContextDestroyed);
     d->displayedContextDestroyed = connect(set, &QObject::destroyed, this, [this] {
-        for (const QPointer<RibbonCategoriesPanelAction> &tab : qAsConst(d->displayedTabs)) {
+        for (const QPointer<QAction> &tab : qAsConst(d->displayedTabs)) {
             if (tab)
                 removeAction(tab);
         }
@@ -255,23 +287,23 @@ void RibbonMenuBar::replaceCommandAction(QAction *oldAction, RibbonAction *newAc
 
 void RibbonMenuBar::setHelpAction(RibbonAction *action)
 {
-    QPointer<RibbonAction> old = d->helpAction;
+    QPointer<QAction> old = d->helpAction;
     d->helpAction = action;
     replaceCommandAction(old.data(), action);
 }
 
 RibbonAction *RibbonMenuBar::helpAction() const
 {
-    return d->helpAction.data();
+    return qobject_cast<RibbonAction *>(d->helpAction);
 }
 
 void RibbonMenuBar::setFindComboAction(RibbonAction *action)
 {
-    QPointer<RibbonAction> old = d->findComboAction;
+    QPointer<QAction> old = d->findComboAction;
     d->findComboAction = action;
     replaceCommandAction(old.data(), action);
     // The find button goes with the combo.
-    if (RibbonAction *find = d->findAction.data()) {
+    if (RibbonAction *find = findAction()) {
         if (action)
             replaceCommandAction(nullptr, find);
         else
@@ -281,12 +313,12 @@ void RibbonMenuBar::setFindComboAction(RibbonAction *action)
 
 RibbonAction *RibbonMenuBar::findComboAction() const
 {
-    return d->findComboAction.data();
+    return qobject_cast<RibbonAction *>(d->findComboAction);
 }
 
 void RibbonMenuBar::setFindAction(RibbonAction *action)
 {
-    QPointer<RibbonAction> old = d->findAction;
+    QPointer<QAction> old = d->findAction;
     d->findAction = action;
     if (old && old != action)
         removeAction(old);
@@ -296,12 +328,12 @@ void RibbonMenuBar::setFindAction(RibbonAction *action)
 
 RibbonAction *RibbonMenuBar::findAction() const
 {
-    return d->findAction.data();
+    return qobject_cast<RibbonAction *>(d->findAction);
 }
 
 RibbonAction *RibbonMenuBar::lastClickedAction() const
 {
-    return d->lastClicked.data();
+    return qobject_cast<RibbonAction *>(d->lastClicked);
 }
 
 void RibbonMenuBar::setLastClickedAction(RibbonAction *action)
@@ -333,45 +365,38 @@ void RibbonMenuBar::actionEvent(QActionEvent *event)
         auto *ribbonAction = qobject_cast<RibbonAction *>(action);
         if (!ribbonAction)
             return;
-        if (ribbonAction == d->helpAction) {
-            auto *button = new RibbonButtonNormal(this);
-            button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-            button->setFixedSize(20, 20);
-            button->addAction(ribbonAction);
-            d->tabRow->addWidget(button);
-            button->show();
-            d->commandWidgets.insert(action, button);
-        } else if (auto *tab = qobject_cast<RibbonCategoriesPanelAction *>(ribbonAction)) {
+        auto *tab = qobject_cast<RibbonCategoriesPanelAction *>(ribbonAction);
+        if (tab && ribbonAction != d->helpAction) {
             d->mainButton->show();
             connect(tab, SIGNAL(changed()), this, SLOT(ribbonActionChanged()));
             if (tab->isEnabled())
                 addPanelAction(tab);
-        } else if (auto *combo = qobject_cast<RibbonCatComboAction *>(ribbonAction)) {
-            auto *widget = new RibbonCatComboComboBox(*combo, this);
-            insertBeforeCollapseButton(widget);
-            d->commandWidgets.insert(action, widget);
-            updateGeometry();
-            update();
-        } else if (auto *menu = qobject_cast<RibbonCatMenuAction *>(ribbonAction)) {
-            auto *widget = new RibbonCatMenuButton(*menu, this);
-            insertBeforeCollapseButton(widget);
-            d->commandWidgets.insert(action, widget);
-            updateGeometry();
-            update();
-        }
-    } else if (event->type() == QEvent::ActionRemoved) {
-        // The widget made for a help, find-combo or find action leaves with it.
-        if (QWidget *widget = d->commandWidgets.take(action).data()) {
-            d->tabRow->removeWidget(widget);
-            delete widget;
-            updateGeometry();
-            update();
             return;
         }
-        disconnect(action, SIGNAL(changed()), this, SLOT(ribbonActionChanged()));
+        const auto made = makeWidget(commandMakers, action, this);
+        if (!made.widget)
+            return;
+        d->widgets.insert(action, made.widget);
+        if (made.row->place == Place::End) {
+            d->tabRow->addWidget(made.widget);
+            made.widget->show();
+        } else {
+            insertBeforeCollapseButton(made.widget);
+        }
+        updateGeometry();
+        update();
+    } else if (event->type() == QEvent::ActionRemoved) {
         // A tab being destroyed has lost its class by now; it is still in the group.
-        if (d->group->actions().contains(action))
+        if (d->group->actions().contains(action)) {
+            disconnect(action, SIGNAL(changed()), this, SLOT(ribbonActionChanged()));
             removeTab(action);
+        } else if (d->widgets.drop(action)) {
+            updateGeometry();
+            update();
+        } else {
+            // A tab out of the row (disabled), or an action that got nothing.
+            disconnect(action, SIGNAL(changed()), this, SLOT(ribbonActionChanged()));
+        }
     }
 }
 
@@ -403,7 +428,7 @@ void RibbonMenuBar::addPanelAction(RibbonCategoriesPanelAction *tab)
     button->addAction(tab);
     d->tabStrip->addWidget(button);
     button->show();
-    d->tabButtons.insert(tab, button);
+    d->widgets.insert(tab, button);
 
     if (checked) {
         // QActionGroup takes a checked newcomer as its current action without
@@ -437,11 +462,9 @@ void RibbonMenuBar::removeTab(QAction *tab)
     d->window.removeAction(tab);
     d->panels->removeAction(tab);
 
-    if (RibbonMenuBarButton *button = d->tabButtons.take(tab).data()) {
-        d->tabStrip->removeWidget(button);
+    if (auto *button = d->widgets.widgetAs<RibbonMenuBarButton>(tab))
         button->removeAction(tab);
-        delete button;
-    }
+    d->widgets.drop(tab);
 
     const QList<QAction *> remaining = d->group->actions();
     if (wasChecked && !remaining.isEmpty())

@@ -3,6 +3,7 @@
 #include "RibbonApplication.h"
 #include "RibbonCategoriesPanelAction.h"
 #include "RibbonContextCategoryPanelAction.h"
+#include "RibbonImageRows_p.h"
 #include "RibbonMenuBar.h"
 #include "RibbonPaint_p.h"
 #include "RibbonStyle.h"
@@ -30,6 +31,8 @@ struct RibbonMenuBarButton::Priv
     }
 
     RibbonMenuBar &bar;
+    // Delays a click of the minimised ribbon until a double click can no longer follow.
+    // A named child, so that tests can reach it; it leaves the children with Priv.
     QTimer timer;
     // Unchecking a button outside a group makes Qt search the parent's whole subtree for
     // sibling buttons, and the bar's subtree holds every control of every tab. The tab
@@ -49,6 +52,8 @@ RibbonMenuBarButton::RibbonMenuBarButton(RibbonMenuBar &menuBar)
     d->ownGroup.setExclusive(false);
     d->ownGroup.addButton(this);
 
+    d->timer.setParent(this);
+    d->timer.setObjectName(QStringLiteral("clickDelay"));
     d->timer.setInterval(200);
     d->timer.setSingleShot(true);
     connect(&d->timer, SIGNAL(timeout()), this, SLOT(onDoubleClickTimeout()));
@@ -178,14 +183,15 @@ void RibbonMenuBarButton::paintEvent(QPaintEvent *)
 
     const bool hover = rect().contains(mapFromGlobal(QCursor::pos()));
     const bool checked = isChecked();
-    int rowY = -1;
+    using namespace RibbonImageRows;
+    int row = NoRow;
     if (checked)
-        rowY = hover ? 96 : 72;
+        row = hover ? TabButton::CurrentHover : TabButton::Current;
     else if (hover)
-        rowY = 48;
-    if (rowY >= 0) {
+        row = TabButton::Hover;
+    if (row != NoRow) {
         RibbonPaint::drawThreeSlice(painter, QRect(0, 0, width(), 24), style.menuBarButton(),
-                                    QRect(0, rowY, 57, 24), 5, 5);
+                                    QRect(0, row * 24, 57, 24), 5, 5);
     }
 
     painter.setPen(checked ? style.highlightedCategoryTextColor() : style.normalCategoryTextColor());

@@ -1,0 +1,54 @@
+#pragma once
+
+// How the container actions (tab, category, button group, menu, contextual set and its
+// registry) let go of a member that is destroyed while it still belongs to them. Not
+// installed.
+//
+// A container holds plain pointers to members it does not own and listens to their
+// QObject::destroyed(). By then a member is no longer of its class: it is compared by
+// address only and never read, and no signal carries the dead pointer.
+
+#include <QList>
+#include <QMetaObject>
+#include <QObject>
+
+#include <utility>
+
+namespace zel {
+namespace RibbonMembers {
+
+// Removes the member at address gone from list. Returns the pointer as it was stored
+// (to remove it from other tables by key; never to be read), null when it was not
+// there.
+template<class T>
+T *forget(QList<T *> &list, const QObject *gone)
+{
+    T *forgotten = nullptr;
+    for (int i = list.size() - 1; i >= 0; --i) {
+        if (static_cast<const QObject *>(list.at(i)) == gone)
+            forgotten = list.takeAt(i);
+    }
+    return forgotten;
+}
+
+// Clears member when it points at address gone; returns whether it did.
+template<class T>
+bool forget(T *&member, const QObject *gone)
+{
+    if (!member || static_cast<const QObject *>(member) != gone)
+        return false;
+    member = nullptr;
+    return true;
+}
+
+// Runs announce (which emits the container's change signals) from the event loop: the
+// dying member, or an owner in the middle of deleting its children, may still be
+// connected to the container's signals.
+template<class Announce>
+void announceLater(QObject *container, Announce &&announce)
+{
+    QMetaObject::invokeMethod(container, std::forward<Announce>(announce), Qt::QueuedConnection);
+}
+
+} // namespace RibbonMembers
+} // namespace zel
