@@ -47,7 +47,7 @@ RibbonWindowDrag::RibbonWindowDrag(QWidget *window, Qt::Edges edges, const QPoin
     , m_anchor(globalPos)
     , m_start(window ? window->geometry() : QRect())
     , m_trigger(trigger)
-    , m_restoreFirst(window && !edges && trigger == PressedButton && window->isMaximized())
+    , m_restoreFirst(window && !edges && trigger == PressOnWindow && window->isMaximized())
 {
     if (!window) {
         m_state = Ended;
@@ -92,8 +92,9 @@ QRect RibbonWindowDrag::resizedGeometry(const QRect &start, Qt::Edges edges, con
 
 void RibbonWindowDrag::takeOff(const QPoint &globalPos)
 {
-    const bool bySystem = m_edges ? RibbonPlatform::startSystemResize(m_window, m_edges)
-                                  : RibbonPlatform::startSystemMove(m_window);
+    const bool bySystem = m_trigger != PressBesideWindow
+                          && (m_edges ? RibbonPlatform::startSystemResize(m_window, m_edges)
+                                      : RibbonPlatform::startSystemMove(m_window));
     if (bySystem) {
         // Without a button there is no release to wait for: the drag is the system's now.
         if (m_trigger == NoButton)

@@ -25,9 +25,14 @@ class RibbonWindowDrag : public QObject
 {
 public:
     enum Trigger {
-        // Begun by a press of the left button, followed until its release. The events
-        // go on to their receivers, so the widget that took the press sees the release.
-        PressedButton,
+        // Begun by a press of the left button on the window, followed until its release.
+        // The events go on to their receivers, so the widget that took the press sees
+        // the release.
+        PressOnWindow,
+        // The same for a press on another window that drags this one (a border strip).
+        // The window system is not asked: it would start from where it last saw the
+        // pointer over the window, not from the press.
+        PressBesideWindow,
         // Begun from a menu or a key: starts at once, takes the mouse and the keyboard
         // and ends at the next click or Return.
         NoButton

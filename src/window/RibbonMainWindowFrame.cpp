@@ -125,7 +125,7 @@ bool RibbonMainWindowFrame::mousePressed(QMouseEvent *event)
     if (event->button() != Qt::LeftButton || m_lastHitTest != RibbonMainWindow::HitCaption)
         return false;
     event->accept();
-    m_drag.reset(new RibbonWindowDrag(m_window, Qt::Edges(), event->globalPos(), RibbonWindowDrag::PressedButton));
+    m_drag.reset(new RibbonWindowDrag(m_window, Qt::Edges(), event->globalPos(), RibbonWindowDrag::PressOnWindow));
     return true;
 }
 

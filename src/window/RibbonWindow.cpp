@@ -329,7 +329,7 @@ sc::result RibbonWindow::Events::Idle::react(const EvtMouseDoubleClick &evt)
 sc::result RibbonWindow::Events::MoveWindow::react(const EvtMousePress &evt)
 {
     drag.reset(new RibbonWindowDrag(outermost_context().events.window, Qt::Edges(),
-                                    evt.event->globalPos(), RibbonWindowDrag::PressedButton));
+                                    evt.event->globalPos(), RibbonWindowDrag::PressOnWindow));
     return discard_event();
 }
 
@@ -358,7 +358,7 @@ sc::result RibbonWindow::Events::ResizeWindow::react(const EvtMousePress &evt)
     if (area == 0)
         return discard_event();
     drag.reset(new RibbonWindowDrag(w, edgesOfArea(area), evt.event->globalPos(),
-                                    RibbonWindowDrag::PressedButton));
+                                    RibbonWindowDrag::PressOnWindow));
     drag->setMinimumSize(QSize(kMinFrameWidth, kMinFrameHeight));
     // A step that would go below the minimum is dropped whole rather than clamped, so
     // the edge stops where the last acceptable step left it.

@@ -172,7 +172,7 @@ void RibbonWindowBorder::BorderItem::mousePressEvent(QMouseEvent *event)
     };
     if (!windowHasFixedSize() && position >= Left && position <= BottomLeft)
         drag.reset(new RibbonWindowDrag(window, edges[position - 1], event->globalPos(),
-                                        RibbonWindowDrag::PressedButton));
+                                        RibbonWindowDrag::PressBesideWindow));
 }
 
 void RibbonWindowBorder::BorderItem::mouseReleaseEvent(QMouseEvent *event)
