@@ -39,6 +39,20 @@ void limitSpan(int *first, int *last, bool firstDragged, int minimum, int maximu
         *last = *first + length - 1;
 }
 
+// The geometry that dragging the edges of start by delta gives, each dragged dimension
+// bounded by the limits with the opposite edge kept in place.
+QRect resizedGeometry(const QRect &start, Qt::Edges edges, const QPoint &delta, const QSize &minimum,
+                      const QSize &maximum)
+{
+    const QRect r = draggedGeometry(start, edges, delta);
+    int left = r.left(), right = r.right(), top = r.top(), bottom = r.bottom();
+    if (edges & (Qt::LeftEdge | Qt::RightEdge))
+        limitSpan(&left, &right, edges.testFlag(Qt::LeftEdge), minimum.width(), maximum.width());
+    if (edges & (Qt::TopEdge | Qt::BottomEdge))
+        limitSpan(&top, &bottom, edges.testFlag(Qt::TopEdge), minimum.height(), maximum.height());
+    return QRect(QPoint(left, top), QPoint(right, bottom));
+}
+
 } // namespace
 
 RibbonWindowDrag::RibbonWindowDrag(QWidget *window, Qt::Edges edges, const QPoint &globalPos, Trigger trigger)
@@ -76,18 +90,6 @@ void RibbonWindowDrag::setLimitRule(LimitRule rule)
 bool RibbonWindowDrag::isActive() const
 {
     return m_state != Ended;
-}
-
-QRect RibbonWindowDrag::resizedGeometry(const QRect &start, Qt::Edges edges, const QPoint &delta,
-                                        const QSize &minimum, const QSize &maximum)
-{
-    QRect r = draggedGeometry(start, edges, delta);
-    int left = r.left(), right = r.right(), top = r.top(), bottom = r.bottom();
-    if (edges & (Qt::LeftEdge | Qt::RightEdge))
-        limitSpan(&left, &right, edges.testFlag(Qt::LeftEdge), minimum.width(), maximum.width());
-    if (edges & (Qt::TopEdge | Qt::BottomEdge))
-        limitSpan(&top, &bottom, edges.testFlag(Qt::TopEdge), minimum.height(), maximum.height());
-    return QRect(QPoint(left, top), QPoint(right, bottom));
 }
 
 void RibbonWindowDrag::takeOff(const QPoint &globalPos)

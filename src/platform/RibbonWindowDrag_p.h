@@ -57,11 +57,6 @@ public:
     // False once the drag has ended.
     bool isActive() const;
 
-    // The geometry that dragging the given edges of start by delta gives, each dragged
-    // dimension bounded by minimum and maximum with the opposite edge kept in place.
-    static QRect resizedGeometry(const QRect &start, Qt::Edges edges, const QPoint &delta,
-                                 const QSize &minimum, const QSize &maximum);
-
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 

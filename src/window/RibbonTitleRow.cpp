@@ -38,24 +38,20 @@ RibbonTitleRow::RibbonTitleRow(RibbonMainWindow *window)
     m_layout->addItem(m_spacer);
 
     // Queued: the window may close or change its state only after the click is over.
-    m_minimizeButton = new RibbonSysButton(window, RibbonSysButton::Minimize);
-    m_minimizeButton->setObjectName(QStringLiteral("minimizeButton"));
-    m_minimizeButton->setToolTip(RibbonMainWindow::tr("Minimize"));
-    QObject::connect(m_minimizeButton, SIGNAL(clicked()), window, SLOT(showMinimized()), Qt::QueuedConnection);
-    m_layout->addWidget(m_minimizeButton);
-
-    m_maximizeButton = new RibbonSysButton(window, RibbonSysButton::MaximizeRestore);
-    m_maximizeButton->setObjectName(QStringLiteral("maximizeButton"));
-    m_maximizeButton->setToolTip(RibbonMainWindow::tr("Maximize"));
-    QObject::connect(m_maximizeButton, SIGNAL(clicked()), window, SLOT(showMaximizedRestored()),
-                     Qt::QueuedConnection);
-    m_layout->addWidget(m_maximizeButton);
-
-    m_closeButton = new RibbonSysButton(window, RibbonSysButton::Close);
-    m_closeButton->setObjectName(QStringLiteral("closeButton"));
-    m_closeButton->setToolTip(RibbonMainWindow::tr("Close"));
-    QObject::connect(m_closeButton, SIGNAL(clicked()), window, SLOT(close()), Qt::QueuedConnection);
-    m_layout->addWidget(m_closeButton);
+    const auto addWindowButton = [this, window](int type, const char *name, const QString &toolTip,
+                                                const char *slot) {
+        auto *button = new RibbonSysButton(window, type);
+        button->setObjectName(QLatin1String(name));
+        button->setToolTip(toolTip);
+        QObject::connect(button, SIGNAL(clicked()), window, slot, Qt::QueuedConnection);
+        m_layout->addWidget(button);
+        return button;
+    };
+    m_minimizeButton = addWindowButton(RibbonSysButton::Minimize, "minimizeButton", RibbonMainWindow::tr("Minimize"),
+                                       SLOT(showMinimized()));
+    m_maximizeButton = addWindowButton(RibbonSysButton::MaximizeRestore, "maximizeButton",
+                                       RibbonMainWindow::tr("Maximize"), SLOT(showMaximizedRestored()));
+    m_closeButton = addWindowButton(RibbonSysButton::Close, "closeButton", RibbonMainWindow::tr("Close"), SLOT(close()));
 }
 
 RibbonTitleRow::~RibbonTitleRow() = default;
