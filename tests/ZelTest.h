@@ -4,8 +4,27 @@
 // RibbonApplication, since every widget of the library reaches its palette through it.
 
 #include "RibbonApplication.h"
+#include "RibbonPlatform.h"
 
 #include <QtTest>
+
+// Plays, while it lives, a window system that takes every move and resize it is asked
+// for and leaves the window where it is (the mouse would move it). Records the requests
+// by their edges, empty for a move.
+struct ZelAcceptingWindowSystem
+{
+    QList<Qt::Edges> requests;
+
+    ZelAcceptingWindowSystem()
+    {
+        zel::RibbonPlatform::setSystemDragHandler([this](QWidget *, Qt::Edges edges) {
+            requests.append(edges);
+            return true;
+        });
+    }
+    ~ZelAcceptingWindowSystem() { zel::RibbonPlatform::setSystemDragHandler({}); }
+    Q_DISABLE_COPY(ZelAcceptingWindowSystem)
+};
 
 #define ZEL_TEST_MAIN(TestObject)                                   \
     int main(int argc, char *argv[])                                \

@@ -46,11 +46,10 @@ const QRect kStartGeometry(100, 100, 300, 200);
 // The system buttons of a window: minimise, maximise, close.
 QRect buttonRect(const QWidget *w, int button) { return QRect(w->width() - 67 + 22 * button, 10, 16, 16); }
 
-QRect maximizedGeometry()
-{
-    const QRect available = RibbonPlatform::availableGeometry();
-    return available.adjusted(-7, -7, 7, RibbonPlatform::isVistaOrLater() ? -1 : 7);
-}
+// The test screen's work area is (0, 0, 800 by 600) (checked in initTestCase). A
+// maximised window lays its 7-pixel frame outside it, except at the bottom, where it
+// stays one pixel inside.
+const QRect kMaximizedGeometry(QPoint(-7, -7), QPoint(806, 598));
 
 const RibbonStyle &style()
 {
@@ -64,6 +63,7 @@ class tst_RibbonWindow : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase();
     void init();
     void cleanup();
 
@@ -73,9 +73,13 @@ private slots:
     void otherButtonsStayIdle();
     void borderResize_data();
     void borderResize();
+    void dragWaitsForTheDragDistance_data();
+    void dragWaitsForTheDragDistance();
+    void lostReleaseEndsTheDrag();
     void resizeStepBelowMinimumIsDropped_data();
     void resizeStepBelowMinimumIsDropped();
     void maximizedWindowNeitherMovesNorResizes();
+    void maximizeToggles();
     void tinyWindowHasNoBorderAreas();
     void maskCutsCornersSymmetrically();
     void styleChangeResetsBackground();
@@ -89,6 +93,12 @@ private:
 
     std::unique_ptr<RibbonWindow> m_window;
 };
+
+void tst_RibbonWindow::initTestCase()
+{
+    QCOMPARE(RibbonPlatform::availableGeometry(), QRect(0, 0, 800, 600));
+    QVERIFY(RibbonPlatform::isVistaOrLater());
+}
 
 void tst_RibbonWindow::init()
 {
@@ -144,7 +154,7 @@ void tst_RibbonWindow::systemButtons()
 
     mouse.release(global(releaseInside ? target : QPoint(150, 120))); // outside: the client area
     QCOMPARE(m_window->isMinimized(), button == 0 && releaseInside);
-    QCOMPARE(m_window->geometry(), button == 1 && releaseInside ? maximizedGeometry() : kStartGeometry);
+    QCOMPARE(m_window->geometry(), button == 1 && releaseInside ? kMaximizedGeometry : kStartGeometry);
     QCOMPARE(m_window->isVisible(), !(button == 2 && releaseInside));
     QVERIFY(!m_window->isMaximized()); // the window state is left alone
 
@@ -216,6 +226,68 @@ void tst_RibbonWindow::borderResize()
     QCOMPARE(m_window->geometry(), expected);
 }
 
+void tst_RibbonWindow::dragWaitsForTheDragDistance_data()
+{
+    QTest::addColumn<QPoint>("pressAt");
+    QTest::addColumn<int>("edges");
+    QTest::addColumn<QRect>("expected");
+    QTest::addColumn<bool>("systemDrags");
+
+    // The last step is (-45, 7) from the press.
+    const QRect moved = kStartGeometry.translated(-45, 7);
+    const QRect resized(55, 100, 345, 200);
+    QTest::newRow("caption, by hand") << QPoint(130, 18) << 0 << moved << false;
+    QTest::newRow("caption, by the window system") << QPoint(130, 18) << 0 << kStartGeometry << true;
+    QTest::newRow("left edge, by hand") << QPoint(3, 100) << int(Qt::LeftEdge) << resized << false;
+    QTest::newRow("left edge, by the window system") << QPoint(3, 100) << int(Qt::LeftEdge) << kStartGeometry << true;
+    QTest::newRow("top-right corner, by the window system")
+        << QPoint(296, 2) << int(Qt::TopEdge | Qt::RightEdge) << kStartGeometry << true;
+    QTest::newRow("bottom-left corner, by the window system")
+        << QPoint(0, 195) << int(Qt::BottomEdge | Qt::LeftEdge) << kStartGeometry << true;
+}
+
+void tst_RibbonWindow::dragWaitsForTheDragDistance()
+{
+    QFETCH(QPoint, pressAt);
+    QFETCH(int, edges);
+    QFETCH(QRect, expected);
+    QFETCH(bool, systemDrags);
+
+    std::unique_ptr<ZelAcceptingWindowSystem> system(systemDrags ? new ZelAcceptingWindowSystem : nullptr);
+    const int distance = QApplication::startDragDistance();
+    Mouse mouse{m_window.get()};
+    const QPoint press = global(pressAt);
+    mouse.press(press);
+    mouse.move(press + QPoint(0, distance - 1));
+    QCOMPARE(m_window->geometry(), kStartGeometry);
+    if (system)
+        QCOMPARE(system->requests.size(), 0);
+    mouse.move(press + QPoint(-45, 7));
+    QCOMPARE(m_window->geometry(), expected);
+    mouse.release(press + QPoint(-45, 7));
+    if (system) {
+        QCOMPARE(system->requests.size(), 1);
+        QCOMPARE(int(system->requests.first()), edges);
+    }
+}
+
+void tst_RibbonWindow::lostReleaseEndsTheDrag()
+{
+    // A window system that took over a drag may keep its release; the first move without
+    // the button ends the gesture.
+    Mouse mouse{m_window.get()};
+    const QPoint press = global(QPoint(130, 18));
+    mouse.press(press);
+    mouse.move(press + QPoint(30, 0));
+    QCOMPARE(m_window->geometry(), kStartGeometry.translated(30, 0));
+    mouse.held = Qt::NoButton;
+    mouse.move(press + QPoint(60, 10));
+    QCOMPARE(m_window->geometry(), kStartGeometry.translated(30, 0));
+    // Idle again, so the minimise button answers a click.
+    mouse.click(global(buttonRect(m_window.get(), 0).center()));
+    QVERIFY(m_window->isMinimized());
+}
+
 void tst_RibbonWindow::resizeStepBelowMinimumIsDropped_data()
 {
     QTest::addColumn<QSize>("minimum");
@@ -264,7 +336,7 @@ void tst_RibbonWindow::maximizedWindowNeitherMovesNorResizes()
 {
     Mouse mouse{m_window.get()};
     mouse.doubleClick(global(m_window->captionRect().center()));
-    const QRect maximized = maximizedGeometry();
+    const QRect maximized = kMaximizedGeometry;
     QCOMPARE(m_window->geometry(), maximized);
 
     // The cursor is left as it is over the frame of a maximised window.
@@ -275,6 +347,14 @@ void tst_RibbonWindow::maximizedWindowNeitherMovesNorResizes()
     mouse.drag(leftEdge, leftEdge + QPoint(40, 0));
     const QPoint caption = global(m_window->captionRect().center());
     mouse.drag(caption, caption + QPoint(40, 40));
+    QCOMPARE(m_window->geometry(), maximized);
+}
+
+void tst_RibbonWindow::maximizeToggles()
+{
+    Mouse mouse{m_window.get()};
+    mouse.doubleClick(global(m_window->captionRect().center()));
+    const QRect maximized = kMaximizedGeometry;
     QCOMPARE(m_window->geometry(), maximized);
 
     // A double-click elsewhere does not restore; on the caption it does, and so does the button.

@@ -6,6 +6,7 @@
 
 #include <QMouseEvent>
 #include <QPointer>
+#include <QTimer>
 
 #include <algorithm>
 #include <memory>
@@ -26,29 +27,48 @@ QList<QWidget *> borderItems()
 }
 
 // The eight item rectangles, in position order from the left side clockwise, around a
-// window geometry with the given contents margin.
-QList<QRect> expectedItems(const QRect &geometry, int margin)
+// window at kGeometry (100, 100, 300 by 200) with a contents margin of 0 or 7. The
+// items lie s pixels deep outside the margin; with no margin the right and bottom ones
+// start one pixel beyond the window.
+QList<QRect> expectedItems(int margin)
 {
     const int s = RibbonPlatform::sizingFrameThickness();
-    const QRect r = geometry.adjusted(margin, margin, 1 - margin, 1 - margin);
+    if (margin == 0) {
+        return {
+            QRect(100 - s, 100, s, 201), QRect(100 - s, 100 - s, s, s), QRect(100, 100 - s, 301, s),
+            QRect(400, 100 - s, s, s),   QRect(400, 100, s, 201),       QRect(400, 300, s, s),
+            QRect(100, 300, 301, s),     QRect(100 - s, 300, s, s),
+        };
+    }
+    Q_ASSERT(margin == 7);
     return {
-        QRect(r.topLeft() - QPoint(s, 0), QSize(s, r.height())),
-        QRect(r.topLeft() - QPoint(s, s), QSize(s, s)),
-        QRect(r.topLeft() - QPoint(0, s), QSize(r.width(), s)),
-        QRect(r.topRight() - QPoint(0, s), QSize(s, s)),
-        QRect(r.topRight(), QSize(s, r.height())),
-        QRect(r.bottomRight(), QSize(s, s)),
-        QRect(r.bottomLeft(), QSize(r.width(), s)),
-        QRect(r.bottomLeft() - QPoint(s, 0), QSize(s, s)),
+        QRect(107 - s, 107, s, 187), QRect(107 - s, 107 - s, s, s), QRect(107, 107 - s, 287, s),
+        QRect(393, 107 - s, s, s),   QRect(393, 107, s, 187),       QRect(393, 293, s, s),
+        QRect(107, 293, 287, s),     QRect(107 - s, 293, s, s),
     };
 }
 
-bool itemsPlacedAround(const QRect &geometry, int margin)
+// The same items after the window moved by offset and grew by growth.
+QList<QRect> shiftedItems(QList<QRect> items, const QPoint &offset, const QSize &growth)
+{
+    const int dw = growth.width(), dh = growth.height();
+    items[0].adjust(0, 0, 0, dh);   // left: taller
+    items[2].adjust(0, 0, dw, 0);   // top: wider
+    items[3].translate(dw, 0);      // top-right
+    items[4].adjust(dw, 0, dw, dh); // right: along, taller
+    items[5].translate(dw, dh);     // bottom-right
+    items[6].adjust(0, dh, dw, dh); // bottom: down, wider
+    items[7].translate(0, dh);      // bottom-left
+    for (QRect &r : items)
+        r.translate(offset);
+    return items;
+}
+
+bool itemsPlacedAt(const QList<QRect> &expected)
 {
     QList<QRect> actual;
     for (const QWidget *widget : borderItems())
         actual.append(widget->geometry());
-    const QList<QRect> expected = expectedItems(geometry, margin);
     return actual.size() == 8
         && std::all_of(expected.cbegin(), expected.cend(),
                        [&actual](const QRect &r) { return actual.contains(r); });
@@ -58,7 +78,7 @@ bool itemsPlacedAround(const QRect &geometry, int margin)
 QWidget *item(int position)
 {
     const QList<QWidget *> items = borderItems();
-    const QRect geometry = expectedItems(kGeometry, 0).at(position);
+    const QRect geometry = expectedItems(0).at(position);
     const auto it = std::find_if(items.cbegin(), items.cend(),
                                  [&geometry](QWidget *w) { return w->geometry() == geometry; });
     return it == items.cend() ? nullptr : *it;
@@ -84,6 +104,31 @@ int alphaAt(QWidget *widget, const QPoint &at)
     return qAlpha(widget->grab().toImage().pixel(at));
 }
 
+// The border's delayed updates still waiting to run.
+QList<QTimer *> pendingUpdates(const QObject *border)
+{
+    QList<QTimer *> pending;
+    if (!border)
+        return pending;
+    for (QTimer *timer : border->findChildren<QTimer *>(QStringLiteral("delayedBorderUpdate"))) {
+        if (timer->isActive())
+            pending.append(timer);
+    }
+    return pending;
+}
+
+// Runs the waiting delayed updates now instead of after their delay; returns how many
+// were waiting.
+int runDelayedUpdates(const QObject *border)
+{
+    const QList<QTimer *> pending = pendingUpdates(border);
+    for (QTimer *timer : pending)
+        timer->setInterval(0);
+    if (!QTest::qWaitFor([border] { return pendingUpdates(border).isEmpty(); }))
+        return -1;
+    return pending.size();
+}
+
 } // namespace
 
 class tst_RibbonWindowBorder : public QObject
@@ -94,16 +139,26 @@ private slots:
     void init();
     void cleanup();
 
+    void placement_data();
     void placement();
     void dragKeepsOppositeEdgeAtMinimum_data();
     void dragKeepsOppositeEdgeAtMinimum();
+    void dragStopsAtMaximum_data();
+    void dragStopsAtMaximum();
+    void dragWaitsForTheDragDistance_data();
+    void dragWaitsForTheDragDistance();
     void fixedSizeWindowDoesNotResize();
-    void visibilityFollowsWindowState();
+    void visibilityFollowsShowAndHide();
+    void minimisingHidesAndRestoringShows();
+    void closedWindowKeepsItemsHidden();
     void maskAndActivation();
     void shadowFadesAwayFromWindow_data();
     void shadowFadesAwayFromWindow();
     void stayOnTopShadowNeedsActiveApplication();
-    void lifetimes();
+    void windowTakesBorderAlong();
+    void borderMayGoFirst();
+    void itemsMayGoFirst();
+    void ribbonWindowTakesBorderAlong();
 
 private:
     void makeWindow(int margin = 0, bool stayOnTop = false, bool fixedSize = false);
@@ -145,21 +200,28 @@ bool tst_RibbonWindowBorder::showWindow(bool activate)
     return QTest::qWaitForWindowActive(m_window.get());
 }
 
+void tst_RibbonWindowBorder::placement_data()
+{
+    QTest::addColumn<int>("margin");
+    QTest::newRow("no margin") << 0;
+    QTest::newRow("margin 7") << 7;
+}
+
 void tst_RibbonWindowBorder::placement()
 {
-    for (int margin : {0, 7}) {
-        makeWindow(margin);
-        QVERIFY(itemsPlacedAround(kGeometry, margin));
-        QVERIFY(showWindow());
-        const QRect moved(150, 80, 300, 200);
-        m_window->move(moved.topLeft());
-        QTRY_COMPARE(m_window->geometry(), moved);
-        QVERIFY(itemsPlacedAround(moved, margin));
-        const QRect resized(150, 80, 240, 310);
-        m_window->resize(resized.size());
-        QTRY_COMPARE(m_window->geometry(), resized);
-        QVERIFY(itemsPlacedAround(resized, margin));
-    }
+    QFETCH(int, margin);
+    makeWindow(margin);
+    const QList<QRect> placed = expectedItems(margin);
+    QVERIFY(itemsPlacedAt(placed));
+    QVERIFY(showWindow());
+    const QRect moved(150, 80, 300, 200);
+    m_window->move(moved.topLeft());
+    QTRY_COMPARE(m_window->geometry(), moved);
+    QVERIFY(itemsPlacedAt(shiftedItems(placed, QPoint(50, -20), QSize(0, 0))));
+    const QRect resized(150, 80, 240, 310);
+    m_window->resize(resized.size());
+    QTRY_COMPARE(m_window->geometry(), resized);
+    QVERIFY(itemsPlacedAt(shiftedItems(placed, QPoint(50, -20), QSize(-60, 110))));
 }
 
 void tst_RibbonWindowBorder::dragKeepsOppositeEdgeAtMinimum_data()
@@ -209,6 +271,80 @@ void tst_RibbonWindowBorder::dragKeepsOppositeEdgeAtMinimum()
     QCOMPARE(m_window->geometry(), released);
 }
 
+void tst_RibbonWindowBorder::dragStopsAtMaximum_data()
+{
+    QTest::addColumn<int>("position");
+    QTest::addColumn<QPoint>("step");
+    QTest::addColumn<QRect>("expected");
+
+    // Maximum 350 by 250 on a window at (100, 100) of 300 by 200: each step asks for 50
+    // more than the maximum, and the edge opposite the dragged one stays.
+    QTest::newRow("left") << 0 << QPoint(-100, 0) << QRect(50, 100, 350, 200);
+    QTest::newRow("top-left") << 1 << QPoint(-100, -100) << QRect(50, 50, 350, 250);
+    QTest::newRow("top") << 2 << QPoint(0, -100) << QRect(100, 50, 300, 250);
+    QTest::newRow("right") << 4 << QPoint(100, 0) << QRect(100, 100, 350, 200);
+    QTest::newRow("bottom-right") << 5 << QPoint(100, 100) << QRect(100, 100, 350, 250);
+    QTest::newRow("bottom-left") << 7 << QPoint(-100, 100) << QRect(50, 100, 350, 250);
+}
+
+void tst_RibbonWindowBorder::dragStopsAtMaximum()
+{
+    QFETCH(int, position);
+    QFETCH(QPoint, step);
+    QFETCH(QRect, expected);
+
+    makeWindow();
+    m_window->setMaximumSize(350, 250);
+    QVERIFY(showWindow());
+    QWidget *edge = item(position);
+    QVERIFY(edge);
+    const QPoint start = edge->mapToGlobal(edge->rect().center());
+    sendMouse(edge, QEvent::MouseButtonPress, start);
+    sendMouse(edge, QEvent::MouseMove, start + step);
+    QTRY_COMPARE(m_window->geometry(), expected);
+    sendMouse(edge, QEvent::MouseButtonRelease, start + step, Qt::NoButton);
+}
+
+void tst_RibbonWindowBorder::dragWaitsForTheDragDistance_data()
+{
+    QTest::addColumn<int>("position");
+    QTest::addColumn<QRect>("expected");
+
+    // A step of (20, 20) on a window at (100, 100) of 300 by 200.
+    QTest::newRow("left") << 0 << QRect(120, 100, 280, 200);
+    QTest::newRow("top-left") << 1 << QRect(120, 120, 280, 180);
+    QTest::newRow("top") << 2 << QRect(100, 120, 300, 180);
+    QTest::newRow("top-right") << 3 << QRect(100, 120, 320, 180);
+    QTest::newRow("right") << 4 << QRect(100, 100, 320, 200);
+    QTest::newRow("bottom-right") << 5 << QRect(100, 100, 320, 220);
+    QTest::newRow("bottom") << 6 << QRect(100, 100, 300, 220);
+    QTest::newRow("bottom-left") << 7 << QRect(120, 100, 280, 220);
+}
+
+void tst_RibbonWindowBorder::dragWaitsForTheDragDistance()
+{
+    QFETCH(int, position);
+    QFETCH(QRect, expected);
+
+    makeWindow();
+    QVERIFY(showWindow());
+    // A window system that would take the drag is not asked: it would start from the
+    // pointer's last place over the window, not from the press on the strip.
+    ZelAcceptingWindowSystem system;
+    QWidget *edge = item(position);
+    QVERIFY(edge);
+    const QPoint start = edge->mapToGlobal(edge->rect().center());
+    const int distance = QApplication::startDragDistance();
+    sendMouse(edge, QEvent::MouseButtonPress, start);
+    sendMouse(edge, QEvent::MouseMove, start + QPoint(distance - 1, 0));
+    QCoreApplication::processEvents();
+    QCOMPARE(m_window->geometry(), kGeometry);
+    sendMouse(edge, QEvent::MouseMove, start + QPoint(20, 20));
+    QTRY_COMPARE(m_window->geometry(), expected);
+    sendMouse(edge, QEvent::MouseButtonRelease, start + QPoint(20, 20), Qt::NoButton);
+    QCOMPARE(system.requests.size(), 0);
+}
+
 void tst_RibbonWindowBorder::fixedSizeWindowDoesNotResize()
 {
     makeWindow(0, false, true);
@@ -223,7 +359,7 @@ void tst_RibbonWindowBorder::fixedSizeWindowDoesNotResize()
     QCOMPARE(m_window->geometry(), kGeometry);
 }
 
-void tst_RibbonWindowBorder::visibilityFollowsWindowState()
+void tst_RibbonWindowBorder::visibilityFollowsShowAndHide()
 {
     makeWindow();
     QVERIFY(showWindow());
@@ -232,26 +368,38 @@ void tst_RibbonWindowBorder::visibilityFollowsWindowState()
     QVERIFY(allVisible(false));
     m_window->show();
     QVERIFY(allVisible(true));
+}
+
+void tst_RibbonWindowBorder::minimisingHidesAndRestoringShows()
+{
+    makeWindow();
+    QVERIFY(showWindow());
     m_window->showMinimized();
     QVERIFY(allVisible(false));
     // Qt sends the restored window a show event, which brings the items back at once;
     // the delayed update after the state change follows and must not hide them again.
     m_window->setWindowState(Qt::WindowNoState);
     QTRY_VERIFY(allVisible(true));
-    QTest::qWait(450);
+    QVERIFY(runDelayedUpdates(m_border) > 0);
     QVERIFY(allVisible(true));
     m_window->showMinimized();
-    QTest::qWait(450);
+    QCOMPARE(runDelayedUpdates(m_border), 0); // minimising hides at once, with no delay
     QVERIFY(allVisible(false));
     m_window->showNormal();
     QTRY_VERIFY(allVisible(true));
+}
 
+void tst_RibbonWindowBorder::closedWindowKeepsItemsHidden()
+{
+    makeWindow();
+    QVERIFY(showWindow());
     // Closed, they stay hidden for good, the delayed updates after activation included.
     QVERIFY(m_window->close());
     QVERIFY(allVisible(false));
     QVERIFY(showWindow());
     QApplication::setActiveWindow(m_window.get());
-    QTest::qWait(500);
+    QTRY_VERIFY(m_window->isActiveWindow());
+    QVERIFY(runDelayedUpdates(m_border) > 0);
     QVERIFY(allVisible(false));
 }
 
@@ -353,7 +501,7 @@ void tst_RibbonWindowBorder::stayOnTopShadowNeedsActiveApplication()
     QCOMPARE(alphaAt(left, QPoint(s - 1, 10)), 0);
 }
 
-void tst_RibbonWindowBorder::lifetimes()
+void tst_RibbonWindowBorder::windowTakesBorderAlong()
 {
     // The window takes its border and the items along; pending delayed updates die with them.
     makeWindow();
@@ -361,19 +509,29 @@ void tst_RibbonWindowBorder::lifetimes()
     QList<QPointer<QWidget>> items;
     for (QWidget *edge : borderItems())
         items.append(edge);
+    QList<QPointer<QTimer>> pending;
+    for (QTimer *timer : pendingUpdates(m_border))
+        pending.append(timer);
+    QVERIFY(!pending.isEmpty());
     m_window.reset();
     QVERIFY(!m_border);
     QVERIFY(std::none_of(items.cbegin(), items.cend(), [](const QPointer<QWidget> &p) { return p; }));
-    QTest::qWait(450);
+    QVERIFY(std::none_of(pending.cbegin(), pending.cend(), [](const QPointer<QTimer> &p) { return p; }));
+}
 
-    // The border may also go first; the window lives on undecorated.
+void tst_RibbonWindowBorder::borderMayGoFirst()
+{
+    // The window lives on undecorated.
     makeWindow();
     QVERIFY(showWindow());
     delete m_border;
     QVERIFY(borderItems().isEmpty());
     m_window->move(10, 10);
     m_window->close();
+}
 
+void tst_RibbonWindowBorder::itemsMayGoFirst()
+{
     // A host tearing down every top-level widget may delete the items before the border.
     makeWindow();
     QVERIFY(showWindow());
@@ -382,9 +540,13 @@ void tst_RibbonWindowBorder::lifetimes()
     m_window->hide();
     m_window->show();
     QApplication::setActiveWindow(m_window.get());
-    QTest::qWait(450);
+    QTRY_VERIFY(m_window->isActiveWindow());
+    QVERIFY(runDelayedUpdates(m_border) > 0);
     QVERIFY(borderItems().isEmpty());
+}
 
+void tst_RibbonWindowBorder::ribbonWindowTakesBorderAlong()
+{
     // A RibbonWindow decorated the same way goes down cleanly with its border.
     auto *ribbonWindow = new RibbonWindow;
     new RibbonWindowBorder(ribbonWindow, true);

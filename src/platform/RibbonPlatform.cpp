@@ -23,6 +23,12 @@ int scaledByScreen(int valueAt96Dpi)
     return int(valueAt96Dpi * dpiY / 96.0 + 0.5);
 }
 
+RibbonPlatform::SystemDragHandler &systemDragHandler()
+{
+    static RibbonPlatform::SystemDragHandler handler;
+    return handler;
+}
+
 } // namespace
 
 bool RibbonPlatform::screenDpi(int *dpiX, int *dpiY)
@@ -114,14 +120,23 @@ void RibbonPlatform::frameCell(const QRect &frame, const QPoint &globalPos, Fram
 
 bool RibbonPlatform::startSystemMove(QWidget *window)
 {
+    if (systemDragHandler())
+        return systemDragHandler()(window, Qt::Edges());
     QWindow *handle = window ? window->windowHandle() : nullptr;
     return handle && handle->startSystemMove();
 }
 
 bool RibbonPlatform::startSystemResize(QWidget *window, Qt::Edges edges)
 {
+    if (systemDragHandler())
+        return systemDragHandler()(window, edges);
     QWindow *handle = window ? window->windowHandle() : nullptr;
     return handle && handle->startSystemResize(edges);
+}
+
+void RibbonPlatform::setSystemDragHandler(const SystemDragHandler &handler)
+{
+    systemDragHandler() = handler;
 }
 
 void RibbonPlatform::bringToFront(QWidget *window)

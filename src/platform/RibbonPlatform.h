@@ -5,6 +5,8 @@
 #include <QRect>
 #include <QString>
 
+#include <functional>
+
 class QStyle;
 class QWidget;
 
@@ -58,6 +60,11 @@ public:
     // then moves or resizes by itself.
     static bool startSystemMove(QWidget *window);
     static bool startSystemResize(QWidget *window, Qt::Edges edges);
+    // Answers the two requests above in place of the window system (edges are empty for
+    // a move), so that tests can play a window system that accepts. An empty function
+    // hands the requests back to the window system.
+    using SystemDragHandler = std::function<bool(QWidget *window, Qt::Edges edges)>;
+    static void setSystemDragHandler(const SystemDragHandler &handler);
 
     // Raises the window above the others and gives it the input focus.
     static void bringToFront(QWidget *window);

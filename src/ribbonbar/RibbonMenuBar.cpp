@@ -212,6 +212,19 @@ void RibbonMenuBar::displayedContextPanelRect(QRect &rect) const
     }
 }
 
+RibbonMenuBar::ContextBand RibbonMenuBar::contextBand() const
+{
+    ContextBand band;
+    if (RibbonContextCategoryPanelAction *set = displayedContextPanel()) {
+        displayedContextPanelRect(band.rect);
+        band.backgroundColor = set->backgroundColor();
+        band.topColor = set->topColor();
+        band.textColor = set->textColor();
+        band.text = set->text();
+    }
+    return band;
+}
+
 void RibbonMenuBar::showContextPanelAction(RibbonContextCategoryPanelAction *set)
 {
     if (!set || !d->contextPanels->containsAction(set))

@@ -2,6 +2,9 @@
 
 #include "zelribbon_export.h"
 
+#include <QColor>
+#include <QRect>
+#include <QString>
 #include <QWidget>
 
 #include <memory>
@@ -52,6 +55,18 @@ public:
     // Unites into rect the global rectangles of the displayed set's tab buttons; leaves
     // rect untouched when no set is displayed.
     void displayedContextPanelRect(QRect &rect) const;
+    // The displayed set's band as a plain value for the title row above the bar to paint:
+    // the global rectangle over the set's tab buttons, the set's colours and caption.
+    // The rectangle is null when no set is displayed.
+    struct ContextBand
+    {
+        QRect rect;
+        QColor backgroundColor;
+        QColor topColor;
+        QColor textColor;
+        QString text;
+    };
+    ContextBand contextBand() const;
 
     void setHelpAction(RibbonAction *action);
     RibbonAction *helpAction() const;

@@ -2,6 +2,7 @@
 
 #include "RibbonApplication.h"
 #include "RibbonStyle.h"
+#include "RibbonWindowImages_p.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -9,18 +10,6 @@
 #include <QStyleOptionButton>
 
 namespace zel {
-
-namespace {
-
-// Frames of the glyph strips (17 pixels wide, one 16-pixel frame per state).
-constexpr int kGlyphWidth = 17;
-constexpr int kGlyphHeight = 16;
-constexpr int kGlyphPressed = 0;
-constexpr int kGlyphHover = 16;
-constexpr int kGlyphActive = 32;
-constexpr int kGlyphInactive = 64;
-
-} // namespace
 
 RibbonSysButton::RibbonSysButton(QWidget *window, int type, QWidget *parent)
     : QPushButton(parent ? parent : window)
@@ -74,18 +63,20 @@ void RibbonSysButton::paintEvent(QPaintEvent *)
     const bool hover = (option.state & QStyle::State_MouseOver) || underMouse();
     const bool pressed = option.state & QStyle::State_Sunken;
 
+    namespace Back = WindowImages::SysButtonBack;
+    namespace Glyph = WindowImages::SysButtonGlyph;
     const RibbonStyle &style = RibbonApplication::theApp().ribbonStyle();
     if (hover && !pressed)
-        painter.drawPixmap(rect(), style.sysBtnBack(), QRect(0, 0, kGlyphWidth, kGlyphHeight));
+        painter.drawPixmap(rect(), style.sysBtnBack(), QRect(0, Back::HoverRow, Back::Width, Back::RowHeight));
     else if (pressed)
-        painter.drawPixmap(rect(), style.sysBtnBack(), QRect(0, 16, kGlyphWidth, kGlyphHeight));
+        painter.drawPixmap(rect(), style.sysBtnBack(), QRect(0, Back::PressedRow, Back::Width, Back::RowHeight));
 
     const bool windowActive = m_window && m_window->isActiveWindow();
-    int y = windowActive ? kGlyphActive : kGlyphInactive;
+    int y = windowActive ? Glyph::ActiveRow : Glyph::InactiveRow;
     if (pressed)
-        y = kGlyphPressed;
+        y = Glyph::PressedRow;
     else if (hover)
-        y = kGlyphHover;
+        y = Glyph::HoverRow;
 
     const QPixmap *glyph = nullptr;
     switch (m_type) {
@@ -102,7 +93,7 @@ void RibbonSysButton::paintEvent(QPaintEvent *)
         break;
     }
     if (glyph)
-        painter.drawPixmap(rect(), *glyph, QRect(0, y, kGlyphWidth, kGlyphHeight));
+        painter.drawPixmap(rect(), *glyph, QRect(0, y, Glyph::Width, Glyph::RowHeight));
 }
 
 } // namespace zel

@@ -3,6 +3,8 @@
 #include "RibbonApplication.h"
 #include "RibbonPlatform.h"
 #include "RibbonStyle.h"
+#include "RibbonWindowDrag_p.h"
+#include "RibbonWindowImages_p.h"
 
 #include <QCursor>
 #include <QIcon>
@@ -18,6 +20,7 @@
 #include <boost/statechart/state_machine.hpp>
 
 #include <algorithm>
+#include <memory>
 
 namespace zel {
 
@@ -42,9 +45,6 @@ const int kBorderAreas[] = {
 // cannot be resized smaller.
 const int kMinFrameWidth = 2 * RibbonWindow::s_BorderSize;
 const int kMinFrameHeight = RibbonWindow::s_TopBorderSize + RibbonWindow::s_BorderSize;
-
-// Offset of the inactive half in the caption and border images.
-const int kInactiveImageOffset = 35;
 
 QRect borderAreaRect(const QRect &g, int area)
 {
@@ -85,6 +85,20 @@ int borderAreaAt(const QRect &geometry, const QPoint &global)
             return area;
     }
     return 0;
+}
+
+Qt::Edges edgesOfArea(int area)
+{
+    Qt::Edges edges;
+    if (area & Qt::AlignLeft)
+        edges |= Qt::LeftEdge;
+    else if (area & Qt::AlignRight)
+        edges |= Qt::RightEdge;
+    if (area & Qt::AlignTop)
+        edges |= Qt::TopEdge;
+    else if (area & Qt::AlignBottom)
+        edges |= Qt::BottomEdge;
+    return edges;
 }
 
 Qt::CursorShape cursorForArea(int area)
@@ -169,6 +183,8 @@ public:
         sc::result react(const EvtMouseDoubleClick &evt);
     };
 
+    // The drag follows the mouse by itself; the two dragging states bound its life, so
+    // leaving them ends it.
     struct MoveWindow : sc::simple_state<MoveWindow, Main>
     {
         using reactions = mpl::list<sc::custom_reaction<EvtMousePress>,
@@ -178,7 +194,7 @@ public:
         sc::result react(const EvtMouseMove &evt);
         sc::result react(const EvtMouseRelease &evt);
 
-        QPoint pressOffset;
+        std::unique_ptr<RibbonWindowDrag> drag;
     };
 
     struct ResizeWindow : sc::simple_state<ResizeWindow, Main>
@@ -191,8 +207,7 @@ public:
         sc::result react(const EvtMouseRelease &evt);
 
         int area = 0;
-        QRect pressGeometry;
-        QPoint pressPos;
+        std::unique_ptr<RibbonWindowDrag> drag;
     };
 
     // A system button acts on release, and only when released over itself.
@@ -313,13 +328,16 @@ sc::result RibbonWindow::Events::Idle::react(const EvtMouseDoubleClick &evt)
 
 sc::result RibbonWindow::Events::MoveWindow::react(const EvtMousePress &evt)
 {
-    pressOffset = evt.event->globalPos() - outermost_context().events.window->geometry().topLeft();
+    drag.reset(new RibbonWindowDrag(outermost_context().events.window, Qt::Edges(),
+                                    evt.event->globalPos(), RibbonWindowDrag::PressOnWindow));
     return discard_event();
 }
 
 sc::result RibbonWindow::Events::MoveWindow::react(const EvtMouseMove &evt)
 {
-    outermost_context().events.window->move(evt.event->globalPos() - pressOffset);
+    // Without the button the release went elsewhere: the gesture is over.
+    if (!(evt.event->buttons() & Qt::LeftButton))
+        return transit<Idle>();
     return discard_event();
 }
 
@@ -335,34 +353,23 @@ sc::result RibbonWindow::Events::ResizeWindow::react(const EvtMousePress &evt)
     if (evt.event->button() != Qt::LeftButton)
         return transit<Idle>();
     RibbonWindow *w = outermost_context().events.window;
-    pressGeometry = w->geometry();
-    pressPos = evt.event->globalPos();
-    area = borderAreaAt(pressGeometry, pressPos);
+    area = borderAreaAt(w->geometry(), evt.event->globalPos());
+    drag.reset();
+    if (area == 0)
+        return discard_event();
+    drag.reset(new RibbonWindowDrag(w, edgesOfArea(area), evt.event->globalPos(),
+                                    RibbonWindowDrag::PressOnWindow));
+    drag->setMinimumSize(QSize(kMinFrameWidth, kMinFrameHeight));
+    // A step that would go below the minimum is dropped whole rather than clamped, so
+    // the edge stops where the last acceptable step left it.
+    drag->setLimitRule(RibbonWindowDrag::DropStep);
     return discard_event();
 }
 
 sc::result RibbonWindow::Events::ResizeWindow::react(const EvtMouseMove &evt)
 {
-    RibbonWindow *w = outermost_context().events.window;
-    QRect r = pressGeometry;
-    const QPoint d = evt.event->globalPos() - pressPos;
-    if (area & Qt::AlignLeft)
-        r.adjust(d.x(), 0, 0, 0);
-    else if (area & Qt::AlignRight)
-        r.adjust(0, 0, d.x(), 0);
-    if (area & Qt::AlignTop)
-        r.adjust(0, d.y(), 0, 0);
-    else if (area & Qt::AlignBottom)
-        r.adjust(0, 0, 0, d.y());
-
-    if (!r.isValid() || r.isEmpty() || r.isNull())
-        return discard_event();
-    // A step that would go below the minimum is dropped whole rather than clamped, so
-    // the edge stops where the last acceptable step left it.
-    if (r.width() < std::max(w->minimumWidth(), kMinFrameWidth)
-        || r.height() < std::max(w->minimumHeight(), kMinFrameHeight))
-        return discard_event();
-    w->setGeometry(r);
+    if (!(evt.event->buttons() & Qt::LeftButton))
+        return transit<Idle>();
     return discard_event();
 }
 
@@ -513,21 +520,25 @@ void RibbonWindow::paintEvent(QPaintEvent *event)
     const int w = width();
     const int h = height();
     const int b = s_BorderSize;
-    const int k = isActiveWindow() ? 0 : kInactiveImageOffset;
+    namespace F = WindowImages::Frame;
+    const int k = isActiveWindow() ? 0 : F::InactiveHalf;
+    const int left = k;
+    const int middle = k + F::MiddleX;
+    const int right = k + F::RightEndX;
 
     QPainter p(this);
     // QPainter skips null pixmaps, so a missing image simply leaves its piece out.
     const QPixmap &caption = style.mainBorderCaption();
-    p.drawPixmap(QRect(0, 0, b, c), caption, QRect(k, 0, 7, 31));
-    p.drawPixmap(QRect(b, 0, w - b, c), caption, QRect(k + 7, 0, 21, 31));
-    p.drawPixmap(QRect(w - b, 0, b, c), caption, QRect(k + 28, 0, 7, 31));
+    p.drawPixmap(QRect(0, 0, b, c), caption, QRect(left, 0, F::EndWidth, F::CaptionHeight));
+    p.drawPixmap(QRect(b, 0, w - b, c), caption, QRect(middle, 0, F::MiddleWidth, F::CaptionHeight));
+    p.drawPixmap(QRect(w - b, 0, b, c), caption, QRect(right, 0, F::EndWidth, F::CaptionHeight));
 
     const QPixmap &border = style.mainBorder();
-    p.drawPixmap(QRect(0, c, b, h - b - c), border, QRect(k, 15, 7, 1));
-    p.drawPixmap(QRect(w - b, c, b, h - b - c), border, QRect(k + 28, 15, 7, 1));
-    p.drawPixmap(QRect(0, h - b, b, b), border, QRect(k, 16, 7, 7));
-    p.drawPixmap(QRect(b, h - b, w - 2 * b, b), border, QRect(k + 7, 16, 21, 7));
-    p.drawPixmap(QRect(w - b, h - b, b, b), border, QRect(k + 28, 16, 7, 7));
+    p.drawPixmap(QRect(0, c, b, h - b - c), border, QRect(left, F::SideRow, F::EndWidth, 1));
+    p.drawPixmap(QRect(w - b, c, b, h - b - c), border, QRect(right, F::SideRow, F::EndWidth, 1));
+    p.drawPixmap(QRect(0, h - b, b, b), border, QRect(left, F::BottomRow, F::EndWidth, F::BottomHeight));
+    p.drawPixmap(QRect(b, h - b, w - 2 * b, b), border, QRect(middle, F::BottomRow, F::MiddleWidth, F::BottomHeight));
+    p.drawPixmap(QRect(w - b, h - b, b, b), border, QRect(right, F::BottomRow, F::EndWidth, F::BottomHeight));
 
     const int lineHeight = std::max(fontMetrics().height(), s_SysIconSize);
     const QIcon icon = windowIcon();
@@ -565,16 +576,20 @@ void RibbonWindow::paintEvent(QPaintEvent *event)
         {sysCloseRect(), machine.state_cast<const Events::SysClose *>() != nullptr,
          style.sysBtnCloseSmall()},
     };
+    namespace Back = WindowImages::SysButtonBack;
+    namespace Glyph = WindowImages::SmallSysButtonGlyph;
+    const auto backRow = [](int y) { return QRect(0, y, Back::Width, Back::RowHeight); };
+    const auto glyphRow = [](int y) { return QRect(0, y, Glyph::Width, Glyph::RowHeight); };
     for (const auto &button : buttons) {
         const bool hovered = button.rect.contains(cursor);
         if (hovered && button.pressed) {
-            p.drawPixmap(button.rect, style.sysBtnBack(), QRect(0, 16, 17, 16));
-            p.drawPixmap(button.rect, button.icon, QRect(0, 0, 13, 12));
+            p.drawPixmap(button.rect, style.sysBtnBack(), backRow(Back::PressedRow));
+            p.drawPixmap(button.rect, button.icon, glyphRow(Glyph::PressedRow));
         } else if (hovered) {
-            p.drawPixmap(button.rect, style.sysBtnBack(), QRect(0, 0, 17, 16));
-            p.drawPixmap(button.rect, button.icon, QRect(0, 12, 13, 12));
+            p.drawPixmap(button.rect, style.sysBtnBack(), backRow(Back::HoverRow));
+            p.drawPixmap(button.rect, button.icon, glyphRow(Glyph::HoverRow));
         } else {
-            p.drawPixmap(button.rect, button.icon, QRect(0, 36, 13, 12));
+            p.drawPixmap(button.rect, button.icon, glyphRow(Glyph::NormalRow));
         }
     }
 }

@@ -2,6 +2,7 @@
 #include "RibbonWindowBorder_p.h"
 
 #include "RibbonPlatform.h"
+#include "RibbonWindowDrag_p.h"
 
 #include <QApplication>
 #include <QMouseEvent>
@@ -9,6 +10,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <iterator>
 
 namespace zel {
 
@@ -19,6 +21,12 @@ const char kItemName[] = "BorderItem";
 // How long the items wait after an activation or state change before they show again:
 // long enough for the window manager to finish raising or restoring the window.
 const int kDelayedUpdateMs = 400;
+// Each waiting update is a timer of this name, a child of the border, so that it dies
+// with the border (and a test can find it and cut the wait short).
+const char kDelayedUpdateName[] = "delayedBorderUpdate";
+
+// The shadow's lines from the window outwards, as alpha of a mid grey.
+const int kShadowAlphas[] = {128, 100, 70, 40, 20, 10, 3};
 
 // The items are top-level windows, so something outside the border (a host that deletes
 // every top-level widget, say) may destroy one first. The deleter remembers whether the
@@ -40,6 +48,17 @@ bool isAlive(const std::shared_ptr<T> &item)
     return deleter && deleter->guard;
 }
 
+// Runs the border's onUpdateBorders() once, after the delay.
+void updateLater(QObject *border)
+{
+    auto *timer = new QTimer(border);
+    timer->setObjectName(QLatin1String(kDelayedUpdateName));
+    timer->setSingleShot(true);
+    QObject::connect(timer, SIGNAL(timeout()), border, SLOT(onUpdateBorders()));
+    QObject::connect(timer, &QTimer::timeout, timer, &QObject::deleteLater);
+    timer->start(kDelayedUpdateMs);
+}
+
 bool isBorderItem(const QWidget *widget)
 {
     return widget && widget->objectName() == QLatin1String(kItemName);
@@ -53,6 +72,7 @@ RibbonWindowBorder::BorderItem::BorderItem(QWidget *w, int pos, bool onTop)
     : QWidget(nullptr, Qt::Tool | Qt::FramelessWindowHint)
     , position(pos)
     , window(w)
+    , pressed(false)
     , closing(false)
     , stayOnTop(onTop)
     , covered(false)
@@ -76,6 +96,8 @@ RibbonWindowBorder::BorderItem::BorderItem(QWidget *w, int pos, bool onTop)
     place();
     syncVisibility();
 }
+
+RibbonWindowBorder::BorderItem::~BorderItem() = default;
 
 bool RibbonWindowBorder::BorderItem::windowHasFixedSize() const
 {
@@ -132,7 +154,7 @@ void RibbonWindowBorder::BorderItem::place()
 
 void RibbonWindowBorder::BorderItem::syncVisibility()
 {
-    if (pressPos.isNull() || !window->isVisible())
+    if (!pressed || !window->isVisible())
         hide();
     if (!closing && window->isVisible() && !(window->windowState() & Qt::WindowMinimized))
         show();
@@ -141,64 +163,23 @@ void RibbonWindowBorder::BorderItem::syncVisibility()
 void RibbonWindowBorder::BorderItem::mousePressEvent(QMouseEvent *event)
 {
     QWidget::mousePressEvent(event);
-    if (event->buttons() & Qt::LeftButton)
-        pressPos = event->globalPos();
-}
-
-void RibbonWindowBorder::BorderItem::mouseMoveEvent(QMouseEvent *event)
-{
-    QWidget::mouseMoveEvent(event);
-    if (!(event->buttons() & Qt::LeftButton) || pressPos.isNull() || windowHasFixedSize())
+    if (!(event->buttons() & Qt::LeftButton))
         return;
-
-    const QPoint global = event->globalPos();
-    const QPoint d = global - pressPos;
-    QRect r = window->geometry();
-    switch (position) {
-    case Left:        r.adjust(d.x(), 0, 0, 0); break;
-    case TopLeft:     r.adjust(d.x(), d.y(), 0, 0); break;
-    case Top:         r.adjust(0, d.y(), 0, 0); break;
-    case TopRight:    r.adjust(0, d.y(), d.x(), 0); break;
-    case Right:       r.adjust(0, 0, d.x(), 0); break;
-    case BottomRight: r.adjust(0, 0, d.x(), d.y()); break;
-    case Bottom:      r.adjust(0, 0, 0, d.y()); break;
-    case BottomLeft:  r.adjust(d.x(), 0, 0, d.y()); break;
-    default: return;
-    }
-
-    // The window grows a too small geometry from its top-left corner. Dragging a left or
-    // top edge therefore shifts the rectangle back by the shortfall first, so that the
-    // opposite edge stays where it is.
-    const QSize minimum = window->minimumSize();
-    if (minimum.height() > r.height() || minimum.width() > r.width()) {
-        if (position == Left || position == TopLeft || position == BottomLeft)
-            r.translate(-std::max(minimum.width() - r.width(), 0), 0);
-        if (position == TopLeft || position == Top || position == TopRight)
-            r.translate(0, -std::max(minimum.height() - r.height(), 0));
-    }
-
-    // Anchor the next step at the edge actually reached, so that the edge follows the
-    // cursor even after the minimum stopped it.
-    pressPos = global;
-    switch (position) {
-    case Left:        pressPos.setX(r.left()); break;
-    case Top:         pressPos.setY(r.top()); break;
-    case Right:       pressPos.setX(r.right()); break;
-    case Bottom:      pressPos.setY(r.bottom()); break;
-    case TopLeft:     pressPos = r.topLeft(); break;
-    case TopRight:    pressPos = r.topRight(); break;
-    case BottomRight: pressPos = r.bottomRight(); break;
-    case BottomLeft:  pressPos = r.bottomLeft(); break;
-    default: break;
-    }
-
-    window->setGeometry(r);
+    pressed = true;
+    static const Qt::Edges edges[] = {
+        Qt::LeftEdge,  Qt::TopEdge | Qt::LeftEdge,     Qt::TopEdge,    Qt::TopEdge | Qt::RightEdge,
+        Qt::RightEdge, Qt::BottomEdge | Qt::RightEdge, Qt::BottomEdge, Qt::BottomEdge | Qt::LeftEdge,
+    };
+    if (!windowHasFixedSize() && position >= Left && position <= BottomLeft)
+        drag.reset(new RibbonWindowDrag(window, edges[position - 1], event->globalPos(),
+                                        RibbonWindowDrag::PressBesideWindow));
 }
 
 void RibbonWindowBorder::BorderItem::mouseReleaseEvent(QMouseEvent *event)
 {
     QWidget::mouseReleaseEvent(event);
-    pressPos = QPoint();
+    drag.reset();
+    pressed = false;
     QApplication::setActiveWindow(window);
     window->setFocus();
 }
@@ -245,12 +226,11 @@ void RibbonWindowBorder::BorderItem::paintEvent(QPaintEvent *event)
     if (stayOnTop && (!QApplication::activeWindow() || window->isMaximized()))
         return;
 
-    static const int alphas[] = {128, 100, 70, 40, 20, 10, 3};
     QPainter p(this);
     const QRect r = rect();
-    for (int i = 0; i < 7; ++i) {
+    for (int i = 0; i < int(std::size(kShadowAlphas)); ++i) {
         QColor colour(0x80, 0x80, 0x80);
-        colour.setAlpha(alphas[i]);
+        colour.setAlpha(kShadowAlphas[i]);
         p.setPen(colour);
         switch (position) {
         case Left:
@@ -387,7 +367,7 @@ bool RibbonWindowBorder::eventFilter(QObject *watched, QEvent *event)
             break;
         case QEvent::ActivationChange:
             if (m_window->isActiveWindow() || isBorderItem(QApplication::activeWindow()))
-                QTimer::singleShot(kDelayedUpdateMs, this, SLOT(onUpdateBorders()));
+                updateLater(this);
             else
                 onUpdateBorders();
             break;
@@ -395,10 +375,10 @@ bool RibbonWindowBorder::eventFilter(QObject *watched, QEvent *event)
             if (m_window->windowState() == Qt::WindowMinimized)
                 onUpdateBorders();
             else
-                QTimer::singleShot(kDelayedUpdateMs, this, SLOT(onUpdateBorders()));
+                updateLater(this);
             break;
         case QEvent::ApplicationActivate:
-            QTimer::singleShot(kDelayedUpdateMs, this, SLOT(onUpdateBorders()));
+            updateLater(this);
             break;
         default:
             break;

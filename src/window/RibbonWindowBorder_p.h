@@ -4,7 +4,11 @@
 
 #include <QWidget>
 
+#include <memory>
+
 namespace zel {
+
+class RibbonWindowDrag;
 
 // One of the eight shadow strips around a window. Other code recognises the items by
 // their object name "BorderItem" (for example to leave them out of window lists).
@@ -24,6 +28,7 @@ public:
     };
 
     BorderItem(QWidget *window, int position, bool stayOnTop);
+    ~BorderItem() override;
 
     // Sizes the item and puts it against its edge or corner of the window.
     void place();
@@ -32,14 +37,15 @@ public:
 
     int position;
     QWidget *window;
-    QPoint pressPos;
+    // Set from the press of the left button to its release; the item stays shown meanwhile.
+    bool pressed;
+    std::unique_ptr<RibbonWindowDrag> drag;
     bool closing;
     bool stayOnTop;
     bool covered;
 
 protected:
     void mousePressEvent(QMouseEvent *event) override;
-    void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
