@@ -18,7 +18,7 @@ namespace zel {
 // directory), named by a hash of the user and the identifier, so that other identifiers
 // and other users never meet them. A process that dies leaves nothing in the way: its
 // lock file names a dead owner and is taken over, its socket refuses connections and is
-// replaced.
+// replaced. Where no such directory can be had, nothing is shared and every start runs.
 //
 // One message per connection, integers little-endian:
 //   4 bytes   "zRI1"
