@@ -298,6 +298,21 @@ class tst_SingletonApplication : public QObject
         return first;
     }
 
+    // A start of id that only calls sendMessage (with a generated text of the given length,
+    // or its command line); its result and the milliseconds it took.
+    QStringList send(const QString &id, int timeout, const QStringList &args, int units = -1) const
+    {
+        QProcessEnvironment env = environment("send", id);
+        env.insert(QLatin1String(kTimeout), QString::number(timeout));
+        if (units >= 0)
+            env.insert(QLatin1String(kUnits), QString::number(units));
+        Child sender(env, args);
+        const QString sent = sender.next(QStringLiteral("SENT "));
+        if (!sender.finishedNormally())
+            return {};
+        return sent.split(QLatin1Char(' '));
+    }
+
     // The sockets in the runtime directory, wherever the library keeps them.
     QStringList sockets() const
     {
@@ -444,16 +459,13 @@ private slots:
         QVERIFY(first);
         QCOMPARE(::kill(first->pid(), SIGSTOP), 0);
 
+        // The sender ends after its own time-out, counting the message as delivered.
         const int timeout = 300;
-        QProcessEnvironment env = environment("send", id);
-        env.insert(QLatin1String(kTimeout), QString::number(timeout));
-        Child sender(env, {QStringLiteral("late.abc")});
-        const QStringList sent = sender.next(QStringLiteral("SENT ")).split(QLatin1Char(' '));
+        const QStringList sent = send(id, timeout, {QStringLiteral("late.abc")});
         QCOMPARE(sent.size(), 2);
-        QCOMPARE(sent.at(0), QLatin1String("1")); // found, so counted as delivered
+        QCOMPARE(sent.at(0), QLatin1String("1"));
         QVERIFY2(sent.at(1).toInt() >= timeout - 20, qPrintable(sent.at(1)));
         QVERIFY2(sent.at(1).toInt() < 4000, qPrintable(sent.at(1))); // not the start-up time-out
-        QVERIFY(sender.finishedNormally());
 
         // Woken up, the receiver still finds the message the sender left.
         QCOMPARE(::kill(first->pid(), SIGCONT), 0);
@@ -521,10 +533,7 @@ private slots:
 
         // The receiver is still at work and answers at once, whatever the others did.
         const int timeout = 3000;
-        QProcessEnvironment env = environment("send", id);
-        env.insert(QLatin1String(kTimeout), QString::number(timeout));
-        Child sender(env, {QStringLiteral("doc.abc")});
-        const QStringList sent = sender.next(QStringLiteral("SENT ")).split(QLatin1Char(' '));
+        const QStringList sent = send(id, timeout, {QStringLiteral("doc.abc")});
         QCOMPARE(sent.value(0), QLatin1String("1"));
         QVERIFY2(sent.value(1).toInt() < timeout, qPrintable(sent.value(1)));
 
@@ -538,9 +547,7 @@ private slots:
         QCOMPARE(big.read(2).size(), 1);
 
         // One code unit more and the library does not even try.
-        env.insert(QLatin1String(kUnits), QString::number(kMaxUnits + 1));
-        Child tooLong(env, {});
-        QCOMPARE(tooLong.next(QStringLiteral("SENT ")).left(1), QLatin1String("0"));
+        QCOMPARE(send(id, timeout, {}, kMaxUnits + 1).value(0), QLatin1String("0"));
 
         QCOMPARE(first->messagesUntil(largest), (QStringList{program() + QStringLiteral(";doc.abc"), largest}));
         QVERIFY(droppedByReceiver(stalled)); // after its deadline
