@@ -337,121 +337,97 @@ private slots:
 
     void cleanup() { m_runtime.reset(); }
 
-    void laterStartHandsOverItsCommandLine_data()
-    {
-        QTest::addColumn<QString>("id");
-        QTest::addColumn<QString>("newWindow");
-        QTest::addColumn<QStringList>("args");
-        QTest::addColumn<QString>("message"); // what follows the program path; null: nothing sent
-
-        QTest::newRow("document") << "editor" << QString() << QStringList{"doc.abc"} << ";doc.abc";
-        QTest::newRow("program path alone") << "editor" << QString() << QStringList() << QStringLiteral("");
-        QTest::newRow("listed suffix runs beside") << "editor" << "txt,abc" << QStringList{"doc.abc"} << QString();
-        QTest::newRow("suffix in another case") << "editor" << "abc" << QStringList{"doc.ABC"} << ";doc.ABC";
-        QTest::newRow("only the first argument counts")
-            << "editor" << "abc" << QStringList{"doc.txt", "doc.abc"} << ";doc.txt;doc.abc";
-        QTest::newRow("any text, any identifier")
-            << QString::fromUtf8("../Édi tor/\xe2\x82\xac") << QString()
-            << QStringList{QString::fromUtf8("Grüße \xf0\x9d\x84\x9e.txt"), "a;b", "", "--flag"}
-            << QString::fromUtf8(";Grüße \xf0\x9d\x84\x9e.txt;a;b;;--flag");
-    }
-
     void laterStartHandsOverItsCommandLine()
     {
-        QFETCH(QString, id);
-        QFETCH(QString, newWindow);
-        QFETCH(QStringList, args);
-        QFETCH(QString, message);
-        const bool handsOver = !message.isNull();
-
+        struct Case {
+            const char *name;
+            QString newWindow;
+            QStringList args;
+            QString message; // what follows the program path; null: nothing sent
+        };
+        const Case cases[] = {
+            {"document", QString(), {"doc.abc"}, ";doc.abc"},
+            {"program path alone", QString(), {}, QStringLiteral("")},
+            {"listed suffix runs beside", "txt,abc", {"doc.abc"}, QString()},
+            {"suffix in another case", "abc", {"doc.ABC"}, ";doc.ABC"},
+            {"only the first argument counts", "abc", {"doc.txt", "doc.abc"}, ";doc.txt;doc.abc"},
+            {"any text", QString(), {QString::fromUtf8("Grüße \xf0\x9d\x84\x9e.txt"), "a;b", "", "--flag"},
+             QString::fromUtf8(";Grüße \xf0\x9d\x84\x9e.txt;a;b;;--flag")},
+        };
+        // Any text names an application.
+        const QString id = QString::fromUtf8("../Édi tor/\xe2\x82\xac");
         auto first = startFirst(id);
         QVERIFY(first);
         QCOMPARE(sockets().size(), 1);
 
-        auto later = startInstance(id, args, newWindow);
-        QCOMPARE(later->next(QStringLiteral("INIT ")), handsOver ? QLatin1String("0 0 1") : QLatin1String("1 1 1"));
-        if (handsOver)
-            QVERIFY(later->finishedNormally());
-        else
-            QVERIFY(later->quit());
-
-        // A start of its own marks the end: nothing else may have arrived before it.
+        QStringList expected;
+        for (const Case &c : cases) {
+            auto later = startInstance(id, c.args, c.newWindow);
+            const bool handsOver = !c.message.isNull();
+            QVERIFY2(later->next(QStringLiteral("INIT ")) == (handsOver ? "0 0 1" : "1 1 1"), c.name);
+            QVERIFY2(handsOver ? later->finishedNormally() : later->quit(), c.name);
+            if (handsOver)
+                expected << program() + c.message;
+        }
+        // A start of its own marks the end: the messages arrived whole, once and in order.
         auto marker = startInstance(id, {QStringLiteral("marker")});
         QCOMPARE(marker->next(QStringLiteral("INIT ")), QLatin1String("0 0 1"));
-        const QString markerMessage = program() + QStringLiteral(";marker");
-        QStringList expected{markerMessage};
-        if (handsOver)
-            expected.prepend(program() + message);
-        QCOMPARE(first->messagesUntil(markerMessage), expected);
+        expected << program() + QStringLiteral(";marker");
+        QCOMPARE(first->messagesUntil(expected.constLast()), expected);
         QVERIFY(first->quit());
         QVERIFY(sockets().isEmpty());
     }
 
-    void endedInstanceLeavesNothingInTheWay_data()
+    void endedInstancesLeaveNothingInTheWay()
     {
-        QTest::addColumn<bool>("killed");
-        QTest::addColumn<bool>("duringStartup");
-        QTest::newRow("quits") << false << false;
-        QTest::newRow("killed") << true << false;
-        QTest::newRow("killed between initInstance and endInit") << true << true;
-    }
-
-    void endedInstanceLeavesNothingInTheWay()
-    {
-        QFETCH(bool, killed);
-        QFETCH(bool, duringStartup);
         const QString id = QStringLiteral("editor");
-
-        auto first = startInstance(id, {}, QString(), duringStartup);
-        QCOMPARE(first->next(QStringLiteral("INIT ")), QLatin1String("1 0 0"));
-        if (!duringStartup)
-            QVERIFY(!first->next(QStringLiteral("READY")).isNull());
-        if (killed) {
-            first->process().kill();
-            QVERIFY(first->process().waitForFinished(kPatienceMs));
-            QCOMPARE(sockets().size(), 1); // the dead receiver's socket is still there
-        } else {
-            QVERIFY(first->quit());
-            QVERIFY(sockets().isEmpty());
-        }
-
-        auto next = startInstance(id);
-        QCOMPARE(next->next(QStringLiteral("INIT ")), QLatin1String("1 0 0"));
-        QVERIFY(!next->next(QStringLiteral("READY")).isNull());
-        auto later = startInstance(id, {QStringLiteral("doc.abc")});
-        QCOMPARE(later->next(QStringLiteral("INIT ")), QLatin1String("0 0 1"));
-        QCOMPARE(next->messagesUntil(program() + QStringLiteral(";doc.abc")).size(), 1);
-        QVERIFY(next->quit());
-    }
-
-    void laterStartWaitsForEndInit_data()
-    {
-        QTest::addColumn<QString>("newWindow");
-        QTest::addColumn<QString>("init");
-        QTest::newRow("hands over") << QString() << "0 0 1";
-        QTest::newRow("listed suffix") << "abc" << "1 1 1";
-    }
-
-    void laterStartWaitsForEndInit()
-    {
-        QFETCH(QString, newWindow);
-        QFETCH(QString, init);
-        const QString id = QStringLiteral("editor");
-
+        // Killed between initInstance() and endInit(): its lock and socket stay behind.
         auto first = startInstance(id, {}, QString(), true);
         QCOMPARE(first->next(QStringLiteral("INIT ")), QLatin1String("1 0 0"));
-        auto later = startInstance(id, {QStringLiteral("doc.abc")}, newWindow);
-        QVERIFY(!later->next(QStringLiteral("STARTING")).isNull());
-        // Its decision waits for the first to finish initialising: a start that goes its
+        first->process().kill();
+        QVERIFY(first->process().waitForFinished(kPatienceMs));
+        QCOMPARE(sockets().size(), 1);
+
+        // Killed while running: its socket stays behind.
+        auto second = startFirst(id);
+        QVERIFY(second);
+        second->process().kill();
+        QVERIFY(second->process().waitForFinished(kPatienceMs));
+        QCOMPARE(sockets().size(), 1);
+
+        // Each time the next start runs as the first instance, and receives.
+        auto third = startFirst(id);
+        QVERIFY(third);
+        auto later = startInstance(id, {QStringLiteral("doc.abc")});
+        QCOMPARE(later->next(QStringLiteral("INIT ")), QLatin1String("0 0 1"));
+        QCOMPARE(third->messagesUntil(program() + QStringLiteral(";doc.abc")).size(), 1);
+
+        // Ended cleanly, it leaves nothing at all.
+        QVERIFY(third->quit());
+        QVERIFY(sockets().isEmpty());
+        QVERIFY(startFirst(id));
+    }
+
+    void laterStartsWaitForEndInit()
+    {
+        const QString id = QStringLiteral("editor");
+        auto first = startInstance(id, {}, QString(), true);
+        QCOMPARE(first->next(QStringLiteral("INIT ")), QLatin1String("1 0 0"));
+        auto handing = startInstance(id, {QStringLiteral("doc.abc")});
+        auto beside = startInstance(id, {QStringLiteral("doc.abc")}, QStringLiteral("abc"));
+        QVERIFY(!handing->next(QStringLiteral("STARTING")).isNull());
+        QVERIFY(!beside->next(QStringLiteral("STARTING")).isNull());
+        // Their decisions wait for the first to finish initialising; a start that went its
         // own way would decide at once.
-        QVERIFY(later->next(QStringLiteral("INIT "), 500).isNull());
+        QVERIFY(beside->next(QStringLiteral("INIT "), 500).isNull());
+        QVERIFY(handing->next(QStringLiteral("INIT "), 0).isNull());
+
         first->process().write("go\n");
         QVERIFY(!first->next(QStringLiteral("READY")).isNull());
-        QCOMPARE(later->next(QStringLiteral("INIT ")), init);
-        if (newWindow.isEmpty())
-            QCOMPARE(first->messagesUntil(program() + QStringLiteral(";doc.abc")).size(), 1);
-        else
-            QVERIFY(later->quit());
+        QCOMPARE(beside->next(QStringLiteral("INIT ")), QLatin1String("1 1 1"));
+        QCOMPARE(handing->next(QStringLiteral("INIT ")), QLatin1String("0 0 1"));
+        QCOMPARE(first->messagesUntil(program() + QStringLiteral(";doc.abc")).size(), 1);
+        QVERIFY(beside->quit());
         QVERIFY(first->quit());
     }
 
@@ -557,22 +533,8 @@ private slots:
         QVERIFY(first->quit());
     }
 
-    void onlyTheUserGetsIn_data()
-    {
-        QTest::addColumn<bool>("openDirectory");
-        QTest::addColumn<bool>("openSocket");
-        QTest::addColumn<bool>("connects");
-        QTest::newRow("as made") << false << false << false;
-        QTest::newRow("directory opened, socket as made") << true << false << false;
-        QTest::newRow("both opened") << true << true << true;
-    }
-
     void onlyTheUserGetsIn()
     {
-        QFETCH(bool, openDirectory);
-        QFETCH(bool, openSocket);
-        QFETCH(bool, connects);
-
         auto first = startFirst(QStringLiteral("editor"));
         QVERIFY(first);
         const QString socket = sockets().value(0);
@@ -583,17 +545,18 @@ private slots:
 
         if (::geteuid() != 0)
             QSKIP("Connecting as another user needs root to switch users");
-        // Open the way down to the library's own directory, and further as the row says.
+        // Open the way down to the library's directory, then each of its own locks in turn:
+        // only with both open does a stranger get in.
         const QFileDevice::Permissions open = QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner
             | QFileDevice::ReadOther | QFileDevice::WriteOther | QFileDevice::ExeOther;
         QVERIFY(QFile::setPermissions(m_runtime->path(), open));
-        if (openDirectory)
-            QVERIFY(QFile::setPermissions(directory, open));
-        if (openSocket)
-            QVERIFY(QFile::setPermissions(socket, open));
-        QProcessEnvironment env = environment("other-user", QString());
-        Child stranger(env, {socket});
-        QCOMPARE(stranger.next(QStringLiteral("CONNECT ")), connects ? QLatin1String("1") : QLatin1String("0"));
+        const QString layers[] = {QString(), directory, socket};
+        for (const QString &layer : layers) {
+            if (!layer.isEmpty())
+                QVERIFY(QFile::setPermissions(layer, open));
+            Child stranger(environment("other-user", QString()), {socket});
+            QCOMPARE(stranger.next(QStringLiteral("CONNECT ")), layer == socket ? QLatin1String("1") : QLatin1String("0"));
+        }
         QVERIFY(first->quit());
     }
 };
