@@ -1,7 +1,7 @@
 #include "DemoScreens.h"
 #include "EditorDemo.h"
 
-#include "RibbonApplication.h"
+#include "RibbonSingletonApplication.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -65,11 +65,24 @@ int writeScreenshots(const QString &dir)
     return 0;
 }
 
+// Opens the documents named on a command line (the program first, then options and
+// files) in the editor. A relative name is taken from the editor's working directory.
+void openDocuments(EditorDemo &editor, const QStringList &commandLine)
+{
+    for (const QString &arg : commandLine.mid(1)) {
+        if (!arg.startsWith(QLatin1Char('-')) && editor.openDocument(arg))
+            editor.showMainView();
+    }
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
 {
-    zel::RibbonApplication app(argc, argv);
+    // One editor per user: a later start hands its command line to the running editor,
+    // which opens the documents named on it. Plain-text files open in an editor of their own.
+    zel::RibbonSingletonApplication app(QStringLiteral("zelRibbon.Writer"), argc, argv);
+    app.setOpenInNewWindowExtensions({QStringLiteral("txt")});
     QCoreApplication::setOrganizationName(QStringLiteral("zelRibbon"));
     QCoreApplication::setApplicationName(QStringLiteral("zelRibbon Writer"));
     // The ribbon's geometry is made for the usual 9-point desktop UI font.
@@ -92,8 +105,13 @@ int main(int argc, char *argv[])
                                                 "the ribbon is on it (exit code 0 when it is)."),
                                  QStringLiteral("file"));
     parser.addOption(xvfbCheck);
+    parser.addPositionalArgument(QStringLiteral("files"), QStringLiteral("Documents to open; a running editor opens "
+                                                                         "them, except .txt files, which get an editor of their own."),
+                                 QStringLiteral("[files...]"));
     parser.process(app);
 
+    // Screenshots, the X server check and the screens gallery are no editor: they neither
+    // hand over to a running editor nor take its messages.
     sortScreens();
     if (parser.isSet(shots))
         return writeScreenshots(parser.value(shots));
@@ -101,10 +119,19 @@ int main(int argc, char *argv[])
         return runXvfbCheck(parser.value(xvfbCheck));
 
     if (!parser.isSet(screens)) {
+        if (!app.initInstance()) {
+            app.endInit();
+            return 0;
+        }
         QSettings settings;
         EditorDemo editor(settings);
+        app.setActivationWindow(&editor);
+        QObject::connect(&app, &zel::RibbonSingletonApplication::messageReceived, &editor,
+                         [&editor](const QString &message) { openDocuments(editor, message.split(QLatin1Char(';'))); });
+        openDocuments(editor, QCoreApplication::arguments());
         editor.resize(1280, 800);
         editor.show();
+        app.endInit();
         return app.exec();
     }
 
