@@ -4,6 +4,7 @@
 #include "IRibbonGroupWidget.h"
 #include "RibbonCatMenuAction.h"
 #include "RibbonCatMenuButton.h"
+#include "RibbonCatMenuPalettePopup.h"
 #include "RibbonCatSimpleAction.h"
 #include "RibbonScale_p.h"
 #include "RibbonSeparatorAction.h"
@@ -437,8 +438,10 @@ private slots:
         const int before = topLevelCount();
         click(host.button, QPoint(3, 3));
         if (opens == 1) {
-            QTRY_VERIFY(openMenu());
-            QCOMPARE(qobject_cast<RibbonViewPopup *>(openMenu()) != nullptr, popupType == Menu::PopupView);
+            QTRY_VERIFY(QApplication::activePopupWidget());
+            QWidget *popup = QApplication::activePopupWidget();
+            QCOMPARE(qobject_cast<RibbonViewPopup *>(popup) != nullptr, popupType == Menu::PopupView);
+            QCOMPARE(qobject_cast<RibbonCatMenuPalettePopup *>(popup) != nullptr, popupType == Menu::PopupPalette);
         } else if (opens == 0) {
             QVERIFY(!QApplication::activePopupWidget());
         }
@@ -449,8 +452,10 @@ private slots:
         if (!withItems)
             fill();
         if (opens != 0 || !withItems) {
-            QVERIFY(pressOpens(host.button, QPoint(3, 3)));
-            QVERIFY(escapeMenu());
+            press(host.button, QPoint(3, 3));
+            QTRY_VERIFY(QApplication::activePopupWidget());
+            QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+            QTRY_VERIFY(!QApplication::activePopupWidget());
         }
     }
 
