@@ -14,8 +14,6 @@
 
 #include <QCheckBox>
 #include <QColorDialog>
-#include <QHBoxLayout>
-#include <QLineEdit>
 #include <QScreen>
 #include <QTimer>
 #include <QToolBar>
@@ -82,22 +80,9 @@ RibbonCatSimpleButton *entry(RibbonColorPickerPopup &popup, const QString &text)
 }
 
 // A window holding a line edit (which has the focus) and the colour button.
-struct Host
+struct Host : ZelControlHost<RibbonCatColorMenuButton>
 {
-    explicit Host(Action &action)
-    {
-        auto *layout = new QHBoxLayout(&window);
-        edit = new QLineEdit(&window);
-        button = new RibbonCatColorMenuButton(action, &window);
-        layout->addWidget(edit);
-        layout->addWidget(button);
-        layout->addStretch();
-        window.show();
-        QApplication::setActiveWindow(&window);
-        edit->setFocus();
-    }
-
-    bool exposed() { return QTest::qWaitForWindowExposed(&window); }
+    using ZelControlHost::ZelControlHost;
 
     // Opens the picker with a click on the button; true once it shows.
     bool open()
@@ -108,10 +93,6 @@ struct Host
 
     RibbonColorPickerPopup &popup() { return button->popup(); }
     ColorItems *grid() { return popup().colorItems(); }
-
-    QWidget window;
-    QLineEdit *edit = nullptr;
-    RibbonCatColorMenuButton *button = nullptr;
 };
 
 // Answers the colour dialog that the next command opens, from inside its own event loop.
@@ -144,13 +125,7 @@ class tst_ColorControls : public QObject
 private slots:
     void init() { m_widgets = QApplication::allWidgets().size(); }
 
-    void cleanup()
-    {
-        if (QWidget *popup = QApplication::activePopupWidget())
-            popup->close();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QTRY_COMPARE(QApplication::allWidgets().size(), m_widgets);
-    }
+    void cleanup() { QTRY_COMPARE(zelWidgetsLeft(), m_widgets); }
 
     void gridCellGivesItsColour_data()
     {

@@ -7,8 +7,6 @@
 #include "RibbonCatMenuPalettePopupSizer.h"
 #include "RibbonSimpleAction.h"
 
-#include <QHBoxLayout>
-#include <QLineEdit>
 #include <QScreen>
 #include <QScrollBar>
 
@@ -61,6 +59,13 @@ struct Anchor
 
     bool exposed() { return QTest::qWaitForWindowExposed(&window); }
 
+    // A palette of menu opened from the anchor, shown to the end; null when it is not.
+    RibbonCatMenuPalettePopup *open(Menu &menu)
+    {
+        auto *popup = new RibbonCatMenuPalettePopup(menu, button);
+        return QTest::qWaitForWindowExposed(popup) ? popup : nullptr;
+    }
+
     QWidget window;
     QWidget *button = nullptr;
 };
@@ -97,13 +102,7 @@ class tst_PalettePopup : public QObject
 private slots:
     void init() { m_widgets = QApplication::allWidgets().size(); }
 
-    void cleanup()
-    {
-        if (QWidget *popup = QApplication::activePopupWidget())
-            popup->close();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QTRY_COMPARE(QApplication::allWidgets().size(), m_widgets);
-    }
+    void cleanup() { QTRY_COMPARE(zelWidgetsLeft(), m_widgets); }
 
     void sizes_data()
     {
@@ -216,8 +215,8 @@ private slots:
         Palette palette(Menu::MenuSizeMedium, 12);
         Anchor anchor(anchorPos);
         QVERIFY(anchor.exposed());
-        auto *popup = new RibbonCatMenuPalettePopup(palette.menu, anchor.button);
-        QVERIFY(QTest::qWaitForWindowExposed(popup));
+        RibbonCatMenuPalettePopup *popup = anchor.open(palette.menu);
+        QVERIFY(popup);
         const QRect button(anchor.button->mapToGlobal(QPoint(0, 0)), anchor.button->size());
         const QRect geometry = popup->geometry();
         const int w = geometry.width();
@@ -244,8 +243,8 @@ private slots:
         Palette palette(Menu::MenuSizeLarge, 8);
         Anchor anchor(QPoint(700, 50));
         QVERIFY(anchor.exposed());
-        auto *popup = new RibbonCatMenuPalettePopup(palette.menu, anchor.button);
-        QVERIFY(QTest::qWaitForWindowExposed(popup));
+        RibbonCatMenuPalettePopup *popup = anchor.open(palette.menu);
+        QVERIFY(popup);
         QCOMPARE(popup->x() + popup->width(), anchor.button->screen()->availableGeometry().right());
         popup->close();
     }
@@ -257,8 +256,8 @@ private slots:
         Palette palette(Menu::MenuSizeLarge, 200);
         Anchor anchor(QPoint(100, 100));
         QVERIFY(anchor.exposed());
-        auto *popup = new RibbonCatMenuPalettePopup(palette.menu, anchor.button);
-        QVERIFY(QTest::qWaitForWindowExposed(popup));
+        RibbonCatMenuPalettePopup *popup = anchor.open(palette.menu);
+        QVERIFY(popup);
         // 600 - 122 pixels below the anchor: 8 rows of 56 and the frame.
         QCOMPARE(popup->height(), 8 * 56 + 15);
         QCOMPARE(popup->numRows(), 8);
@@ -283,8 +282,8 @@ private slots:
         Palette palette(Menu::MenuSizeMedium, 30);
         Anchor anchor(anchorPos);
         QVERIFY(anchor.exposed());
-        auto *popup = new RibbonCatMenuPalettePopup(palette.menu, anchor.button);
-        QVERIFY(QTest::qWaitForWindowExposed(popup));
+        RibbonCatMenuPalettePopup *popup = anchor.open(palette.menu);
+        QVERIFY(popup);
         auto *grip = popup->findChild<RibbonCatMenuPalettePopupSizer *>();
         const bool top = grip->corner() == Qt::TopRightCorner;
         QCOMPARE(top, anchorPos.y() > 300);
@@ -343,8 +342,8 @@ private slots:
             palette.item(pressed)->setEnabled(false);
         Anchor anchor(QPoint(100, 50));
         QVERIFY(anchor.exposed());
-        QPointer<RibbonCatMenuPalettePopup> popup = new RibbonCatMenuPalettePopup(palette.menu, anchor.button);
-        QVERIFY(QTest::qWaitForWindowExposed(popup));
+        QPointer<RibbonCatMenuPalettePopup> popup = anchor.open(palette.menu);
+        QVERIFY(popup);
         QSignalSpy closed(popup.data(), &RibbonCatMenuPalettePopup::closed);
         QList<int> run;
         for (int i = 0; i < 10; ++i)
@@ -391,18 +390,10 @@ private slots:
     void openedByTheMenuButton()
     {
         Palette palette(Menu::MenuSizeMedium, 12);
-        QWidget window;
-        auto *layout = new QHBoxLayout(&window);
-        auto *edit = new QLineEdit(&window);
-        auto *button = new RibbonCatMenuButton(palette.menu, &window);
-        layout->addWidget(edit);
-        layout->addWidget(button);
-        window.move(50, 50);
-        window.show();
-        QApplication::setActiveWindow(&window);
-        edit->setFocus();
-        QVERIFY(QTest::qWaitForWindowExposed(&window));
-        QTRY_COMPARE(QApplication::focusWidget(), edit);
+        ZelControlHost<RibbonCatMenuButton> host(palette.menu);
+        RibbonCatMenuButton *button = host.button;
+        QVERIFY(host.exposed());
+        QTRY_COMPARE(QApplication::focusWidget(), host.edit);
 
         QTest::mousePress(button, Qt::LeftButton, Qt::NoModifier, QPoint(3, 3));
         QTRY_VERIFY(openPopup());
@@ -416,10 +407,9 @@ private slots:
         QCOMPARE(openPopup(), popup.data());
         QTest::keyClick(popup, Qt::Key_Escape);
         QTRY_VERIFY(!popup);
-        QTRY_COMPARE(QApplication::focusWidget(), edit);
+        QTRY_COMPARE(QApplication::focusWidget(), host.edit);
 
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        const int widgets = QApplication::allWidgets().size();
+        const int widgets = zelWidgetsLeft();
         for (int i = 0; i < 1000; ++i) {
             QTest::mouseClick(button, Qt::LeftButton, Qt::NoModifier, QPoint(3, 3));
             RibbonCatMenuPalettePopup *open = openPopup();
@@ -429,12 +419,16 @@ private slots:
         }
         QCOMPARE(QApplication::allWidgets().size(), widgets);
 
-        // A large button, or one with a default action, opens no palette.
+        // A large button, or one with a default action (on its arrow part), opens none.
         Palette large(Menu::MenuSizeLarge, 4);
-        auto *largeButton = new RibbonCatMenuButton(large.menu, &window);
-        layout->addWidget(largeButton);
-        QTest::mouseClick(largeButton, Qt::LeftButton, Qt::NoModifier, QPoint(3, 3));
-        QVERIFY(!QApplication::activePopupWidget());
+        Palette split(Menu::MenuSizeMedium, 4);
+        split.menu.setDefaultAction(split.item(0));
+        for (Menu *menu : {&large.menu, &split.menu}) {
+            ZelControlHost<RibbonCatMenuButton> other(*menu);
+            QVERIFY(other.exposed());
+            QTest::mouseClick(other.button, Qt::LeftButton, Qt::NoModifier, QPoint(other.button->width() - 3, 3));
+            QVERIFY(!QApplication::activePopupWidget());
+        }
     }
 
     // The popup goes with its button, and closes when its menu goes.
@@ -443,14 +437,14 @@ private slots:
         auto palette = std::make_unique<Palette>(Menu::MenuSizeSmall, 6);
         auto anchor = std::make_unique<Anchor>(QPoint(100, 50));
         QVERIFY(anchor->exposed());
-        QPointer<RibbonCatMenuPalettePopup> popup = new RibbonCatMenuPalettePopup(palette->menu, anchor->button);
-        QVERIFY(QTest::qWaitForWindowExposed(popup));
+        QPointer<RibbonCatMenuPalettePopup> popup = anchor->open(palette->menu);
+        QVERIFY(popup);
         anchor.reset();
         QVERIFY(!popup);
 
         anchor = std::make_unique<Anchor>(QPoint(100, 50));
-        popup = new RibbonCatMenuPalettePopup(palette->menu, anchor->button);
-        QVERIFY(QTest::qWaitForWindowExposed(popup));
+        popup = anchor->open(palette->menu);
+        QVERIFY(popup);
         QSignalSpy closed(popup.data(), &RibbonCatMenuPalettePopup::closed);
         palette.reset();
         QCOMPARE(closed.count(), 1);

@@ -13,8 +13,6 @@
 #include "RibbonViewPopup.h"
 
 #include <QCursor>
-#include <QHBoxLayout>
-#include <QLineEdit>
 #include <QMenu>
 #include <QScreen>
 
@@ -34,28 +32,7 @@ QMenu *openMenu()
     return qobject_cast<QMenu *>(QApplication::activePopupWidget());
 }
 
-// A window holding a line edit (which has the focus) and one menu button.
-struct Host
-{
-    explicit Host(RibbonCatMenuAction &action)
-    {
-        auto *layout = new QHBoxLayout(&window);
-        edit = new QLineEdit(&window);
-        button = new RibbonCatMenuButton(action, &window);
-        layout->addWidget(edit);
-        layout->addWidget(button);
-        layout->addStretch();
-        window.show();
-        QApplication::setActiveWindow(&window);
-        edit->setFocus();
-    }
-
-    bool exposed() { return QTest::qWaitForWindowExposed(&window); }
-
-    QWidget window;
-    QLineEdit *edit = nullptr;
-    RibbonCatMenuButton *button = nullptr;
-};
+using Host = ZelControlHost<RibbonCatMenuButton>;
 
 void press(QWidget *widget, const QPoint &pos)
 {

@@ -59,11 +59,7 @@ bool RibbonCatColorMenuAction::hasAutomaticColor() const
 
 void RibbonCatColorMenuAction::setHasAutomaticColor(bool has)
 {
-    if (has == hasAutomaticColor())
-        return;
-    // Automatic cannot stay in force once it is no longer offered: the colour takes over.
-    m_flags = has ? m_flags | HasAutomaticColor : m_flags & ~(HasAutomaticColor | IsAutomatic);
-    announceChange();
+    offer(HasAutomaticColor, IsAutomatic, has);
 }
 
 bool RibbonCatColorMenuAction::isAutomatic() const
@@ -78,10 +74,7 @@ bool RibbonCatColorMenuAction::hasNoneColor() const
 
 void RibbonCatColorMenuAction::setHasNoneColor(bool has)
 {
-    if (has == hasNoneColor())
-        return;
-    m_flags = has ? m_flags | HasNoneColor : m_flags & ~(HasNoneColor | IsNone);
-    announceChange();
+    offer(HasNoneColor, IsNone, has);
 }
 
 bool RibbonCatColorMenuAction::isNone() const
@@ -163,6 +156,16 @@ void RibbonCatColorMenuAction::setGradient(bool gradient)
     m_gradient = gradient;
     sendActionChangedEvt();
     emit gradientSet(m_gradient);
+}
+
+void RibbonCatColorMenuAction::offer(int hasFlag, int isFlag, bool offered)
+{
+    if (offered == bool(m_flags & hasFlag))
+        return;
+    // A special state cannot stay in force once it is no longer offered: the colour
+    // takes over (without an announcement: the host withdrew it).
+    m_flags = offered ? m_flags | hasFlag : m_flags & ~(hasFlag | isFlag);
+    announceChange();
 }
 
 void RibbonCatColorMenuAction::announceChange()

@@ -78,6 +78,8 @@ protected:
     void updateIcon();
 
 private:
+    // Offers or withdraws a special state (its "has" and "is" flags).
+    void offer(int hasFlag, int isFlag, bool offered);
     // Refreshes the icon and the widgets after a change of what they show.
     void announceChange();
 

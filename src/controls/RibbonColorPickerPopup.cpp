@@ -65,12 +65,23 @@ struct RibbonColorPickerPopup::Priv
     QCheckBox *gradientBox = nullptr;
     bool gradient = false;
 
-    void uncheckSpecialEntries() const
+    void uncheckSpecialEntries() const { checkOnly(nullptr); }
+
+    // Checks entry (one of the special entries, or none for null) and unchecks the other.
+    void checkOnly(const RibbonCatSimpleAction *entry) const
     {
-        if (automaticAction)
-            automaticAction->setChecked(false);
-        if (noneAction)
-            noneAction->setChecked(false);
+        for (RibbonCatSimpleAction *special : {automaticAction, noneAction}) {
+            if (special)
+                special->setChecked(special == entry);
+        }
+    }
+
+    // Makes a special entry the choice: no cell and no swatch stand for a colour then.
+    void chooseSpecial(const QWidget &popup, const RibbonCatSimpleAction *entry) const
+    {
+        checkOnly(entry);
+        colorItems->selectColor(QColor());
+        setMoreColorsSwatch(popup, QColor());
     }
 
     void setMoreColorsSwatch(const QWidget &popup, const QColor &color) const
@@ -112,7 +123,6 @@ RibbonColorPickerPopup::RibbonColorPickerPopup(QWidget *parent)
 }
 
 RibbonColorPickerPopup::~RibbonColorPickerPopup() = default;
-
 
 template<class Emit>
 bool RibbonColorPickerPopup::emitAndStay(Emit emitSignal)
@@ -157,11 +167,7 @@ QColor RibbonColorPickerPopup::automaticColor() const
 void RibbonColorPickerPopup::setAutomaticColor()
 {
     setAutomaticColorEnabled(true);
-    d->automaticAction->setChecked(true);
-    if (d->noneAction)
-        d->noneAction->setChecked(false);
-    d->colorItems->selectColor(QColor());
-    d->setMoreColorsSwatch(*this, QColor());
+    d->chooseSpecial(*this, d->automaticAction);
 }
 
 bool RibbonColorPickerPopup::isAutomaticColor() const
@@ -171,12 +177,7 @@ bool RibbonColorPickerPopup::isAutomaticColor() const
 
 void RibbonColorPickerPopup::setNoneColor()
 {
-    if (d->noneAction)
-        d->noneAction->setChecked(true);
-    if (d->automaticAction)
-        d->automaticAction->setChecked(false);
-    d->colorItems->selectColor(QColor());
-    d->setMoreColorsSwatch(*this, QColor());
+    d->chooseSpecial(*this, d->noneAction);
 }
 
 bool RibbonColorPickerPopup::isNoneColor() const
@@ -258,30 +259,23 @@ void RibbonColorPickerPopup::hideEvent(QHideEvent *event)
 
 void RibbonColorPickerPopup::automaticClicked(bool checked)
 {
-    if (!checked) {
-        // A click on the entry in force unchecks it; it stays the choice.
-        d->automaticAction->setChecked(true);
-    } else {
-        if (d->noneAction)
-            d->noneAction->setChecked(false);
-        d->colorItems->selectColor(QColor());
-        d->setMoreColorsSwatch(*this, QColor());
-        if (!emitAndStay([this] { emit automaticColorSelected(); }))
-            return;
-    }
-    hide();
+    specialEntryClicked(d->automaticAction, checked, &RibbonColorPickerPopup::automaticColorSelected);
 }
 
 void RibbonColorPickerPopup::noneClicked(bool checked)
 {
+    specialEntryClicked(d->noneAction, checked, &RibbonColorPickerPopup::noneColorSelected);
+}
+
+void RibbonColorPickerPopup::specialEntryClicked(RibbonCatSimpleAction *entry, bool checked,
+                                                 void (RibbonColorPickerPopup::*announce)())
+{
     if (!checked) {
-        d->noneAction->setChecked(true);
+        // A click on the entry in force unchecks it; it stays the choice, unannounced.
+        entry->setChecked(true);
     } else {
-        if (d->automaticAction)
-            d->automaticAction->setChecked(false);
-        d->colorItems->selectColor(QColor());
-        d->setMoreColorsSwatch(*this, QColor());
-        if (!emitAndStay([this] { emit noneColorSelected(); }))
+        d->chooseSpecial(*this, entry);
+        if (!emitAndStay([this, announce] { emit(this->*announce)(); }))
             return;
     }
     hide();

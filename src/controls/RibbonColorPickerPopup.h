@@ -10,6 +10,8 @@
 
 namespace zel {
 
+class RibbonCatSimpleAction;
+
 // The popup of a colour button: an 8 x 5 grid of fixed colours, optional "None" and
 // "Automatic" entries above it, an optional "Gradient" check box below it and a
 // "More colors..." entry that opens the standard colour dialog. A choice is announced
@@ -67,6 +69,8 @@ private slots:
     void onGradientChecked(int state);
 
 private:
+    // A click on the Automatic or None entry, announced by announce.
+    void specialEntryClicked(RibbonCatSimpleAction *entry, bool checked, void (RibbonColorPickerPopup::*announce)());
     // Runs emitSignal; false when this popup was destroyed meanwhile.
     template<class Emit>
     bool emitAndStay(Emit emitSignal);
