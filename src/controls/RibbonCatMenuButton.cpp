@@ -197,9 +197,9 @@ void RibbonCatMenuButton::leaveEvent(QEvent *event)
 
 // RibbonCatMenuButtonPriv ---------------------------------------------------------------
 
-RibbonCatMenuButtonPriv::RibbonCatMenuButtonPriv(RibbonCatMenuButton &owner)
-    : QObject(&owner)
-    , owner(owner)
+RibbonCatMenuButtonPriv::RibbonCatMenuButtonPriv(RibbonCatMenuButton &button)
+    : QObject(&button)
+    , owner(button)
 {
 }
 
@@ -207,8 +207,8 @@ RibbonCatMenuButtonPriv::~RibbonCatMenuButtonPriv() = default;
 
 // RibbonCatMenuButtonBPriv --------------------------------------------------------------
 
-RibbonCatMenuButtonBPriv::RibbonCatMenuButtonBPriv(RibbonCatMenuButton &owner)
-    : RibbonCatMenuButtonPriv(owner)
+RibbonCatMenuButtonBPriv::RibbonCatMenuButtonBPriv(RibbonCatMenuButton &button)
+    : RibbonCatMenuButtonPriv(button)
 {
 }
 
