@@ -164,25 +164,6 @@ private slots:
         QCOMPARE(host.grid()->selectedCell(), ColorItems::cellAt(pos));
     }
 
-    // The table by column, top row first, and nothing outside it.
-    void table()
-    {
-        const QRgb byColumn[8][5] = {
-            {0x000000, 0x800000, 0xFF0000, 0xFF00FF, 0xFF99CC}, {0x993300, 0xFF6600, 0xFF9900, 0xFFCC00, 0xFFCC99},
-            {0x333300, 0x808000, 0x99CC00, 0xFFFF00, 0xFFFF99}, {0x003300, 0x008000, 0x339966, 0x00FF00, 0xCCFFCC},
-            {0x003366, 0x008080, 0x33CCCC, 0x00FFFF, 0xCCFFFF}, {0x000080, 0x0000FF, 0x3366FF, 0x00CCFF, 0x99CCFF},
-            {0x333399, 0x666699, 0x800080, 0x993366, 0xCC99FF}, {0x333333, 0x808080, 0x999999, 0xC0C0C0, 0xFFFFFF}};
-        for (int c = 0; c < 8; ++c) {
-            for (int r = 0; r < 5; ++r)
-                QCOMPARE(ColorItems::colorAt(QPoint(c, r)), QColor(byColumn[c][r]));
-        }
-        QVERIFY(!ColorItems::colorAt(QPoint(8, 0)).isValid());
-        QVERIFY(!ColorItems::colorAt(QPoint(0, 5)).isValid());
-        QCOMPARE(ColorItems::cellAt(QPoint(160, 10)), QPoint(-1, -1));
-        QCOMPARE(ColorItems::cellAt(QPoint(10, 80)), QPoint(-1, -1));
-        QCOMPARE(ColorItems::cellAt(QPoint(-1, 10)), QPoint(-1, -1));
-    }
-
     // Pressing one cell and releasing over another chooses nothing; a release without a
     // press neither.
     void pressOneCellReleaseAnother()
@@ -193,8 +174,10 @@ private slots:
         QTest::mousePress(&grid, Qt::LeftButton, Qt::NoModifier, cellCentre(1, 1));
         QTest::mouseRelease(&grid, Qt::LeftButton, Qt::NoModifier, cellCentre(2, 1));
         QTest::mouseRelease(&grid, Qt::LeftButton, Qt::NoModifier, cellCentre(2, 1));
-        QTest::mousePress(&grid, Qt::LeftButton, Qt::NoModifier, QPoint(170, 5));
-        QTest::mouseRelease(&grid, Qt::LeftButton, Qt::NoModifier, QPoint(170, 5));
+        for (const QPoint &outside : {QPoint(160, 5), QPoint(5, 80)}) {
+            QTest::mousePress(&grid, Qt::LeftButton, Qt::NoModifier, outside);
+            QTest::mouseRelease(&grid, Qt::LeftButton, Qt::NoModifier, outside);
+        }
         QCOMPARE(chosen.count(), 0);
         QCOMPARE(grid.selectedCell(), QPoint(2, 2));
     }
@@ -394,27 +377,6 @@ private slots:
         QCOMPARE(button.sizeHint(), highDpi() ? at144 : at96);
         QCOMPARE(button.sizePolicy().horizontalPolicy(), QSizePolicy::Fixed);
         QCOMPARE(button.focusPolicy(), Qt::NoFocus);
-    }
-
-    // A medium button is as wide as its caption plus 4, its icon's 16 and the arrow part; a
-    // long large caption wraps onto two lines and narrows the button.
-    void captionWidths()
-    {
-        Action withText(emptyIcon(16), QStringLiteral("Font Color"), Action::ColorSizeMedium, nullptr);
-        Action withoutText(emptyIcon(16), QString(), Action::ColorSizeMedium, nullptr);
-        RibbonCatColorMenuButton medium(withText, nullptr);
-        RibbonCatColorMenuButton bare(withoutText, nullptr);
-        QCOMPARE(medium.sizeHint().width() - bare.sizeHint().width(),
-                 medium.fontMetrics().horizontalAdvance(withText.text()) + 4);
-
-        Action longCaption(emptyIcon(32), QStringLiteral("Text Highlight Color"), Action::ColorSizeLarge, nullptr);
-        RibbonCatColorMenuButton large(longCaption, nullptr);
-        const int oneLine = large.fontMetrics().horizontalAdvance(longCaption.text());
-        QVERIFY(large.sizeHint().width() < oneLine);
-        const QRect wrapped = large.fontMetrics().boundingRect(QRect(0, 0, large.sizeHint().width() - 10, 0),
-                                                               Qt::AlignTop | Qt::AlignHCenter | Qt::TextWordWrap,
-                                                               longCaption.text());
-        QVERIFY(wrapped.height() <= 2 * large.fontMetrics().height());
     }
 
     // "None" on top, "Automatic" just above the grid, the check box just below it, "More
