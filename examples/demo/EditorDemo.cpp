@@ -2,6 +2,7 @@
 
 #include "DemoIcons.h"
 #include "EditorDemoIcons.h"
+#include "EditorDemoPickers.h"
 
 #include "BackstageListModel.h"
 #include "BackstageView.h"
@@ -552,6 +553,7 @@ RibbonCategoriesPanelAction *EditorDemo::buildHomeTab()
     fontCategory->addAction(growShrink, 0);
     fontCategory->addAction(styleGroup, 1);
     fontCategory->addAction(clearGroup, 1);
+    addColorCommands(*fontCategory, 1, edit, this);
     d->home->addCategory(fontCategory);
 
     auto *paragraph = new RibbonCategoryAction(editorIcon(EditorIcon::AlignLeft), tr("Paragraph"), this);
@@ -823,6 +825,7 @@ RibbonCategoriesPanelAction *EditorDemo::buildInsertTab()
         });
     }
     text->addAction(date, -1);
+    text->addAction(makeSymbolPalette(d->edit, this), -1);
     insert->addCategory(text);
     return insert;
 }

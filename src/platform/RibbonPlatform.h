@@ -46,6 +46,10 @@ public:
     // screen's for a null widget.
     static QRect availableGeometry(const QWidget *widget);
 
+    // The whole desktop (every screen side by side) in global coordinates; a null
+    // rectangle when there is no screen.
+    static QRect desktopGeometry();
+
     // Cells of the three-by-three grid a frameless window is divided into when the
     // system asks what lies under the cursor.
     enum FrameRow { FrameTop, FrameMiddle, FrameBottom };

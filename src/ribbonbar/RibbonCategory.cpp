@@ -6,6 +6,8 @@
 #include "RibbonCatActionGroupWidget.h"
 #include "RibbonCatCheckBox.h"
 #include "RibbonCatCheckBoxAction.h"
+#include "RibbonCatColorMenuAction.h"
+#include "RibbonCatColorMenuButton.h"
 #include "RibbonCatComboAction.h"
 #include "RibbonCatComboWidget.h"
 #include "RibbonCatFontFamilyAction.h"
@@ -44,6 +46,7 @@ QWidget *makeMenuButton(QAction *action, QWidget *parent)
 
 // The control of a member, by its class; the first maker that accepts it wins.
 const RibbonWidgetMaker controlMakers[] = {
+    makeWidgetFor<RibbonCatColorMenuAction, RibbonCatColorMenuButton>,
     makeMenuButton,
     makeWidgetFor<RibbonCatSimpleAction, RibbonCatSimpleButton>,
     makeWidgetFor<RibbonCatActionGroup, RibbonCatActionGroupWidget>,
