@@ -15,11 +15,5 @@ inline bool isColorMenuAction(const QObject *object)
     return object && object->inherits("zel::RibbonCatColorMenuAction");
 }
 
-// An in-ribbon gallery: the category frames it.
-inline bool isListPreview(const QObject *object)
-{
-    return object && object->inherits("zel::RibbonCatListPreview");
-}
-
 } // namespace RibbonClassChecks
 } // namespace zel

@@ -10,13 +10,13 @@
 #include "RibbonCatComboWidget.h"
 #include "RibbonCatFontFamilyAction.h"
 #include "RibbonCatFontFamilyComboBox.h"
+#include "RibbonCatListPreview.h"
 #include "RibbonCatMenuAction.h"
 #include "RibbonCatMenuButton.h"
 #include "RibbonCatSimpleAction.h"
 #include "RibbonCatSimpleButton.h"
 #include "RibbonCategoryAction.h"
 #include "RibbonCategoryLayout.h"
-#include "RibbonClassChecks_p.h"
 #include "RibbonPaint_p.h"
 #include "RibbonStyle.h"
 
@@ -34,21 +34,19 @@ int dpiRound(double v)
     return int(v * RibbonApplication::theApp().dpiFactor().second + 0.5);
 }
 
-QWidget *makeMenuButton(QAction *action, QWidget *parent)
+// A menu command whose items show in the ribbon gets a gallery instead of a button.
+QWidget *makeListPreview(QAction *action, QWidget *parent)
 {
     auto *menu = qobject_cast<RibbonCatMenuAction *>(action);
-    if (!menu)
+    if (!menu || menu->popupType() != RibbonCatMenuAction::PopupListPreview)
         return nullptr;
-    // An in-ribbon gallery has no button; this build has no gallery control, so such a
-    // member gets no control at all rather than a button that is not meant to exist.
-    if (menu->popupType() == RibbonCatMenuAction::PopupListPreview)
-        return nullptr;
-    return new RibbonCatMenuButton(*menu, parent);
+    return new RibbonCatListPreview(*menu, parent);
 }
 
 // The control of a member, by its class; the first maker that accepts it wins.
 const RibbonWidgetMaker controlMakers[] = {
-    makeMenuButton,
+    makeListPreview,
+    makeWidgetFor<RibbonCatMenuAction, RibbonCatMenuButton>,
     makeWidgetFor<RibbonCatSimpleAction, RibbonCatSimpleButton>,
     makeWidgetFor<RibbonCatActionGroup, RibbonCatActionGroupWidget>,
     makeWidgetFor<RibbonCatFontFamilyAction, RibbonCatFontFamilyComboBox>,
@@ -268,7 +266,7 @@ void RibbonCategory::paintEvent(QPaintEvent *)
     painter.setPen(QColor(QStringLiteral("#afafaf")));
     painter.setBrush(Qt::NoBrush);
     for (const QWidget *control : d->widgets.widgets()) {
-        if (RibbonClassChecks::isListPreview(control)) {
+        if (qobject_cast<const RibbonCatListPreview *>(control)) {
             const QRect g = control->geometry();
             painter.drawRect(g.x() - 1, g.y() - 1, g.width() + 1, g.height() + 1);
         }
