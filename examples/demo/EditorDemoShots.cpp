@@ -5,12 +5,18 @@
 
 #include "BackstageView.h"
 #include "RibbonButtonMain.h"
+#include "OfficePopupButton.h"
+#include "RibbonCatListPreview.h"
+#include "RibbonCatMenuAction.h"
+#include "RibbonCatMenuButton.h"
 #include "RibbonMenuBar.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QImage>
+#include <QMouseEvent>
+#include <QPainter>
 #include <QPixmap>
 #include <QScreen>
 #include <QSet>
@@ -60,6 +66,33 @@ void showTab(EditorDemo &w, const QString &name)
     }
 }
 
+// The full list of the styles gallery on the Home tab, opened by its button.
+QWidget *openStylesGallery(EditorDemo &w)
+{
+    for (zel::RibbonCatListPreview *gallery : w.findChildren<zel::RibbonCatListPreview *>()) {
+        if (gallery->isVisible()) {
+            gallery->popupButton()->click();
+            return QApplication::activePopupWidget();
+        }
+    }
+    return nullptr;
+}
+
+// The view popup of the Page Layout button on the View tab, opened by a press.
+QWidget *openViewPopup(EditorDemo &w)
+{
+    for (zel::RibbonCatMenuButton *button : w.findChildren<zel::RibbonCatMenuButton *>()) {
+        if (button->isVisible() && button->action()
+            && button->action()->popupType() == zel::RibbonCatMenuAction::PopupView) {
+            QMouseEvent press(QEvent::MouseButtonPress, QPoint(5, 5), button->mapToGlobal(QPoint(5, 5)),
+                              Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+            QCoreApplication::sendEvent(button, &press);
+            return QApplication::activePopupWidget();
+        }
+    }
+    return nullptr;
+}
+
 } // namespace
 
 int writeEditorScreenshots(const QDir &dir)
@@ -78,6 +111,9 @@ int writeEditorScreenshots(const QDir &dir)
         QString name;
         QSize size;
         std::function<void(EditorDemo &)> prepare;
+        // Opens a popup over the prepared window and returns it; it is drawn into the
+        // screenshot where it shows, then closed.
+        std::function<QWidget *(EditorDemo &)> popup = nullptr;
     };
     const QList<Shot> shots = {
         {QStringLiteral("editor-main"), QSize(1280, 800), [](EditorDemo &w) {
@@ -117,6 +153,13 @@ int writeEditorScreenshots(const QDir &dir)
              w.editor()->ensureCursorVisible();
              w.activateContextTab(QStringLiteral("Format"));
          }},
+        {QStringLiteral("editor-styles-gallery"), QSize(1100, 520), [](EditorDemo &w) { w.showMainView(); },
+         openStylesGallery},
+        {QStringLiteral("editor-view-popup"), QSize(1000, 520), [](EditorDemo &w) {
+             w.showMainView();
+             showTab(w, QStringLiteral("View"));
+         },
+         openViewPopup},
     };
 
     for (const Shot &shot : shots) {
@@ -130,8 +173,22 @@ int writeEditorScreenshots(const QDir &dir)
         window->resize(shot.size);
         window->editor()->setFocus();
         settle();
+        QPixmap image = window->grab();
+        if (shot.popup) {
+            QWidget *popup = shot.popup(*window);
+            if (!popup) {
+                out << "No popup to show in " << shot.name << '\n';
+                return 1;
+            }
+            settle();
+            QPainter painter(&image);
+            painter.drawPixmap(popup->mapToGlobal(QPoint(0, 0)) - window->mapToGlobal(QPoint(0, 0)), popup->grab());
+            painter.end();
+            popup->close();
+            settle();
+        }
         const QString file = dir.filePath(shot.name + QStringLiteral(".png"));
-        if (!window->grab().save(file)) {
+        if (!image.save(file)) {
             out << "Cannot write " << file << '\n';
             return 1;
         }
