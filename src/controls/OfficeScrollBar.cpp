@@ -1,7 +1,7 @@
 #include "OfficeScrollBar.h"
 
+#include "OfficeGallery_p.h"
 #include "RibbonApplication.h"
-#include "RibbonPaint_p.h"
 #include "RibbonStyle.h"
 
 #include <QCursor>
@@ -12,12 +12,6 @@ namespace zel {
 
 namespace {
 
-const QColor kOutline(QStringLiteral("#afafaf"));
-const QColor kHoverFill(QStringLiteral("#d5e1f2"));
-const QColor kPressedFill(QStringLiteral("#a3bde2"));
-const QColor kGlyph(QStringLiteral("#5f5f5f"));
-const QColor kDisabledGlyph(QStringLiteral("#afafaf"));
-const int kGlyphWidth = 7;
 const int kRepeatDelay = 500;
 const int kRepeatInterval = 50;
 
@@ -108,7 +102,7 @@ void OfficeScrollBar::paintEvent(QPaintEvent *)
 
     const QRect area = rect().adjusted(0, 0, -1, 0);
     painter.fillRect(area, style.mainMenuBgColor());
-    painter.setPen(kOutline);
+    painter.setPen(OfficeGallery::frameColor());
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(area);
     const int middle = height() / 2;
@@ -122,22 +116,16 @@ void OfficeScrollBar::paintEvent(QPaintEvent *)
                                 QRect(1, middle + 1, area.width() - 1, height() - middle - 1)};
         for (const QRect &half : halves) {
             if (half.contains(cursor))
-                painter.fillRect(half, m_pressed ? kPressedFill : kHoverFill);
+                painter.fillRect(half, m_pressed ? OfficeGallery::pressedFill() : OfficeGallery::hoverFill());
         }
     }
 
-    const QColor glyph = isEnabled() ? kGlyph : kDisabledGlyph;
-    painter.setPen(glyph);
-    painter.setBrush(glyph);
-    const int inset = (width() - kGlyphWidth) / 2;
     // The down arrow mirrors the up arrow about the dividing line. (The button under the
     // bar leaves it 40 pixels high, where a down arrow a fixed 20 rows below the up
     // arrow would sit on the bar's bottom edge.)
     const int upRow = height() / 3 + 1;
-    const int downRow = 2 * middle - upRow;
-    RibbonPaint::drawSmallArrow(painter, QPoint(inset, upRow), QPoint(inset + kGlyphWidth - 1, upRow), true, false);
-    RibbonPaint::drawSmallArrow(painter, QPoint(inset, downRow), QPoint(inset + kGlyphWidth - 1, downRow), false,
-                                false);
+    OfficeGallery::drawArrow(painter, *this, upRow, true, false);
+    OfficeGallery::drawArrow(painter, *this, 2 * middle - upRow, false, false);
 }
 
 } // namespace zel

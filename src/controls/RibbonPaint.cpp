@@ -102,18 +102,6 @@ void drawCentred(QPainter &painter, const QRect &target, const QPixmap &pixmap)
     painter.drawPixmap(placed, pixmap);
 }
 
-void drawSmallArrow(QPainter &painter, const QPoint &left, const QPoint &right, bool up, bool bar)
-{
-    if (bar)
-        painter.drawLine(left, right);
-    // Rows of 5, 3 and 1 pixels narrowing towards the tip.
-    const int direction = up ? -1 : 1;
-    for (int step = 0; step < 3; ++step) {
-        const int y = left.y() + direction * (3 + step);
-        painter.drawLine(left.x() + 1 + step, y, right.x() - 1 - step, y);
-    }
-}
-
 } // namespace RibbonPaint
 
 } // namespace zel

@@ -68,12 +68,6 @@ QPixmap iconPixmap(const QIcon &icon, int extent, bool enabled);
 // Draws pixmap at its own size centred in target (nothing for a null pixmap).
 void drawCentred(QPainter &painter, const QRect &target, const QPixmap &pixmap);
 
-// The small arrow of the gallery's scroll and menu buttons, in the painter's pen: left
-// and right end of its row (7 pixels apart), optionally a bar along that row, and a
-// filled triangle pointing up or down whose rows lie 3 to 5 pixels beyond the row in
-// the arrow's direction. Antialiasing should be off.
-void drawSmallArrow(QPainter &painter, const QPoint &left, const QPoint &right, bool up, bool bar);
-
 } // namespace RibbonPaint
 
 } // namespace zel

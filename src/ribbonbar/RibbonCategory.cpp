@@ -1,5 +1,6 @@
 #include "RibbonCategory.h"
 
+#include "OfficeGallery_p.h"
 #include "RibbonActionWidgetMap_p.h"
 #include "RibbonApplication.h"
 #include "RibbonCatActionGroup.h"
@@ -262,8 +263,8 @@ void RibbonCategory::paintEvent(QPaintEvent *)
     painter.setPen(style.categoryCaptionTextColor());
     painter.drawText(d->captionRect, Qt::AlignCenter | Qt::TextDontClip, d->caption);
 
-    // In-ribbon galleries get a thin frame.
-    painter.setPen(QColor(QStringLiteral("#afafaf")));
+    // In-ribbon galleries get a thin frame, in the colour of their own buttons' outline.
+    painter.setPen(OfficeGallery::frameColor());
     painter.setBrush(Qt::NoBrush);
     for (const QWidget *control : d->widgets.widgets()) {
         if (qobject_cast<const RibbonCatListPreview *>(control)) {
