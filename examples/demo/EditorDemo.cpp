@@ -1091,7 +1091,6 @@ void EditorDemo::buildWelcomeScreen()
 void EditorDemo::followEditor()
 {
     QTextEdit *edit = d->edit;
-    RibbonMenuBar &bar = ribbonMenuBar();
     auto updateWords = [this] {
         const QString plain = d->edit->toPlainText();
         const int words = plain.split(QRegExp(QStringLiteral("\\s+")), Qt::SkipEmptyParts).size();
@@ -1241,12 +1240,12 @@ bool EditorDemo::openDocument(const QString &path)
         QMessageBox::warning(this, AppName, tr("Cannot open %1:\n%2").arg(QDir::toNativeSeparators(path), file.errorString()));
         return false;
     }
-    const QByteArray data = file.readAll();
+    const QByteArray bytes = file.readAll();
     const QString suffix = QFileInfo(path).suffix().toLower();
-    if (suffix == QLatin1String("html") || suffix == QLatin1String("htm") || Qt::mightBeRichText(QString::fromUtf8(data)))
-        d->edit->setHtml(QString::fromUtf8(data));
+    if (suffix == QLatin1String("html") || suffix == QLatin1String("htm") || Qt::mightBeRichText(QString::fromUtf8(bytes)))
+        d->edit->setHtml(QString::fromUtf8(bytes));
     else
-        d->edit->setPlainText(QString::fromUtf8(data));
+        d->edit->setPlainText(QString::fromUtf8(bytes));
     d->path = QFileInfo(path).absoluteFilePath();
     d->recent->addItem(d->path);
     d->edit->document()->setModified(false);
