@@ -6,6 +6,7 @@
 #include "RibbonApplication.h"
 #include "RibbonPlatform.h"
 
+#include <QWindow>
 #include <QtTest>
 
 // Plays, while it lives, a window system that takes every move and resize it is asked
@@ -25,6 +26,17 @@ struct ZelAcceptingWindowSystem
     ~ZelAcceptingWindowSystem() { zel::RibbonPlatform::setSystemDragHandler({}); }
     Q_DISABLE_COPY(ZelAcceptingWindowSystem)
 };
+
+// Waits until the window system has shown popup (true) or gives up (false). The
+// offscreen platform activates a window it shows; handled only after the popup has
+// closed, that activation would take the active window away from the test's window.
+inline bool zelPopupShown(QWidget *popup)
+{
+    if (!popup)
+        return false;
+    QCoreApplication::processEvents(); // usually enough, and much faster than a wait
+    return (popup->windowHandle() && popup->windowHandle()->isExposed()) || QTest::qWaitForWindowExposed(popup);
+}
 
 #define ZEL_TEST_MAIN(TestObject)                                   \
     int main(int argc, char *argv[])                                \

@@ -15,9 +15,6 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLineEdit>
-#include <QWindow>
-
-#include <memory>
 
 using namespace zel;
 
@@ -27,19 +24,14 @@ const QColor kOutline(QStringLiteral("#C5C5C5"));
 const QColor kGutter(QStringLiteral("#E9EEEE"));
 const QColor kBackground(QStringLiteral("#F9F8F7"));
 
-bool highResolution()
-{
-    return RibbonApplication::theApp().dpiFactor().second > 1.25;
-}
-
 const RibbonStyle &style()
 {
     return RibbonApplication::theApp().ribbonStyle();
 }
 
-QIcon flatIcon(const QColor &colour, int extent = 32)
+QIcon flatIcon(const QColor &colour)
 {
-    QPixmap pixmap(extent, extent);
+    QPixmap pixmap(16, 16);
     pixmap.fill(colour);
     return QIcon(pixmap);
 }
@@ -49,13 +41,10 @@ QImage grabImage(QWidget *widget)
     return widget->grab().toImage().convertToFormat(QImage::Format_RGB32);
 }
 
-// The popup shown and exposed: the offscreen platform activates a window it shows, and
-// that activation, handled only after the popup closed, would leave no active window.
-bool shown(RibbonViewPopup &popup, const QPoint &at = QPoint(100, 100))
+bool shown(RibbonViewPopup &popup)
 {
-    popup.popup(at);
-    QCoreApplication::processEvents();
-    return popup.windowHandle()->isExposed() || QTest::qWaitForWindowExposed(&popup);
+    popup.popup(QPoint(100, 100));
+    return zelPopupShown(&popup);
 }
 
 // Owns the actions a popup is built from.
@@ -63,20 +52,16 @@ struct Actions
 {
     RibbonSimpleAction *add(const QString &text, const QIcon &icon = QIcon())
     {
-        auto *action = new RibbonSimpleAction(icon, text, &owner);
-        return action;
+        return new RibbonSimpleAction(icon, text, &owner);
     }
-    RibbonSimpleAction *separator() { return new RibbonSeparatorAction(&owner); }
 
-    // count tiles, those marked '0' in enabled disabled.
+    // One tile per character of enabled, disabled where it is '0'.
     QActionGroup *group(const QString &enabled)
     {
         auto *group = new QActionGroup(&owner);
-        for (int i = 0; i < enabled.size(); ++i) {
-            RibbonSimpleAction *tile = add(QStringLiteral("Tile %1").arg(i), flatIcon(Qt::darkCyan, 48));
-            tile->setEnabled(enabled.at(i) == QLatin1Char('1'));
-            group->addAction(tile);
-        }
+        for (int i = 0; i < enabled.size(); ++i)
+            group->addAction(add(QStringLiteral("Tile %1").arg(i), flatIcon(Qt::darkCyan)))
+                ->setEnabled(enabled.at(i) == QLatin1Char('1'));
         return group;
     }
 
@@ -91,35 +76,15 @@ QStringList texts(const QList<RibbonViewButton *> &entries)
     return result;
 }
 
-QList<RibbonViewButton *> tiles(const RibbonViewPopup &popup)
+// The horizontal lines, in the popup's child order: the two between the sections first.
+QList<QFrame *> lines(const RibbonViewPopup &popup)
 {
-    QList<RibbonViewButton *> result;
-    for (RibbonViewButton *entry : popup.buttons()) {
-        if (!entry->isListMode())
-            result << entry;
+    QList<QFrame *> result;
+    for (QFrame *frame : popup.findChildren<QFrame *>(QString(), Qt::FindDirectChildrenOnly)) {
+        if (frame->frameShape() == QFrame::HLine)
+            result << frame;
     }
     return result;
-}
-
-// The lines inside the lists, as opposed to the two between the sections.
-QList<QFrame *> listLines(const RibbonViewPopup &popup)
-{
-    QList<QFrame *> lines;
-    for (QFrame *frame : popup.findChildren<QFrame *>()) {
-        if (frame->frameShape() == QFrame::HLine && frame->x() > 1)
-            lines << frame;
-    }
-    return lines;
-}
-
-QList<bool> sectionLinesShown(const RibbonViewPopup &popup)
-{
-    QList<bool> shown;
-    for (QFrame *frame : popup.findChildren<QFrame *>(QString(), Qt::FindDirectChildrenOnly)) {
-        if (frame->frameShape() == QFrame::HLine && frame->x() <= 1)
-            shown << frame->isVisible();
-    }
-    return shown;
 }
 
 } // namespace
@@ -165,9 +130,7 @@ private slots:
             << "0111110" << 3 << QStringList{"Tile 1", "Tile 2", "Tile 3", "Tile 4", "Tile 5"}
             << QList<QPoint>{{0, 0}, {1, 0}, {2, 0}, {0, 1}, {1, 1}};
         QTest::newRow("no columns counts as one")
-            << "111" << 0 << QStringList{"Tile 0", "Tile 1", "Tile 2"}
-            << QList<QPoint>{{0, 0}, {0, 1}, {0, 2}};
-        QTest::newRow("all disabled") << "000" << 4 << QStringList() << QList<QPoint>();
+            << "111" << 0 << QStringList{"Tile 0", "Tile 1", "Tile 2"} << QList<QPoint>{{0, 0}, {0, 1}, {0, 2}};
     }
 
     void gridWithoutGaps()
@@ -179,57 +142,48 @@ private slots:
 
         Actions actions;
         QActionGroup *group = actions.group(enabled);
-        group->addAction(new QAction(QStringLiteral("not a ribbon action"), &actions.owner)); // skipped
+        group->addAction(new QAction(QStringLiteral("not a ribbon action"), &actions.owner)); // no tile
         RibbonViewPopup popup({}, {}, group, columns, true, true, false, nullptr);
-        QCOMPARE(texts(::tiles(popup)), tiles);
-        auto *grid = popup.findChild<QGridLayout *>();
-        QVERIFY(grid);
+        const QList<RibbonViewButton *> made = popup.buttons();
+        QCOMPARE(texts(made), tiles);
         QVERIFY(shown(popup));
-        const QList<RibbonViewButton *> made = ::tiles(popup);
+        auto *grid = popup.findChild<QGridLayout *>();
         for (int k = 0; k < made.size(); ++k) {
             int row = -1, column = -1, rowSpan = 0, columnSpan = 0;
             grid->getItemPosition(grid->indexOf(made[k]), &row, &column, &rowSpan, &columnSpan);
             QCOMPARE(QPoint(column, row), cells[k]);
-            QCOMPARE(made[k]->size(), QSize(64, 56));
-            // Rows and columns touch: 64 by 56 pixels apart, inside a one-pixel border.
-            QCOMPARE(made[k]->pos(), QPoint(1 + 64 * cells[k].x(), 1 + 56 * cells[k].y()));
+            // 64 by 56 tiles touching each other inside the one-pixel border.
+            QCOMPARE(made[k]->geometry(), QRect(1 + 64 * cells[k].x(), 1 + 56 * cells[k].y(), 64, 56));
         }
     }
 
     void listsAndLines()
     {
         Actions a;
-        const QList<RibbonSimpleAction *> top{a.add(QStringLiteral("Print Layout")), a.separator(),
-                                              a.add(QStringLiteral("Web Layout")), nullptr};
-        const QList<RibbonSimpleAction *> bottom{a.add(QStringLiteral("Zoom...")), a.separator(),
-                                                 a.separator(), a.add(QStringLiteral("Options"))};
+        const QList<RibbonSimpleAction *> top{a.add(QStringLiteral("Print Layout")), new RibbonSeparatorAction(&a.owner),
+                                              a.add(QStringLiteral("&Web Layout")), nullptr};
+        const QList<RibbonSimpleAction *> bottom{a.add(QString()), new RibbonSeparatorAction(&a.owner)};
         RibbonViewPopup popup(top, bottom, a.group(QStringLiteral("11")), nullptr);
-        QCOMPARE(texts(popup.buttons()),
-                 (QStringList{"Print Layout", "Web Layout", "Tile 0", "Tile 1", "Zoom...", "Options"}));
+        QCOMPARE(texts(popup.buttons()), (QStringList{"Print Layout", "&Web Layout", "Tile 0", "Tile 1", ""}));
         QVERIFY(shown(popup));
         QCOMPARE(popup.size(), popup.sizeHint());
-        QCOMPARE(popup.getWidgetWidth(), popup.width());
-        QCOMPARE(popup.getWidgetHeight(), popup.height());
+        QCOMPARE(QSize(popup.getWidgetWidth(), popup.getWidgetHeight()), popup.size());
 
-        // Separators become lines starting right of the gutter: 36 pixels into the list.
-        const QList<QFrame *> lines = listLines(popup);
-        QCOMPARE(lines.size(), 3);
-        for (const QFrame *line : lines) {
+        // Rows are 26 pixels high, scaled; a row without text is the gutter and margins.
+        const RibbonViewButton *empty = popup.buttons().last();
+        QCOMPARE(empty->sizeHint(), QSize(56, RibbonApplication::theApp().dpiFactor().second > 1.25 ? 39 : 26));
+        QVERIFY(popup.buttons().at(1)->sizeHint().width() > 56 + 30);
+
+        // Separators become lines starting right of the gutter, 36 pixels into the list;
+        // the first one lies between the two top rows.
+        const QList<QFrame *> all = lines(popup);
+        QCOMPARE(all.size(), 4);
+        for (const QFrame *line : all.mid(2)) {
             QCOMPARE(line->x(), 1 + 36);
             QCOMPARE(line->geometry().right(), popup.width() - 2);
-            QCOMPARE(line->frameShadow(), QFrame::Sunken);
         }
-        // Top to bottom: rows, lines and sections in order, nothing overlapping.
-        QList<QWidget *> column;
-        for (RibbonViewButton *entry : popup.buttons())
-            column << entry;
-        column << lines[0] << lines[1] << lines[2];
-        std::sort(column.begin(), column.end(), [](QWidget *x, QWidget *y) { return x->y() < y->y(); });
-        QCOMPARE(column.at(1), static_cast<QWidget *>(lines[0])); // between the two top rows
-        for (int i = 1; i < column.size(); ++i) {
-            if (column[i]->y() != column[i - 1]->y()) // tiles share their row
-                QVERIFY(column[i]->y() > column[i - 1]->geometry().bottom());
-        }
+        QVERIFY(all[2]->y() > popup.buttons().at(0)->geometry().bottom());
+        QVERIFY(all[2]->geometry().bottom() < popup.buttons().at(1)->y());
     }
 
     void sectionLines_data()
@@ -237,13 +191,12 @@ private slots:
         QTest::addColumn<bool>("top");
         QTest::addColumn<bool>("grid");
         QTest::addColumn<bool>("bottom");
-        QTest::addColumn<QList<bool>>("lines"); // below the top list, below the grid
+        QTest::addColumn<QList<bool>>("shown"); // below the top list, below the grid
         QTest::newRow("all three") << true << true << true << QList<bool>{true, true};
         QTest::newRow("grid only") << false << true << false << QList<bool>{false, false};
         QTest::newRow("lists only") << true << false << true << QList<bool>{true, false};
         QTest::newRow("grid and bottom") << false << true << true << QList<bool>{false, true};
         QTest::newRow("top and grid") << true << true << false << QList<bool>{true, false};
-        QTest::newRow("empty") << false << false << false << QList<bool>{false, false};
     }
 
     // A line separates two sections that are there, never an empty one.
@@ -252,37 +205,15 @@ private slots:
         QFETCH(bool, top);
         QFETCH(bool, grid);
         QFETCH(bool, bottom);
-        QFETCH(QList<bool>, lines);
+        QFETCH(QList<bool>, shown);
         Actions a;
-        QList<RibbonSimpleAction *> topList, bottomList;
-        if (top)
-            topList << a.add(QStringLiteral("Top"));
-        if (bottom)
-            bottomList << a.add(QStringLiteral("Bottom"));
-        RibbonViewPopup popup(topList, bottomList, grid ? a.group(QStringLiteral("1")) : nullptr, nullptr);
-        QVERIFY(shown(popup));
-        QCOMPARE(sectionLinesShown(popup), lines);
-    }
-
-    void entrySizes()
-    {
-        Actions a;
-        RibbonViewPopup popup({a.add(QString()), a.add(QStringLiteral("&Web Layout"))}, {},
-                              a.group(QStringLiteral("1")), nullptr);
-        const QList<RibbonViewButton *> entries = popup.buttons();
-        const int rowHeight = highResolution() ? 39 : 26;
-        QCOMPARE(entries[0]->sizeHint(), QSize(56, rowHeight)); // gutter and margins only
-        QCOMPARE(entries[1]->sizeHint().height(), rowHeight);
-        QVERIFY(entries[1]->sizeHint().width() > 56 + 30);
-        QCOMPARE(entries[2]->sizeHint(), QSize(64, 56));
-        QCOMPARE(entries[1]->sizePolicy().verticalPolicy(), QSizePolicy::Fixed);
-        QCOMPARE(entries[1]->sizePolicy().horizontalPolicy(), QSizePolicy::Minimum);
-
-        // A longer text makes the row wider; the popup takes the widest row.
-        const int before = entries[1]->sizeHint().width();
-        entries[1]->action()->setText(QStringLiteral("&Web Layout with a long name"));
-        QVERIFY(entries[1]->sizeHint().width() > before);
-        QCOMPARE(popup.sizeHint().width(), entries[1]->sizeHint().width() + 2);
+        RibbonViewPopup popup(top ? QList<RibbonSimpleAction *>{a.add(QStringLiteral("Top"))} : QList<RibbonSimpleAction *>(),
+                              bottom ? QList<RibbonSimpleAction *>{a.add(QStringLiteral("Bottom"))}
+                                     : QList<RibbonSimpleAction *>(),
+                              grid ? a.group(QStringLiteral("1")) : nullptr, nullptr);
+        QVERIFY(::shown(popup));
+        const QList<QFrame *> all = lines(popup);
+        QCOMPARE((QList<bool>{all[0]->isVisible(), all[1]->isVisible()}), shown);
     }
 
     void entryFollowsItsAction()
@@ -295,25 +226,21 @@ private slots:
         action->setFont(big);
         action->setToolTip(QStringLiteral("Draft view"));
         RibbonViewButton entry(action, true, true, false, nullptr);
-        QCOMPARE(entry.text(), QStringLiteral("Draft"));
         QCOMPARE(entry.toolTip(), QStringLiteral("Draft view"));
         QCOMPARE(entry.font().pointSize(), 8);
         QVERIFY(entry.font().italic());
-        QVERIFY(!entry.icon().isNull());
-        QCOMPARE(entry.focusPolicy(), Qt::StrongFocus);
-        QVERIFY(entry.hasMouseTracking());
+        const int width = entry.sizeHint().width();
 
-        action->setText(QStringLiteral("Outline"));
+        action->setText(QStringLiteral("Outline view of the document"));
         action->setEnabled(false);
-        action->setIcon(QIcon());
-        QCOMPARE(entry.text(), QStringLiteral("Outline"));
+        QCOMPARE(entry.text(), action->text());
+        QVERIFY(entry.sizeHint().width() > width);
         QVERIFY(!entry.isEnabled());
-        QVERIFY(entry.icon().isNull());
 
         delete action;
         QVERIFY(!entry.action());
         entry.resize(entry.sizeHint());
-        QVERIFY(!grabImage(&entry).isNull()); // paints without its action
+        entry.grab(); // paints without its action
     }
 
     void clicks_data()
@@ -325,7 +252,6 @@ private slots:
         QTest::newRow("press on one entry, release on another") << 2 << false;
         QTest::newRow("press, release off the entry") << 3 << false;
         QTest::newRow("release carrying no button") << 4 << false;
-        QTest::newRow("right button") << 5 << true;
     }
 
     void clicks()
@@ -342,7 +268,6 @@ private slots:
         RibbonViewButton *two = popup->buttons().at(1);
         QSignalSpy firstTriggered(first, &QAction::triggered);
         QSignalSpy secondTriggered(second, &QAction::triggered);
-        QSignalSpy clicked(one, &QAbstractButton::clicked);
         QSignalSpy buttonClicked(one, &RibbonViewButton::buttonClicked);
         const QPoint centre = one->rect().center();
 
@@ -361,79 +286,54 @@ private slots:
             QTest::mousePress(one, Qt::LeftButton, Qt::NoModifier, centre);
             QTest::mouseRelease(one, Qt::LeftButton, Qt::NoModifier, QPoint(centre.x(), one->height() + 5));
             break;
-        case 4: {
+        default: {
             QTest::mousePress(one, Qt::LeftButton, Qt::NoModifier, centre);
             QMouseEvent release(QEvent::MouseButtonRelease, centre, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
             QCoreApplication::sendEvent(one, &release);
-            // The press is spent: a later release alone does nothing either.
+            // That release spent the press: a later one alone does nothing either.
             QTest::mouseRelease(one, Qt::LeftButton, Qt::NoModifier, centre);
             break;
         }
-        default:
-            QTest::mouseClick(one, Qt::RightButton, Qt::NoModifier, centre);
-            break;
         }
         QCOMPARE(firstTriggered.count(), triggers ? 1 : 0);
         QCOMPARE(secondTriggered.count(), 0);
-        QCOMPARE(clicked.count(), triggers ? 1 : 0);
         QCOMPARE(buttonClicked.count(), triggers ? 1 : 0);
         if (triggers) {
             QCOMPARE(buttonClicked.at(0).at(0).value<RibbonSimpleAction *>(), first);
             QTRY_VERIFY(!popup);
         } else {
             QVERIFY(popup->isVisible());
-            popup->close();
         }
-    }
-
-    void disabledEntryIgnoresClicks()
-    {
-        Actions a;
-        RibbonSimpleAction *off = a.add(QStringLiteral("Off"));
-        off->setEnabled(false);
-        RibbonViewPopup popup({off}, {}, nullptr, nullptr);
-        QVERIFY(shown(popup));
-        QSignalSpy triggered(off, &QAction::triggered);
-        QTest::mouseClick(popup.buttons().at(0), Qt::LeftButton);
-        QCOMPARE(triggered.count(), 0);
-        QVERIFY(popup.isVisible());
     }
 
     void hoverMarker()
     {
         Actions a;
         RibbonViewPopup popup({a.add(QStringLiteral("First")), a.add(QStringLiteral("Second"))}, {},
-                              a.group(QStringLiteral("11")), nullptr);
+                              a.group(QStringLiteral("1")), nullptr);
         QVERIFY(shown(popup));
-        RibbonViewButton *first = popup.buttons().at(0);
-        RibbonViewButton *second = popup.buttons().at(1);
-        RibbonViewButton *tile = popup.buttons().at(2);
+        const QList<RibbonViewButton *> entries = popup.buttons();
         QVERIFY(!popup.hoveredButton());
 
         // The marker's left edge is the caption image's left column, its right edge the
         // arrow image's right column; both are opaque in their middle.
         const QColor left = style().horizontalMenuButtonCaption().toImage().pixelColor(0, 11);
         const QColor right = style().horizontalMenuButtonMenu().toImage().pixelColor(10, 11);
-        QCOMPARE(left.alpha(), 255);
-        QCOMPARE(right.alpha(), 255);
+        QVERIFY(left.alpha() == 255 && right.alpha() == 255);
         const auto marked = [&](RibbonViewButton *entry) {
             const QImage image = grabImage(entry);
             const int y = entry->height() / 2;
             return image.pixelColor(0, y) == left.rgb() && image.pixelColor(entry->width() - 1, y) == right.rgb();
         };
-        QVERIFY(!marked(first) && !marked(second) && !marked(tile));
-
-        QTest::mouseMove(first, QPoint(40, 5));
-        QTRY_COMPARE(popup.hoveredButton(), first);
-        QVERIFY(marked(first));
-        QTest::mouseMove(second, QPoint(40, 5));
-        QTRY_COMPARE(popup.hoveredButton(), second);
-        QVERIFY(marked(second));
-        QVERIFY(!marked(first));
-        QTest::mouseMove(tile, QPoint(30, 30));
-        QTRY_COMPARE(popup.hoveredButton(), tile);
-        QVERIFY(marked(tile));
-        QVERIFY(!marked(second));
+        for (RibbonViewButton *entry : entries)
+            QVERIFY(!marked(entry));
+        for (int i = 0; i < entries.size(); ++i) {
+            QTest::mouseMove(entries[i], QPoint(30, 5));
+            QTRY_COMPARE(popup.hoveredButton(), entries[i]);
+            QVERIFY(marked(entries[i]));
+            if (i > 0)
+                QVERIFY(!marked(entries[i - 1]));
+        }
     }
 
     void checkMark()
@@ -441,13 +341,13 @@ private slots:
         Actions a;
         RibbonSimpleAction *plain = a.add(QStringLiteral("Plain"));
         RibbonSimpleAction *checked = a.add(QStringLiteral("Checked"));
-        RibbonSimpleAction *checkedWithIcon = a.add(QStringLiteral("Checked"), flatIcon(Qt::red, 16));
-        RibbonSimpleAction *uncheckedWithIcon = a.add(QStringLiteral("Checked"), flatIcon(Qt::red, 16));
-        for (RibbonSimpleAction *action : {plain, checked, checkedWithIcon, uncheckedWithIcon})
+        RibbonSimpleAction *checkedWithIcon = a.add(QStringLiteral("Checked"), flatIcon(Qt::red));
+        RibbonSimpleAction *withIcon = a.add(QStringLiteral("Checked"), flatIcon(Qt::red));
+        for (RibbonSimpleAction *action : {plain, checked, checkedWithIcon, withIcon})
             action->setCheckable(true);
         checked->setChecked(true);
         checkedWithIcon->setChecked(true);
-        RibbonViewPopup popup({plain, checked, checkedWithIcon, uncheckedWithIcon}, {}, nullptr, nullptr);
+        RibbonViewPopup popup({plain, checked, checkedWithIcon, withIcon}, {}, nullptr, nullptr);
         QVERIFY(shown(popup));
         const QList<RibbonViewButton *> rows = popup.buttons();
         QImage image[4];
@@ -456,18 +356,16 @@ private slots:
         const int h = rows[0]->height();
         const QRect mark(8, (h - 16) / 2, 16, 16); // a 16-pixel image centred in the 32-pixel gutter
 
-        // No icon: the check mark appears in the gutter of the checked row only.
+        // Without an icon, the mark shows in the gutter of the checked row; with one, the icon.
         QVERIFY(image[0].copy(mark) != image[1].copy(mark));
-        // With an icon the icon shows, not the mark.
         QVERIFY(image[2].copy(mark) != image[1].copy(mark));
         QCOMPARE(image[2].pixelColor(mark.center()), QColor(Qt::red));
-        // The marker lies behind the 32-pixel gutter of a checked row, not behind its text.
+        // The marker lies behind the gutter of a checked row, not behind its text.
         const QColor right = style().horizontalMenuButtonMenu().toImage().pixelColor(10, 11);
         QCOMPARE(image[2].pixelColor(31, h / 2), right);
         QVERIFY(image[3].pixelColor(31, h / 2) != right);
         QCOMPARE(image[2].pixelColor(rows[2]->width() - 1, h / 2), image[3].pixelColor(rows[3]->width() - 1, h / 2));
-
-        // Disabled, a checked row still shows its marker and its mark.
+        // So does a disabled one.
         checked->setEnabled(false);
         QCOMPARE(grabImage(rows[1]).pixelColor(31, h / 2), right);
     }
@@ -479,7 +377,6 @@ private slots:
         QTest::newRow("both gutters") << true << true;
         QTest::newRow("top only") << true << false;
         QTest::newRow("bottom only") << false << true;
-        QTest::newRow("no gutters, centred") << false << false;
     }
 
     void painting()
@@ -488,15 +385,13 @@ private slots:
         QFETCH(bool, bottomIcons);
         Actions a;
         RibbonViewPopup popup({a.add(QStringLiteral("Top"))}, {a.add(QStringLiteral("Bottom"))},
-                              a.group(QStringLiteral("1")), 4, topIcons, bottomIcons, !topIcons, nullptr);
+                              a.group(QStringLiteral("1")), 4, topIcons, bottomIcons, false, nullptr);
         QVERIFY(shown(popup));
         const QImage image = grabImage(&popup);
         QCOMPARE(image.pixelColor(0, 0), kOutline);
         QCOMPARE(image.pixelColor(popup.width() - 1, popup.height() - 1), kOutline);
-        const RibbonViewButton *top = popup.buttons().first();
-        const RibbonViewButton *bottom = popup.buttons().last();
-        const int topY = top->y() + 2;
-        const int bottomY = bottom->y() + 2;
+        const int topY = popup.buttons().first()->y() + 2;
+        const int bottomY = popup.buttons().last()->y() + 2;
         QCOMPARE(image.pixelColor(3, topY), topIcons ? kGutter : kBackground);
         QCOMPARE(image.pixelColor(1 + 32, topY), topIcons ? kOutline : kBackground);
         QCOMPARE(image.pixelColor(3, bottomY), bottomIcons ? kGutter : kBackground);
@@ -504,18 +399,17 @@ private slots:
         QCOMPARE(image.pixelColor(popup.width() - 4, topY), kBackground);
     }
 
-    // A view-popup menu command opens the view popup of its lists and group, and
-    // opening and closing it leaves nothing behind.
+    // A view-popup menu command opens the view popup of its lists and group; the focus
+    // comes back when it closes, and a thousand openings leave nothing behind.
     void openedByAMenuCommand()
     {
         RibbonCatMenuAction layout(QStringLiteral("Layout"), RibbonCatMenuAction::MenuTypeButton,
                                    RibbonCatMenuAction::MenuSizeLarge, RibbonCatMenuAction::PopupView, nullptr);
-        RibbonSimpleAction print(QStringLiteral("Print Layout"), nullptr);
-        RibbonSimpleAction options(QStringLiteral("Options..."), nullptr);
-        RibbonSimpleAction page(QStringLiteral("Page"), nullptr);
-        layout.addTopAction(&print);
-        layout.addBottomAction(&options);
-        layout.iconActionGroup()->addAction(&page);
+        Actions a;
+        layout.addTopAction(a.add(QStringLiteral("Print Layout")));
+        RibbonSimpleAction *options = a.add(QStringLiteral("Options..."));
+        layout.addBottomAction(options);
+        layout.iconActionGroup()->addAction(a.add(QStringLiteral("Page")));
         QWidget window;
         auto *row = new QHBoxLayout(&window);
         auto *edit = new QLineEdit(&window);
@@ -527,21 +421,16 @@ private slots:
         edit->setFocus();
         QVERIFY(QTest::qWaitForWindowExposed(&window));
 
-        const auto open = [button]() -> RibbonViewPopup * {
+        const auto open = [button] {
             QTest::mousePress(button, Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));
             auto *popup = qobject_cast<RibbonViewPopup *>(QApplication::activePopupWidget());
-            if (popup) {
-                QCoreApplication::processEvents();
-                if (!popup->windowHandle()->isExposed() && !QTest::qWaitForWindowExposed(popup))
-                    return nullptr;
-            }
-            return popup;
+            return zelPopupShown(popup) ? popup : nullptr;
         };
         QPointer<RibbonViewPopup> popup = open();
         QVERIFY(popup);
         QCOMPARE(texts(popup->buttons()), (QStringList{"Print Layout", "Page", "Options..."}));
         QCOMPARE(popup->pos(), button->mapToGlobal(QPoint(0, button->height())));
-        QSignalSpy triggered(&options, &QAction::triggered);
+        QSignalSpy triggered(options, &QAction::triggered);
         QTest::mouseClick(popup->buttons().last(), Qt::LeftButton);
         QCOMPARE(triggered.count(), 1);
         QTRY_VERIFY(!popup);
@@ -560,8 +449,8 @@ private slots:
         QCOMPARE(QApplication::focusWidget(), edit);
     }
 
-    // Actions that die while the popup is open leave entries that do nothing.
-    void actionsDestroyedWhileOpen()
+    // An entry whose action died while the popup is open still closes it, and triggers nothing.
+    void actionDestroyedWhileOpen()
     {
         Actions a;
         RibbonSimpleAction *gone = a.add(QStringLiteral("Gone"));
@@ -571,7 +460,7 @@ private slots:
         RibbonViewButton *entry = popup.buttons().at(0);
         QVERIFY(!entry->action());
         QTest::mouseClick(entry, Qt::LeftButton);
-        QTRY_VERIFY(!popup.isVisible()); // the click still closes the popup
+        QTRY_VERIFY(!popup.isVisible());
     }
 };
 
