@@ -3,6 +3,7 @@
 #include "DemoIcons.h"
 #include "EditorDemoIcons.h"
 #include "EditorDemoPickers.h"
+#include "EditorGalleries.h"
 
 #include "BackstageListModel.h"
 #include "BackstageView.h"
@@ -109,6 +110,14 @@ public:
         relayout();
     }
     int zoom() const { return m_zoom; }
+    // A page column of fixed width (print layout) or text across the window (web layout).
+    void setPrintLayout(bool on)
+    {
+        if (on == m_printLayout)
+            return;
+        m_printLayout = on;
+        relayout();
+    }
     void setBaseSize(qreal points)
     {
         m_baseSize = points;
@@ -141,13 +150,15 @@ private:
     {
         // A page column that grows with the zoom, centred on the grey desk.
         const int pageWidth = int(std::lround(760 * m_zoom / 100.0));
-        const int side = qMax(0, (width() - verticalScrollBar()->sizeHint().width() - pageWidth) / 2);
+        const int side =
+            m_printLayout ? qMax(0, (width() - verticalScrollBar()->sizeHint().width() - pageWidth) / 2) : 0;
         setViewportMargins(side, 0, side, 0);
         document()->setDocumentMargin(qMax(16, 56 * m_zoom / 100));
     }
 
     int m_zoom = 100;
     qreal m_baseSize = 11;
+    bool m_printLayout = true;
 };
 
 // Rows of the Open page's recent list: name, folder and a pin at the right.
@@ -579,51 +590,7 @@ RibbonCategoriesPanelAction *EditorDemo::buildHomeTab()
     paragraph->addAction(align, 1);
     d->home->addCategory(paragraph);
 
-    auto *styles = new RibbonCategoryAction(editorIcon(EditorIcon::StyleHeading1), tr("Styles"), this);
-    struct StyleDef
-    {
-        EditorIcon icon;
-        QString name;
-        int heading;
-        qreal points;
-        QColor color;
-        bool italic;
-        int weight;
-    };
-    const QList<StyleDef> styleDefs = {
-        {EditorIcon::StyleNormal, tr("Normal"), 0, 0, QColor(), false, QFont::Normal},
-        {EditorIcon::StyleTitle, tr("Title"), 1, 26, QColor(0x26, 0x26, 0x26), false, QFont::Light},
-        {EditorIcon::StyleHeading1, tr("Heading 1"), 1, 20, EditorColors::Accent, false, QFont::Normal},
-        {EditorIcon::StyleHeading2, tr("Heading 2"), 2, 15, EditorColors::Accent, false, QFont::Normal},
-        {EditorIcon::StyleQuote, tr("Quote"), 0, 0, QColor(0x66, 0x66, 0x66), true, QFont::Normal}};
-    for (const StyleDef &style : styleDefs) {
-        RibbonCatSimpleAction *a = command(this, style.icon, style.name, S::SizeLarge);
-        a->setToolTip(tr("Format the paragraph as %1").arg(style.name));
-        styles->addAction(a, -1);
-        connect(a, &QAction::triggered, this, [this, style] {
-            QTextCursor cursor = d->edit->textCursor();
-            cursor.beginEditBlock();
-            QTextBlockFormat block = cursor.blockFormat();
-            block.setHeadingLevel(style.heading);
-            cursor.setBlockFormat(block);
-            QTextCharFormat chars;
-            if (style.points > 0)
-                chars.setFontPointSize(style.points);
-            if (style.color.isValid())
-                chars.setForeground(style.color);
-            chars.setFontItalic(style.italic);
-            chars.setFontWeight(style.weight);
-            // The whole paragraph takes the style, as in any word processor.
-            QTextCursor whole = cursor;
-            whole.setPosition(cursor.block().position());
-            whole.setPosition(cursor.block().position() + cursor.block().length() - 1, QTextCursor::KeepAnchor);
-            whole.setCharFormat(chars);
-            cursor.endEditBlock();
-            d->edit->mergeCurrentCharFormat(chars);
-            d->edit->setFocus();
-        });
-    }
-    d->home->addCategory(styles);
+    d->home->addCategory(buildStylesCategory(d->edit, this));
 
     auto *editing = new RibbonCategoryAction(editorIcon(EditorIcon::Find), tr("Editing"), this);
     auto *find = command(this, EditorIcon::Find, tr("Find"), S::SizeLarge);
@@ -849,6 +816,8 @@ RibbonCategoriesPanelAction *EditorDemo::buildViewTab()
     d->minimise->setToolTip(tr("Show only the tab names (Ctrl+F1)"));
     connect(d->minimise, &QAction::triggered, this, [this](bool on) { ribbonMenuBar().setMinimizeRibbon(on); });
     ribbonCategory->addAction(d->minimise, -1);
+    viewTab->addCategory(buildLayoutCategory(d->zoom, d->edit, [this](bool print) { d->edit->setPrintLayout(print); },
+                                             this));
     viewTab->addCategory(ribbonCategory);
     connect(zoomIn, &QAction::triggered, this, [this] { zoomStep(1); });
     connect(zoomOut, &QAction::triggered, this, [this] { zoomStep(-1); });

@@ -4,9 +4,11 @@
 #include "EditorDemo.h"
 
 #include "BackstageView.h"
+#include "OfficePopupButton.h"
 #include "RibbonButtonMain.h"
 #include "RibbonCatColorMenuAction.h"
 #include "RibbonCatColorMenuButton.h"
+#include "RibbonCatListPreview.h"
 #include "RibbonCatMenuAction.h"
 #include "RibbonCatMenuButton.h"
 #include "RibbonMenuBar.h"
@@ -93,6 +95,31 @@ void showTab(EditorDemo &w, const QString &name)
     }
 }
 
+// Opens the full list of the first visible in-ribbon gallery (the styles on the Home tab).
+void openStylesGallery(EditorDemo &w)
+{
+    for (zel::RibbonCatListPreview *gallery : w.findChildren<zel::RibbonCatListPreview *>()) {
+        if (gallery->isVisible()) {
+            gallery->popupButton()->click();
+            return;
+        }
+    }
+}
+
+// Opens the view popup of the first visible menu button that has one (Page Layout on View).
+void openViewPopup(EditorDemo &w)
+{
+    for (zel::RibbonCatMenuButton *button : w.findChildren<zel::RibbonCatMenuButton *>()) {
+        if (button->isVisible() && button->action()
+            && button->action()->popupType() == zel::RibbonCatMenuAction::PopupView) {
+            QMouseEvent press(QEvent::MouseButtonPress, QPoint(5, 5), button->mapToGlobal(QPoint(5, 5)),
+                              Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+            QCoreApplication::sendEvent(button, &press);
+            return;
+        }
+    }
+}
+
 } // namespace
 
 int writeEditorScreenshots(const QDir &dir)
@@ -164,6 +191,17 @@ int writeEditorScreenshots(const QDir &dir)
              w.selectFirstPicture();
              w.editor()->ensureCursorVisible();
              w.activateContextTab(QStringLiteral("Format"));
+         }},
+        {QStringLiteral("editor-styles-gallery"), QSize(1100, 520), [](EditorDemo &w) {
+             w.showMainView();
+             settle();
+             openStylesGallery(w);
+         }},
+        {QStringLiteral("editor-view-popup"), QSize(1000, 520), [](EditorDemo &w) {
+             w.showMainView();
+             showTab(w, QStringLiteral("View"));
+             settle();
+             openViewPopup(w);
          }},
     };
 
