@@ -2,14 +2,20 @@
 // editor comes up as a real window on an X server with the ribbon in place.
 
 #include "EditorDemo.h"
+#include "NavigationPane.h"
 
 #include "BackstageView.h"
 #include "RibbonButtonMain.h"
 #include "RibbonMenuBar.h"
+#include "RibbonOptionsButton.h"
+#include "RibbonOptionsDialog.h"
+#include "RibbonStackedButton.h"
+#include "RibbonWindow.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QImage>
 #include <QPixmap>
 #include <QScreen>
@@ -49,7 +55,36 @@ void seedSettings(QSettings &settings)
     for (const auto &entry : entries)
         recent.append(QVariant(QVariantList{entry.first, entry.second}));
     settings.setValue(QStringLiteral("editor/recentDocuments"), recent);
+    settings.setValue(QStringLiteral("options/author"), QStringLiteral("Anna Berg"));
     settings.sync();
+}
+
+// Two more documents for the shots that show several open at once.
+QStringList writeDocuments(const QDir &dir)
+{
+    const QList<QPair<QString, QString>> documents = {
+        {QStringLiteral("Landlord.html"),
+         QStringLiteral("<h1>Letter to the landlord</h1><p>Dear Mr Holm,</p><h2>The heating</h2>"
+                        "<p>The radiators in the living room stay cold since March.</p><h2>The windows</h2>"
+                        "<p>Two frames no longer close.</p><p>Kind regards,<br>Anna Berg</p>")},
+        {QStringLiteral("Timeline.html"),
+         QStringLiteral("<h1>Harbour timeline</h1><h2>Spring</h2><p>Quay wall.</p><h2>Summer</h2>"
+                        "<p>Dredging.</p><h2>Autumn</h2><p>Walkway.</p>")}};
+    QStringList paths;
+    for (const auto &document : documents) {
+        QFile file(dir.filePath(document.first));
+        if (file.open(QIODevice::WriteOnly))
+            file.write(document.second.toUtf8());
+        paths.append(file.fileName());
+    }
+    return paths;
+}
+
+// The screenshot has no mouse: a button is shown hovered by telling it the mouse is on it.
+void showHovered(QWidget *widget)
+{
+    widget->setAttribute(Qt::WA_UnderMouse, true);
+    widget->update();
 }
 
 void showTab(EditorDemo &w, const QString &name)
@@ -72,12 +107,15 @@ int writeEditorScreenshots(const QDir &dir)
     }
     QSettings settings(tmp.filePath(QStringLiteral("editor.ini")), QSettings::IniFormat);
     seedSettings(settings);
+    const QStringList documents = writeDocuments(QDir(tmp.path()));
 
     struct Shot
     {
         QString name;
         QSize size;
         std::function<void(EditorDemo &)> prepare;
+        // What to grab instead of the editor's window (a dialog, a secondary window).
+        std::function<QWidget *(EditorDemo &)> target;
     };
     const QList<Shot> shots = {
         {QStringLiteral("editor-main"), QSize(1280, 800), [](EditorDemo &w) {
@@ -117,6 +155,47 @@ int writeEditorScreenshots(const QDir &dir)
              w.editor()->ensureCursorVisible();
              w.activateContextTab(QStringLiteral("Format"));
          }},
+        // Three documents, the second current; the Navigation panel lists its headings.
+        {QStringLiteral("editor-documents"), QSize(1280, 800), [documents](EditorDemo &w) {
+             w.showMainView();
+             for (const QString &path : documents)
+                 w.openDocument(path);
+             w.setCurrentDocument(1);
+             QTextCursor cursor = w.editor()->textCursor();
+             cursor.movePosition(QTextCursor::NextBlock, QTextCursor::MoveAnchor, 3);
+             w.editor()->setTextCursor(cursor);
+             showTab(w, QStringLiteral("View"));
+         }},
+        {QStringLiteral("editor-navigation-floating"), QSize(1000, 640), [](EditorDemo &w) {
+             w.showMainView();
+             w.navigationPane().undock();
+         }, [](EditorDemo &w) -> QWidget * { return w.navigationPane().floatingWindow(); }},
+        {QStringLiteral("editor-options"), QSize(1000, 640), [](EditorDemo &w) {
+             zel::RibbonOptionsDialog *dialog = w.showOptions();
+             const QList<zel::RibbonOptionsButton *> pages = dialog->findChildren<zel::RibbonOptionsButton *>();
+             if (pages.size() > 1)
+                 showHovered(pages.at(1));
+         }, [](EditorDemo &w) -> QWidget * { return w.findChild<zel::RibbonOptionsDialog *>(); }},
+        {QStringLiteral("editor-options-view"), QSize(1000, 640), [](EditorDemo &w) {
+             zel::RibbonOptionsDialog *dialog = w.showOptions();
+             const QList<zel::RibbonOptionsButton *> pages = dialog->findChildren<zel::RibbonOptionsButton *>();
+             if (pages.size() > 1)
+                 pages.at(1)->click();
+         }, [](EditorDemo &w) -> QWidget * { return w.findChild<zel::RibbonOptionsDialog *>(); }},
+        {QStringLiteral("editor-info"), QSize(1280, 800), [](EditorDemo &w) {
+             w.showBackstagePage(QStringLiteral("Info"));
+             for (zel::RibbonStackedButton *button : w.findChildren<zel::RibbonStackedButton *>()) {
+                 if (button->text() == QLatin1String("Statistics"))
+                     showHovered(button);
+             }
+         }},
+        {QStringLiteral("editor-info-statistics"), QSize(1280, 800), [](EditorDemo &w) {
+             w.showBackstagePage(QStringLiteral("Info"));
+             for (zel::RibbonStackedButton *button : w.findChildren<zel::RibbonStackedButton *>()) {
+                 if (button->text() == QLatin1String("Statistics"))
+                     button->click();
+             }
+         }},
     };
 
     for (const Shot &shot : shots) {
@@ -130,8 +209,9 @@ int writeEditorScreenshots(const QDir &dir)
         window->resize(shot.size);
         window->editor()->setFocus();
         settle();
+        QWidget *target = shot.target ? shot.target(*window) : window.get();
         const QString file = dir.filePath(shot.name + QStringLiteral(".png"));
-        if (!window->grab().save(file)) {
+        if (!target || !target->grab().save(file)) {
             out << "Cannot write " << file << '\n';
             return 1;
         }
