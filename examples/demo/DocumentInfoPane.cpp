@@ -65,7 +65,7 @@ DocumentInfoPane::DocumentInfoPane(const QList<QPair<QString, QString>> &shortcu
     addItem(keys, tr("Keyboard shortcuts"));
 }
 
-QLabel *DocumentInfoPane::addRow(QFormLayout *form, const QString &name)
+void DocumentInfoPane::addRow(QFormLayout *form, const QString &name)
 {
     auto *label = new QLabel;
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -73,16 +73,6 @@ QLabel *DocumentInfoPane::addRow(QFormLayout *form, const QString &name)
     caption->setStyleSheet(QStringLiteral("color: #666666;"));
     form->addRow(caption, label);
     m_rows.append({name, label});
-    return label;
-}
-
-QString DocumentInfoPane::value(const QString &name) const
-{
-    for (const auto &row : m_rows) {
-        if (row.first == name)
-            return row.second->text();
-    }
-    return QString();
 }
 
 void DocumentInfoPane::showDocument(const Facts &facts, const QTextDocument &document)

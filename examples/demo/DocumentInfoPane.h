@@ -27,11 +27,8 @@ public:
     };
     void showDocument(const Facts &facts, const QTextDocument &document);
 
-    // The rows of the information and statistics panes, for the demo's own checks.
-    QString value(const QString &name) const;
-
 private:
-    QLabel *addRow(QFormLayout *form, const QString &name);
+    void addRow(QFormLayout *form, const QString &name);
 
     QList<QPair<QString, QLabel *>> m_rows;
 };

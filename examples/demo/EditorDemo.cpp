@@ -62,6 +62,7 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <cmath>
 
 using namespace zel;
@@ -158,7 +159,10 @@ private:
         const int pageWidth = int(std::lround(760 * m_zoom / 100.0));
         const int side = qMax(0, (width() - verticalScrollBar()->sizeHint().width() - pageWidth) / 2);
         setViewportMargins(side, 0, side, 0);
+        // The margin is a format change of the document, which would count as an edit.
+        const bool modified = document()->isModified();
         document()->setDocumentMargin(qMax(16, 56 * m_zoom / 100));
+        document()->setModified(modified);
     }
 
     int m_zoom = 100;
@@ -425,13 +429,19 @@ struct EditorDemo::Priv
         return document->path.isEmpty() ? EditorDemo::tr("Document%1").arg(document->untitled)
                                         : QFileInfo(document->path).fileName();
     }
-    int indexOf(const Document *document) const
+    // Documents are counted in the order of their tabs, which the user may change.
+    int tabIndex(const Document *document) const
     {
-        for (size_t i = 0; i < documents.size(); ++i) {
-            if (documents[i].get() == document)
-                return int(i);
+        return document ? tabs->menuActions().indexOf(document->tab) : -1;
+    }
+    Document *atTab(int index) const
+    {
+        const RibbonAction *tab = tabs->menuActions().value(index);
+        for (const auto &document : documents) {
+            if (tab && document->tab == tab)
+                return document.get();
         }
-        return -1;
+        return nullptr;
     }
 
     BackstageListModel *recent = nullptr;
@@ -555,8 +565,7 @@ EditorDemo::Document *EditorDemo::createDocument()
     raw->edit->setFont(documentFont());
     raw->edit->setBaseSize(documentFont().pointSizeF());
     raw->edit->setZoom(d->preferences->defaultZoom());
-    // Setting up the page margins counts as an edit; a new document starts unchanged.
-    raw->edit->document()->setModified(false);
+    // Nothing to undo in a new document, not even the page margins.
     raw->edit->document()->clearUndoRedoStacks();
     raw->untitled = d->nextUntitled++;
     d->pages->addWidget(raw->edit);
@@ -600,8 +609,9 @@ void EditorDemo::activate(Document *document)
 
 void EditorDemo::removeDocument(Document *document)
 {
-    const int index = d->indexOf(document);
-    if (index < 0)
+    const auto owned = std::find_if(d->documents.begin(), d->documents.end(),
+                                    [document](const auto &candidate) { return candidate.get() == document; });
+    if (owned == d->documents.end())
         return;
     if (d->current == document) {
         d->current = nullptr;
@@ -611,7 +621,7 @@ void EditorDemo::removeDocument(Document *document)
     d->tabs->removeAction(document->tab);
     delete document->tab;
     delete document->edit;
-    d->documents.erase(d->documents.begin() + index);
+    d->documents.erase(owned);
 }
 
 int EditorDemo::documentCount() const
@@ -621,13 +631,12 @@ int EditorDemo::documentCount() const
 
 int EditorDemo::currentDocument() const
 {
-    return d->indexOf(d->current);
+    return d->tabIndex(d->current);
 }
 
 void EditorDemo::setCurrentDocument(int index)
 {
-    if (index >= 0 && index < documentCount())
-        activate(d->documents[size_t(index)].get());
+    activate(d->atTab(index));
 }
 
 RibbonTabBar &EditorDemo::documentTabs() const
@@ -1645,7 +1654,7 @@ bool EditorDemo::closeDocument()
     Document *document = d->current;
     if (!document || !maybeSave(document))
         return false;
-    const int index = d->indexOf(document);
+    const int index = d->tabIndex(document);
     removeDocument(document);
     if (d->documents.empty())
         createDocument();

@@ -32,6 +32,7 @@ public:
 
     // The current document's editor.
     QTextEdit *editor() const;
+    // Documents are counted in the order of their tabs.
     int documentCount() const;
     int currentDocument() const;
     void setCurrentDocument(int index);
