@@ -1,4 +1,5 @@
 // Button widths follow the text, measured at 96 and 144 DPI: ZEL_TEST_DPI_SENSITIVE
+#include "PanelButtonChecks.h"
 #include "ZelTest.h"
 
 #include "RibbonApplication.h"
@@ -357,23 +358,14 @@ void tst_OptionsDialog::escapeAndCloseReachOnlyTheDialog()
 
 void tst_OptionsDialog::buttonSizeHint_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::newRow("empty") << QString();
-    QTest::newRow("short") << QStringLiteral("General");
-    QTest::newRow("long") << QStringLiteral("Proofing, spelling and grammar of every document");
+    PanelButtonChecks::addSizeHintRows();
 }
 
 void tst_OptionsDialog::buttonSizeHint()
 {
     QFETCH(QString, text);
     addPage(text);
-    RibbonOptionsButton *button = buttons().first();
-    const int textWidth = button->fontMetrics().horizontalAdvance(text);
-    QCOMPARE(button->sizeHint().height(), 25);
-    if (textWidth <= 110)
-        QCOMPARE(button->sizeHint().width(), 120);
-    else
-        QCOMPARE(button->sizeHint().width(), textWidth + 10);
+    PanelButtonChecks::verifySizeHint(*buttons().first());
 }
 
 // The dialog's buttons show a checked page in frame 1 and a hovered one in frame 0;
@@ -389,25 +381,18 @@ void tst_OptionsDialog::buttonLooks()
     RibbonOptionsButton *other = buttons().at(1);
     QTRY_VERIFY(!other->underMouse());
 
+    using namespace PanelButtonChecks;
+    QVERIFY(drawsNothing(*other));
+    QCOMPARE(centre(*checked), frameCentre(1));
+    // The nine-slice keeps the frame's 2-pixel corners: the top-left pixel is the sheet's.
     const QImage sheet = RibbonApplication::theApp().ribbonStyle().mainPanelButton().toImage().convertToFormat(
         QImage::Format_ARGB32);
-    auto image = [](QWidget *button) { return button->grab().toImage().convertToFormat(QImage::Format_ARGB32); };
-    auto centre = [&](QWidget *button) {
-        const QImage grabbed = image(button);
-        return grabbed.pixel(grabbed.width() / 2, grabbed.height() / 2);
-    };
-    const QImage rest = image(other);
-    QImage plain(rest.size(), rest.format());
-    plain.fill(rest.pixel(0, 0));
-    QCOMPARE(rest, plain);
-    QCOMPARE(centre(checked), sheet.pixel(27, 23 + 11));
-    // The nine-slice keeps the frame's 2-pixel corners: the top-left pixel is the sheet's.
-    QCOMPARE(image(checked).pixel(1, 1), sheet.pixel(1, 23 + 1));
+    QCOMPARE(grabArgb(*checked).pixel(1, 1), sheet.pixel(1, 23 + 1));
 
     QTest::mouseMove(other, QPoint(5, 5));
     QTRY_VERIFY(other->underMouse());
-    QCOMPARE(centre(other), sheet.pixel(27, 11));
-    QVERIFY(sheet.pixel(27, 11) != sheet.pixel(27, 23 + 11));
+    QCOMPARE(centre(*other), frameCentre(0));
+    QVERIFY(frameCentre(0) != frameCentre(1));
 }
 
 void tst_OptionsDialog::pageSlotsAreInTheMetaObject()

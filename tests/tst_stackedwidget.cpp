@@ -1,4 +1,5 @@
 // Button widths follow the text, measured at 96 and 144 DPI: ZEL_TEST_DPI_SENSITIVE
+#include "PanelButtonChecks.h"
 #include "ZelTest.h"
 
 #include "RibbonApplication.h"
@@ -203,24 +204,14 @@ void tst_StackedWidget::deletedPageTakesItsButton()
 
 void tst_StackedWidget::buttonSizeHint_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::newRow("empty") << QString();
-    QTest::newRow("short") << QStringLiteral("Info");
-    QTest::newRow("long") << QStringLiteral("Keyboard shortcuts of every command on the ribbon");
+    PanelButtonChecks::addSizeHintRows();
 }
 
-// At least 120 wide, else the text and 10 pixels; always 25 high.
 void tst_StackedWidget::buttonSizeHint()
 {
     QFETCH(QString, text);
     addPage(text);
-    RibbonStackedButton *button = buttons().first();
-    const int textWidth = button->fontMetrics().horizontalAdvance(text);
-    QCOMPARE(button->sizeHint().height(), 25);
-    if (textWidth <= 110)
-        QCOMPARE(button->sizeHint().width(), 120);
-    else
-        QCOMPARE(button->sizeHint().width(), textWidth + 10);
+    PanelButtonChecks::verifySizeHint(*buttons().first());
 }
 
 // An unchecked button at rest draws its text only; hovered it takes frame 1 of
@@ -237,25 +228,14 @@ void tst_StackedWidget::buttonLooks()
     QTRY_VERIFY(!other->underMouse());
     QVERIFY(checked->isChecked());
 
-    const QImage sheet = style().mainPanelButton().toImage().convertToFormat(QImage::Format_ARGB32);
-    auto image = [](QWidget *button) { return button->grab().toImage().convertToFormat(QImage::Format_ARGB32); };
-    auto centre = [&](QWidget *button) {
-        const QImage grabbed = image(button);
-        return grabbed.pixel(grabbed.width() / 2, grabbed.height() / 2);
-    };
-    // Nothing but the widget's background.
-    const QImage rest = image(other);
-    QImage plain(rest.size(), rest.format());
-    plain.fill(rest.pixel(0, 0));
-    QCOMPARE(rest, plain);
-    for (int frame = 0; frame < 3; ++frame)
-        QVERIFY(rest.pixel(0, 0) != sheet.pixel(27, frame * 23 + 11));
-    QCOMPARE(centre(checked), sheet.pixel(27, 2 * 23 + 11));
+    using namespace PanelButtonChecks;
+    QVERIFY(drawsNothing(*other));
+    QCOMPARE(centre(*checked), frameCentre(2));
 
     QTest::mouseMove(other, QPoint(5, 5));
     QTRY_VERIFY(other->underMouse());
-    QCOMPARE(centre(other), sheet.pixel(27, 23 + 11));
-    QVERIFY(sheet.pixel(27, 23 + 11) != sheet.pixel(27, 2 * 23 + 11));
+    QCOMPARE(centre(*other), frameCentre(1));
+    QVERIFY(frameCentre(1) != frameCentre(2));
 
     // Text colour by the enabled state.
     other->setText(QStringLiteral("Statistics"));
@@ -263,7 +243,7 @@ void tst_StackedWidget::buttonLooks()
     QTRY_VERIFY(!other->underMouse());
     auto inks = [](QWidget *button) {
         QSet<QRgb> found;
-        const QImage image = button->grab().toImage().convertToFormat(QImage::Format_ARGB32);
+        const QImage image = grabArgb(*button);
         for (int y = 0; y < image.height(); ++y)
             for (int x = 0; x < image.width(); ++x)
                 if (qAlpha(image.pixel(x, y)) == 255)

@@ -57,8 +57,6 @@ RibbonOptionsDialog::RibbonOptionsDialog(RibbonMainWindow &mainWindow)
 
     d->contentLayout->setContentsMargins(0, 0, 0, 0);
     d->contentLayout->setSpacing(10);
-    d->buttonsLayout->setContentsMargins(1, 1, 1, 1);
-    d->buttonsLayout->setSpacing(1);
     d->navigationLayout->setContentsMargins(0, 0, 0, 0);
     d->navigationLayout->setSpacing(0);
     d->navigationLayout->addLayout(d->buttonsLayout);

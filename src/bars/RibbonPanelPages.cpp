@@ -27,6 +27,8 @@ RibbonPanelPages::RibbonPanelPages(QButtonGroup &group, QStackedWidget &stack, Q
     , m_stack(stack)
     , m_buttonsLayout(buttonsLayout)
 {
+    buttonsLayout.setContentsMargins(1, 1, 1, 1);
+    buttonsLayout.setSpacing(1);
     // The stack moves on by itself when its current page goes; the new page's button
     // takes over the check.
     m_currentChanged = QObject::connect(&stack, &QStackedWidget::currentChanged, &stack, [this] {

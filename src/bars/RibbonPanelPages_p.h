@@ -24,6 +24,7 @@ namespace zel {
 class RibbonPanelPages
 {
 public:
+    // Sets up buttonsLayout (one pixel round and between the buttons).
     RibbonPanelPages(QButtonGroup &group, QStackedWidget &stack, QVBoxLayout &buttonsLayout);
     ~RibbonPanelPages();
 

@@ -38,8 +38,6 @@ RibbonStackedWidget::RibbonStackedWidget(QWidget *parent)
 {
     d->contentLayout->setContentsMargins(0, 0, 0, 0);
     d->contentLayout->setSpacing(10);
-    d->buttonsLayout->setContentsMargins(1, 1, 1, 1);
-    d->buttonsLayout->setSpacing(1);
     d->buttonsFrameLayout->setContentsMargins(0, 0, 0, 0);
     d->buttonsFrameLayout->setSpacing(0);
     d->buttonsFrameLayout->addLayout(d->buttonsLayout);
