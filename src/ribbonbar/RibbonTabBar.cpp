@@ -331,10 +331,10 @@ void RibbonTabBar::mouseMoveEvent(QMouseEvent *event)
     const QPoint travel = event->pos() - d->pressPos;
     const bool farEnough = std::hypot(double(travel.x()), double(travel.y())) > DragDistance;
     if (event->buttons() == Qt::LeftButton && actionByPoint(event->pos()) && farEnough) {
-        auto *data = new QMimeData;
-        data->setData(QLatin1String(DragFormat), DragPayload);
+        auto *mime = new QMimeData;
+        mime->setData(QLatin1String(DragFormat), DragPayload);
         auto *drag = new QDrag(this); // Qt deletes it when the drag is over
-        drag->setMimeData(data);
+        drag->setMimeData(mime);
         QPointer<RibbonTabBar> alive(this);
         drag->exec(Qt::MoveAction);
         if (!alive)
