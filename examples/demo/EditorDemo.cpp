@@ -1614,12 +1614,12 @@ bool EditorDemo::openDocument(const QString &path)
     if (!document)
         document = createDocument();
     PageEdit *edit = document->edit;
-    const QByteArray data = file.readAll();
+    const QByteArray bytes = file.readAll();
     const QString suffix = QFileInfo(path).suffix().toLower();
-    if (suffix == QLatin1String("html") || suffix == QLatin1String("htm") || Qt::mightBeRichText(QString::fromUtf8(data)))
-        edit->setHtml(QString::fromUtf8(data));
+    if (suffix == QLatin1String("html") || suffix == QLatin1String("htm") || Qt::mightBeRichText(QString::fromUtf8(bytes)))
+        edit->setHtml(QString::fromUtf8(bytes));
     else
-        edit->setPlainText(QString::fromUtf8(data));
+        edit->setPlainText(QString::fromUtf8(bytes));
     document->path = absolute;
     d->recent->addItem(absolute);
     edit->document()->setModified(false);

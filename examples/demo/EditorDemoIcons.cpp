@@ -14,8 +14,8 @@ using namespace EditorColors;
 class GlyphPainter
 {
 public:
-    GlyphPainter(QPainter &p, int extent, const QColor &mono)
-        : p(p), small(extent < 32), mono(mono)
+    GlyphPainter(QPainter &painter, int extent, const QColor &monochrome)
+        : p(painter), small(extent < 32), mono(monochrome)
     {
     }
 

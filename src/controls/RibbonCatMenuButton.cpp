@@ -40,22 +40,13 @@ const RibbonStyle &palette()
     return RibbonApplication::theApp().ribbonStyle();
 }
 
-// Source cut into a left cap, a stretched middle and a right cap, onto target.
-void drawThreeSlice(QPainter &painter, const QRect &target, const QPixmap &image, const QRect &source,
-                    int leftCap, int rightCap)
-{
-    RibbonSlices slices;
-    slices.set(target, source, QMargins(leftCap, 0, rightCap, 0));
-    slices.draw(painter, image);
-}
-
 // A band of a 43-pixel-wide vertical sprite (2-pixel edges, stretched centre) across
 // the full width of a large button.
 void drawVerticalRow(QPainter &painter, const QPixmap &image, int sourceY, int sourceHeight,
                      int targetY, int targetHeight, int width)
 {
-    drawThreeSlice(painter, QRect(0, targetY, width, targetHeight), image,
-                   QRect(0, sourceY, 43, sourceHeight), 2, 2);
+    RibbonPaint::drawThreeSlice(painter, QRect(0, targetY, width, targetHeight), image,
+                                QRect(0, sourceY, 43, sourceHeight), 2, 2);
 }
 
 void drawDropDownArrow(QPainter &painter, int x, int y, const QColor &color)
@@ -211,9 +202,9 @@ void RibbonCatMenuButton::leaveEvent(QEvent *event)
 
 // RibbonCatMenuButtonPriv ---------------------------------------------------------------
 
-RibbonCatMenuButtonPriv::RibbonCatMenuButtonPriv(RibbonCatMenuButton &owner)
-    : QObject(&owner)
-    , owner(owner)
+RibbonCatMenuButtonPriv::RibbonCatMenuButtonPriv(RibbonCatMenuButton &button)
+    : QObject(&button)
+    , owner(button)
 {
 }
 
@@ -221,8 +212,8 @@ RibbonCatMenuButtonPriv::~RibbonCatMenuButtonPriv() = default;
 
 // RibbonCatMenuButtonBPriv --------------------------------------------------------------
 
-RibbonCatMenuButtonBPriv::RibbonCatMenuButtonBPriv(RibbonCatMenuButton &owner)
-    : RibbonCatMenuButtonPriv(owner)
+RibbonCatMenuButtonBPriv::RibbonCatMenuButtonBPriv(RibbonCatMenuButton &button)
+    : RibbonCatMenuButtonPriv(button)
 {
 }
 
@@ -554,8 +545,8 @@ void RibbonCatMenuButtonBPriv::paintRow(QPainter &painter)
             // Caption: 2-pixel left cap, stretched centre, 1-pixel right cap; the arrow
             // part keeps its width.
             if (captionState != NoRow)
-                drawThreeSlice(painter, QRect(0, 0, w - 11, rowHeight), captionImage,
-                               QRect(0, RowHeight * captionState, 22, RowHeight), 2, 1);
+                RibbonPaint::drawThreeSlice(painter, QRect(0, 0, w - 11, rowHeight), captionImage,
+                                            QRect(0, RowHeight * captionState, 22, RowHeight), 2, 1);
             if (arrowState != NoRow)
                 painter.drawPixmap(QRect(w - ArrowWidth, 0, ArrowWidth, rowHeight), arrowImage,
                                    QRect(0, RowHeight * arrowState, ArrowWidth, RowHeight));
@@ -575,11 +566,11 @@ void RibbonCatMenuButtonBPriv::paintRow(QPainter &painter)
         // One outline: the caption image without its right cap meets the arrow image
         // without its left edge.
         if (captionState != NoRow)
-            drawThreeSlice(painter, QRect(0, 0, w - 12, rowHeight), captionImage,
-                           QRect(0, RowHeight * captionState, 21, RowHeight), 2, 0);
+            RibbonPaint::drawThreeSlice(painter, QRect(0, 0, w - 12, rowHeight), captionImage,
+                                        QRect(0, RowHeight * captionState, 21, RowHeight), 2, 0);
         if (arrowState != NoRow)
-            drawThreeSlice(painter, QRect(w - 12, 0, 12, rowHeight), arrowImage,
-                           QRect(0, RowHeight * arrowState, ArrowWidth, RowHeight), 0, 2);
+            RibbonPaint::drawThreeSlice(painter, QRect(w - 12, 0, 12, rowHeight), arrowImage,
+                                        QRect(0, RowHeight * arrowState, ArrowWidth, RowHeight), 0, 2);
     }
 
     // Icon: the menu's own, else that of the default action.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "zelribbon_export.h"
+#include "RibbonAutotestExport_p.h"
 
 #include <QRect>
 #include <QString>
@@ -16,7 +16,7 @@ namespace zel {
 // answers (screen resolution, frame metrics, system generation, window management) is
 // asked here, so no other part of the library calls a native API. This implementation
 // answers with portable Qt.
-class ZELRIBBON_EXPORT RibbonPlatform
+class ZELRIBBON_AUTOTEST_EXPORT RibbonPlatform
 {
 public:
     // Logical resolution of the primary screen in dots per inch. Returns false (and

@@ -38,17 +38,19 @@ constexpr int InitialTabWidth = 112;
 const char *const DragFormat = "action";
 const QByteArray DragPayload = QByteArrayLiteral("tab-reordering");
 
-// tabBarTabs: two 16-pixel rows, the normal tab and the current one. A tab is a
-// 4-pixel left piece, a 1-pixel column stretched over the middle (also over the button
-// area), and a right piece that reaches past the tab into its right neighbour.
+// tabBarTabs: two 16-pixel rows, the normal tab and the current one, each a three-slice:
+// a 4-pixel left piece, a 1-pixel column stretched over the middle (also over the button
+// area), and a 16-pixel right piece that starts 5 pixels before the tab's end and so
+// reaches 11 pixels into its right neighbour.
 namespace TabImage {
 constexpr int RowHeight = 16;
 constexpr int NormalRow = 0;
 constexpr int CurrentRow = 16;
-const QRect Left(0, 0, 4, RowHeight);
-const QRect Middle(4, 0, 1, RowHeight);
-const QRect Right(5, 0, 16, RowHeight);
-constexpr int RightOffset = 5; // the right piece starts this far left of the tab's end
+constexpr int LeftWidth = 4;
+constexpr int RightWidth = 16;
+constexpr int Overhang = 11;
+const QRect Row(0, 0, LeftWidth + 1 + RightWidth, RowHeight);
+const QRect Middle(LeftWidth, 0, 1, RowHeight);
 } // namespace TabImage
 
 // The bar is 16 pixels high at 96 DPI and grows with the resolution, as the text does.
@@ -294,10 +296,8 @@ void RibbonTabBar::paintEvent(QPaintEvent *)
     const int textFlags = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap | Qt::TextHideMnemonic;
 
     auto drawTab = [&](const QRect &r, const QString &text, int row) {
-        painter.drawPixmap(QRect(r.left(), 0, TabImage::Left.width(), h), sheet, TabImage::Left.translated(0, row));
-        painter.drawPixmap(QRect(r.left() + 4, 0, r.width() - 9, h), sheet, TabImage::Middle.translated(0, row));
-        painter.drawPixmap(QRect(r.left() + r.width() - TabImage::RightOffset, 0, TabImage::Right.width(), h), sheet,
-                           TabImage::Right.translated(0, row));
+        RibbonPaint::drawThreeSlice(painter, QRect(r.left(), 0, r.width() + TabImage::Overhang, h), sheet,
+                                    TabImage::Row.translated(0, row), TabImage::LeftWidth, TabImage::RightWidth);
         painter.drawText(r.adjusted(TextInset, 0, -TextInset, 0), textFlags, text);
     };
 
