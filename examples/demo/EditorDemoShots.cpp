@@ -115,7 +115,7 @@ int writeEditorScreenshots(const QDir &dir)
         QSize size;
         std::function<void(EditorDemo &)> prepare;
         // What to grab instead of the editor's window (a dialog, a secondary window).
-        std::function<QWidget *(EditorDemo &)> target;
+        std::function<QWidget *(EditorDemo &)> target = {};
     };
     const QList<Shot> shots = {
         {QStringLiteral("editor-main"), QSize(1280, 800), [](EditorDemo &w) {
