@@ -1,8 +1,6 @@
 #include "RibbonSmallSysBtnClose.h"
 
-#include "RibbonApplication.h"
-#include "RibbonStyle.h"
-#include "RibbonWindowImages_p.h"
+#include "RibbonCaptionButton_p.h"
 
 #include <QPainter>
 
@@ -11,10 +9,7 @@ namespace zel {
 RibbonSmallSysBtnClose::RibbonSmallSysBtnClose(QWidget *parent)
     : QAbstractButton(parent)
 {
-    setFixedSize(17, 16);
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    setFocusPolicy(Qt::NoFocus);
-    setAttribute(Qt::WA_Hover); // repaint on entering and leaving
+    RibbonCaptionButton::setUp(*this);
 }
 
 RibbonSmallSysBtnClose::~RibbonSmallSysBtnClose() = default;
@@ -42,16 +37,12 @@ void RibbonSmallSysBtnClose::paintEvent(QPaintEvent *)
 {
     if (!closeHintSet())
         return;
-    namespace Back = WindowImages::SysButtonBack;
     namespace Glyph = WindowImages::SmallSysButtonGlyph;
     const RibbonStyle &style = RibbonApplication::theApp().ribbonStyle();
     QPainter painter(this);
     const bool down = isDown();
     const bool hovered = underMouse() && !down;
-    if (hovered || down) {
-        painter.drawPixmap(rect(), style.sysBtnBack(),
-                           QRect(0, down ? Back::PressedRow : Back::HoverRow, Back::Width, Back::RowHeight));
-    }
+    RibbonCaptionButton::drawBack(painter, *this, hovered, down);
     const int glyphRow = down ? Glyph::PressedRow : hovered ? Glyph::HoverRow : Glyph::ChildNormalRow;
     const QRect glyph(0, 0, Glyph::Width, Glyph::RowHeight);
     painter.drawPixmap(glyph.translated(rect().center() - glyph.center()), style.sysBtnCloseSmall(),
