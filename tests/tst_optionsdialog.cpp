@@ -77,12 +77,10 @@ private slots:
 
     void construction();
     void firstPageIsCurrent();
-    void buttonsShowTheirPages();
     void setCurrentPage_data();
     void setCurrentPage();
     void removeOptionsPageKeepsEverything();
     void strangersAreIgnored();
-    void deletedPageTakesItsButton();
     void okAndCancelReachDialogThenPages_data();
     void okAndCancelReachDialogThenPages();
     void escapeAndCloseReachOnlyTheDialog_data();
@@ -90,7 +88,6 @@ private slots:
     void buttonSizeHint_data();
     void buttonSizeHint();
     void buttonLooks();
-    void pageSlotsAreInTheMetaObject();
 
 private:
     RecordingPage *addPage(const QString &title);
@@ -210,25 +207,6 @@ void tst_OptionsDialog::firstPageIsCurrent()
     for (RibbonOptionsButton *button : buttons())
         texts.append(button->text());
     QCOMPARE(texts, (QStringList{QStringLiteral("General"), QStringLiteral("View"), QStringLiteral("Advanced")}));
-    QVERIFY(buttons().first()->isCheckable());
-    QCOMPARE(&buttons().first()->dialog(), static_cast<RibbonOptionsDialog *>(m_dialog));
-    QCOMPARE(buttons().first()->sizePolicy().horizontalPolicy(), QSizePolicy::Minimum);
-    QCOMPARE(buttons().first()->sizePolicy().verticalPolicy(), QSizePolicy::Fixed);
-    QVERIFY(m_log.isEmpty());
-}
-
-void tst_OptionsDialog::buttonsShowTheirPages()
-{
-    addPage(QStringLiteral("General"));
-    addPage(QStringLiteral("View"));
-    m_dialog->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_dialog));
-    QTest::mouseClick(buttons().at(1), Qt::LeftButton);
-    QCOMPARE(currentPage(), m_pages.at(1));
-    QCOMPARE(checkedButtons(), QList<RibbonOptionsButton *>{buttons().at(1)});
-    QTest::mouseClick(buttons().at(0), Qt::LeftButton);
-    QCOMPARE(currentPage(), m_pages.at(0));
-    QCOMPARE(checkedButtons(), QList<RibbonOptionsButton *>{buttons().at(0)});
     QVERIFY(m_log.isEmpty());
 }
 
@@ -292,20 +270,6 @@ void tst_OptionsDialog::strangersAreIgnored()
     // Added twice, it would hear OK twice.
     boxButton(QDialogButtonBox::AcceptRole)->click();
     QCOMPARE(m_log, (QStringList{QStringLiteral("dialog accept"), QStringLiteral("General accept")}));
-}
-
-void tst_OptionsDialog::deletedPageTakesItsButton()
-{
-    for (const char *title : {"General", "View", "Advanced"})
-        addPage(QString::fromLatin1(title));
-    delete m_pages.takeAt(0); // the current page
-    QCOMPARE(buttons().size(), 2);
-    QCOMPARE(currentPage(), m_pages.at(0));
-    QCOMPARE(checkedButtons(), QList<RibbonOptionsButton *>{buttons().at(0)});
-    QCOMPARE(buttons().at(0)->text(), QStringLiteral("View"));
-    boxButton(QDialogButtonBox::RejectRole)->click();
-    QCOMPARE(m_log, (QStringList{QStringLiteral("dialog reject"), QStringLiteral("View reject"),
-                                 QStringLiteral("Advanced reject")}));
 }
 
 void tst_OptionsDialog::okAndCancelReachDialogThenPages_data()
@@ -393,18 +357,6 @@ void tst_OptionsDialog::buttonLooks()
     QTRY_VERIFY(other->underMouse());
     QCOMPARE(centre(*other), frameCentre(0));
     QVERIFY(frameCentre(0) != frameCentre(1));
-}
-
-void tst_OptionsDialog::pageSlotsAreInTheMetaObject()
-{
-    const QMetaObject &meta = RibbonOptionsPage::staticMetaObject;
-    QCOMPARE(QByteArray(meta.className()), QByteArray("zel::RibbonOptionsPage"));
-    const int accept = meta.indexOfSlot("accept()");
-    const int reject = meta.indexOfSlot("reject()");
-    QVERIFY(accept >= meta.methodOffset());
-    QVERIFY(reject > accept);
-    QCOMPARE(QByteArray(RibbonOptionsDialog::staticMetaObject.className()), QByteArray("zel::RibbonOptionsDialog"));
-    QCOMPARE(QByteArray(RibbonOptionsButton::staticMetaObject.className()), QByteArray("zel::RibbonOptionsButton"));
 }
 
 ZEL_TEST_MAIN(tst_OptionsDialog)

@@ -138,9 +138,6 @@ void tst_TabBar::geometry()
     const int h = highDpi() ? 24 : 16;
     QCOMPARE(m_bar->height(), h);
     QCOMPARE(m_bar->sizeHint(), QSize(74, h));
-    QCOMPARE(m_bar->sizePolicy().horizontalPolicy(), QSizePolicy::MinimumExpanding);
-    QCOMPARE(m_bar->sizePolicy().verticalPolicy(), QSizePolicy::Fixed);
-    QVERIFY(m_bar->acceptDrops());
 
     const QList<RibbonSymbolButton *> buttons = m_bar->findChildren<RibbonSymbolButton *>();
     QCOMPARE(buttons.size(), 4);
