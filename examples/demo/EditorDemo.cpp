@@ -411,7 +411,6 @@ struct EditorDemo::Priv
 
     QStackedWidget *pages = nullptr;
     RibbonMenuAction *tabs = nullptr;
-    RibbonTabBar *tabBar = nullptr;
     NavigationPane *navigation = nullptr;
     RibbonCatCheckBoxAction *showNavigation = nullptr;
     DocumentInfoPane *info = nullptr;
@@ -548,9 +547,8 @@ void EditorDemo::buildDocumentArea()
     column->setSpacing(0);
     d->tabs = new RibbonMenuAction(tr("Documents"), this);
     d->tabs->setExclusive(true);
-    d->tabBar = new RibbonTabBar(*d->tabs, area);
     d->pages = new QStackedWidget(area);
-    column->addWidget(d->tabBar);
+    column->addWidget(new RibbonTabBar(*d->tabs, area));
     column->addWidget(d->pages, 1);
     row->addLayout(column, 1);
     setCentralWidget(area);
@@ -637,11 +635,6 @@ int EditorDemo::currentDocument() const
 void EditorDemo::setCurrentDocument(int index)
 {
     activate(d->atTab(index));
-}
-
-RibbonTabBar &EditorDemo::documentTabs() const
-{
-    return *d->tabBar;
 }
 
 NavigationPane &EditorDemo::navigationPane() const

@@ -13,7 +13,6 @@ class QTextEdit;
 namespace zel {
 class RibbonCategoriesPanelAction;
 class RibbonOptionsDialog;
-class RibbonTabBar;
 } // namespace zel
 
 // A small rich-text editor hosted in a ribbon main window. It holds several documents,
@@ -36,7 +35,6 @@ public:
     int documentCount() const;
     int currentDocument() const;
     void setCurrentDocument(int index);
-    zel::RibbonTabBar &documentTabs() const;
     NavigationPane &navigationPane() const;
 
     // Fills the current document, if it is still blank, else a new one, with a formatted
