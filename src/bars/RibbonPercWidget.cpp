@@ -1,6 +1,7 @@
 #include "RibbonPercWidget.h"
 
 #include "RibbonApplication.h"
+#include "RibbonPaint_p.h"
 #include "RibbonImageRows_p.h"
 #include "RibbonPercAction.h"
 #include "RibbonStyle.h"
@@ -212,16 +213,16 @@ void RibbonPercWidget::paintEvent(QPaintEvent *)
 
     QRect button(0, 0, ButtonExtent, ButtonExtent);
     button.moveCenter(minusRect().center());
-    painter.drawPixmap(button, style.sliderMinus(),
-                       QRect(0, ButtonExtent * frameOf(m_minusPressed, minusRect()), ButtonExtent, ButtonExtent));
+    RibbonPaint::drawPart(painter, button, style.sliderMinus(),
+                          QRect(0, ButtonExtent * frameOf(m_minusPressed, minusRect()), ButtonExtent, ButtonExtent));
     button.moveCenter(plusRect().center());
-    painter.drawPixmap(button, style.sliderPlus(),
-                       QRect(0, ButtonExtent * frameOf(m_plusPressed, plusRect()), ButtonExtent, ButtonExtent));
+    RibbonPaint::drawPart(painter, button, style.sliderPlus(),
+                          QRect(0, ButtonExtent * frameOf(m_plusPressed, plusRect()), ButtonExtent, ButtonExtent));
 
     const int x = thumbPosition(m_value);
     const QRect thumb(x - ThumbWidth / 2, 10 - ThumbHeight / 2, ThumbWidth, ThumbHeight);
-    painter.drawPixmap(thumb, style.sliderThumb(),
-                       QRect(0, ThumbHeight * frameOf(m_thumbPressed, thumbHitRect()), ThumbWidth, ThumbHeight));
+    RibbonPaint::drawPart(painter, thumb, style.sliderThumb(),
+                          QRect(0, ThumbHeight * frameOf(m_thumbPressed, thumbHitRect()), ThumbWidth, ThumbHeight));
 }
 
 void RibbonPercWidget::mousePressEvent(QMouseEvent *event)
