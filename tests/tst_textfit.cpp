@@ -18,6 +18,10 @@
 #include "RibbonCatMenuButton.h"
 #include "RibbonCatSimpleAction.h"
 #include "RibbonCatSimpleButton.h"
+#include "RibbonCategoriesPanelAction.h"
+#include "RibbonCategoryAction.h"
+#include "RibbonMainWindow.h"
+#include "RibbonMenuBar.h"
 #include "RibbonPercAction.h"
 #include "RibbonPercWidget.h"
 
@@ -34,14 +38,14 @@ using namespace zel;
 namespace {
 
 // A paint device that keeps, for every piece of text drawn on it, the text, its
-// rectangle (advance by ascent + descent, in device coordinates) and the clip in effect.
+// rectangle (in device coordinates) and the clip in effect.
 class TextCatcher : public QPaintDevice
 {
 public:
     struct Piece
     {
         QString text;
-        QRectF rect;
+        QRectF rect; // advance across, the ink of the glyphs down
         QRectF clip; // null when nothing clips
     };
 
@@ -120,7 +124,8 @@ private:
         void drawPath(const QPainterPath &) override {}
         void drawTextItem(const QPointF &p, const QTextItem &item) override
         {
-            const QRectF r(p.x(), p.y() - item.ascent(), item.width(), item.ascent() + item.descent());
+            const QRectF ink = QFontMetricsF(item.font()).tightBoundingRect(item.text());
+            const QRectF r(p.x(), p.y() + ink.top(), item.width(), ink.height());
             pieces.append({item.text(), m_transform.mapRect(r), m_clip});
         }
         Type type() const override { return User; }
@@ -137,9 +142,9 @@ private:
 };
 
 // The pieces of text of widget (with its children) that run out of it, or that the clip
-// cuts, across: empty when all fit. Half a pixel of slack for rounding. Heights are not
-// checked: the rows of the ribbon keep the heights they are designed for.
-QStringList cutText(QWidget &widget, QStringList *drawn = nullptr)
+// cuts: empty when all fit. Half a pixel of slack for rounding. Across always; down only
+// when asked.
+QStringList cutText(QWidget &widget, QStringList *drawn = nullptr, bool down = false)
 {
     TextCatcher catcher(widget.size());
     widget.render(&catcher, QPoint(), QRegion(), QWidget::DrawChildren);
@@ -149,19 +154,16 @@ QStringList cutText(QWidget &widget, QStringList *drawn = nullptr)
             continue;
         if (drawn)
             drawn->append(piece.text);
-        qreal left = -0.5;
-        qreal right = widget.width() + 0.5;
-        if (!piece.clip.isNull()) {
-            left = std::max(left, piece.clip.left() - 0.5);
-            right = std::min(right, piece.clip.right() + 0.5);
-        }
-        if (piece.rect.left() < left || piece.rect.right() > right)
-            cut << QStringLiteral("'%1' from x %2 to %3, room from %4 to %5")
+        QRectF room = QRectF(widget.rect()).adjusted(-0.5, -0.5, 0.5, 0.5);
+        if (!piece.clip.isNull())
+            room = room.intersected(piece.clip.adjusted(-0.5, -0.5, 0.5, 0.5));
+        const bool across = piece.rect.left() >= room.left() && piece.rect.right() <= room.right();
+        const bool upright = !down || (piece.rect.top() >= room.top() && piece.rect.bottom() <= room.bottom());
+        if (!across || !upright)
+            cut << QStringLiteral("'%1' at %2,%3 to %4,%5, room %6,%7 to %8,%9")
                        .arg(piece.text)
-                       .arg(piece.rect.left())
-                       .arg(piece.rect.right())
-                       .arg(left)
-                       .arg(right);
+                       .arg(piece.rect.left()).arg(piece.rect.top()).arg(piece.rect.right()).arg(piece.rect.bottom())
+                       .arg(room.left()).arg(room.top()).arg(room.right()).arg(room.bottom());
     }
     return cut;
 }
@@ -269,6 +271,45 @@ private slots:
         for (const QString &text : texts)
             QVERIFY2(all.contains(text), qPrintable(all));
         QVERIFY2(cut.isEmpty(), qPrintable(cut.join(QStringLiteral("; "))));
+    }
+
+    // In a ribbon, both lines of a large caption sit inside the button, above the
+    // category's caption, whatever the desktop font: a category draws in it capped at
+    // the size its rows are designed for. (The menu button's second line sits one pixel
+    // higher than its bottom edge allows a descender, so its caption has none.)
+    void largeCaptionsInACategory()
+    {
+        QObject owner;
+        RibbonMainWindow window;
+        auto *tab = new RibbonCategoriesPanelAction(QStringLiteral("Home"), &owner);
+        auto *category = new RibbonCategoryAction(QStringLiteral("Clipboard"), &owner);
+        category->addAction(new RibbonCatSimpleAction(QStringLiteral("Insert Picture"), RibbonCatSimpleAction::SizeLarge,
+                                                      &owner), -1);
+        category->addAction(new RibbonCatMenuAction(QStringLiteral("Change Theme"), RibbonCatMenuAction::MenuTypeButton,
+                                                    RibbonCatMenuAction::MenuSizeLarge, RibbonCatMenuAction::PopupMenu,
+                                                    &owner), -1);
+        tab->addCategory(category);
+        window.ribbonMenuBar().addAction(tab);
+        window.resize(900, 500);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        QApplication::processEvents();
+
+        const QList<QWidget *> buttons = {window.findChild<RibbonCatSimpleButton *>(),
+                                          window.findChild<RibbonCatMenuButton *>()};
+        for (QWidget *button : buttons) {
+            QVERIFY(button && button->isVisible());
+            QStringList drawn;
+            const QStringList cut = cutText(*button, &drawn, true);
+            QCOMPARE(drawn.size(), 2); // two lines
+            QVERIFY2(cut.isEmpty(), qPrintable(cut.join(QStringLiteral("; "))));
+            // With a desktop font of at most 9 points the category keeps it.
+            if (QApplication::font().pointSizeF() <= 9)
+                QCOMPARE(button->font().pointSizeF(), QApplication::font().pointSizeF());
+            else
+                QCOMPARE(button->font().pointSizeF(), 9.0);
+            QCOMPARE(button->font().family(), QApplication::font().family());
+        }
     }
 };
 
