@@ -132,10 +132,10 @@ void RibbonAction::connectWithAlieas()
     if (!alias)
         return;
     // Unique: setting the same alias again must not make one trigger run the host's
-    // handlers twice.
+    // handlers twice. A toggle reaches the alias through onToogled() alone, which
+    // announces it on the alias when the alias cannot follow it.
     connect(this, SIGNAL(changed()), alias, SIGNAL(changed()), Qt::UniqueConnection);
     connect(this, SIGNAL(hovered()), alias, SIGNAL(hovered()), Qt::UniqueConnection);
-    connect(this, SIGNAL(toggled(bool)), alias, SIGNAL(toggled(bool)), Qt::UniqueConnection);
     connect(this, SIGNAL(triggered()), alias, SIGNAL(triggered()), Qt::UniqueConnection);
     connect(this, SIGNAL(toggled(bool)), this, SLOT(onToogled(bool)), Qt::UniqueConnection);
     connect(alias, SIGNAL(toggled(bool)), this, SLOT(onAliasToogled(bool)), Qt::UniqueConnection);
@@ -150,8 +150,26 @@ void RibbonAction::disconnectFromAlias(QAction *alias)
     disconnect(alias, nullptr, this, nullptr);
 }
 
+bool RibbonAction::aliasLeadsBack(const QAction *alias) const
+{
+    // Aliases never form a circle (this refuses the one that would close it), so the
+    // chain ends; the count only bounds the walk.
+    const QAction *next = alias;
+    for (int steps = 0; next && steps < 10000; ++steps) {
+        if (next == this)
+            return true;
+        const auto *ribbonAlias = qobject_cast<const RibbonAction *>(next);
+        next = ribbonAlias ? ribbonAlias->m_alias.data() : nullptr;
+    }
+    return next != nullptr;
+}
+
 void RibbonAction::setAliasAction(QPointer<QAction> alias)
 {
+    // An action standing for itself, directly or through other ribbon actions, would
+    // pass every change and trigger round the circle without end.
+    if (aliasLeadsBack(alias.data()))
+        return;
     if (m_alias != alias) {
         // A replaced alias must stop receiving this action's triggers and changes.
         disconnectFromAlias(m_alias.data());
@@ -214,16 +232,28 @@ void RibbonAction::aliasChanged()
 
 void RibbonAction::onToogled(bool isToogled)
 {
-    if (m_alias && m_alias->isCheckable())
-        m_alias->setChecked(isToogled);
+    QAction *alias = m_alias.data();
+    // A toggle announced after the state has moved on (a receiver of the change set it
+    // back, as the minimised ribbon does with a tab it keeps closed) is stale: passed
+    // on, it would set the alias, and through the alias this action, to a state both
+    // have left.
+    if (!alias || isToogled != isChecked())
+        return;
+    if (alias->isCheckable())
+        alias->setChecked(isToogled); // the alias announces its own toggle
+    else
+        emit alias->toggled(isToogled);
 }
 
 void RibbonAction::onAliasToogled(bool isToogled)
 {
-    // setChecked() with the current state emits nothing, so the pair of slots stops
-    // after one round.
-    if (isCheckable())
-        setChecked(isToogled);
+    QAction *alias = m_alias.data();
+    // Only a current toggle of the alias's own state is followed: not a stale one, and
+    // not the announcement the alias makes for this action. setChecked() with the
+    // current state emits nothing, so the pair of slots stops after one round.
+    if (!isCheckable() || !alias || !alias->isCheckable() || alias->isChecked() != isToogled)
+        return;
+    setChecked(isToogled);
 }
 
 void RibbonAction::sendActionChangedEvt()

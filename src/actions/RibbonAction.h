@@ -66,6 +66,8 @@ private:
     void disconnectFromAlias(QAction *alias);
     void connectToListener();
     bool isForbidden() const;
+    // Whether alias is this action or stands for it, directly or through other aliases.
+    bool aliasLeadsBack(const QAction *alias) const;
 
     QPointer<QAction> m_alias;
     bool m_syncing = false;
