@@ -79,6 +79,7 @@ private slots:
     void containerIgnoresMemberClosingACycle();
     void aliasCyclesAreRefused();
     void sharedMemberRelaysOncePerContainer();
+    void replacedAliasLeavesContainerLinks();
     void anyOrderOfDestruction();
 };
 
@@ -319,6 +320,23 @@ void tst_Containment::sharedMemberRelaysOncePerContainer()
     QVERIFY(activated.count() >= 1);
     QCOMPARE(triggered.count(), 1);
     QCOMPARE(triggered.at(0).at(0).value<RibbonAction *>(), go);
+}
+
+void tst_Containment::replacedAliasLeavesContainerLinks()
+{
+    // A command whose alias was its own button group: replacing the alias cuts only the
+    // alias's connections, and the group still follows the command and forgets it.
+    auto *group = new RibbonCatActionGroup(QStringLiteral("Strip"), nullptr);
+    auto *item = new RibbonCatSimpleAction(QPointer<QAction>(group), RibbonCatSimpleAction::SizeSmall, nullptr);
+    group->addAction(item, false);
+    QAction other(QStringLiteral("Other"), nullptr);
+    item->setAliasAction(QPointer<QAction>(&other));
+    QSignalSpy changed(group, &QAction::changed);
+    item->setCheckable(true);
+    QVERIFY(changed.count() > 0);
+    delete item;
+    QVERIFY(group->actions().isEmpty());
+    delete group;
 }
 
 void tst_Containment::anyOrderOfDestruction()

@@ -146,8 +146,13 @@ void RibbonAction::disconnectFromAlias(QAction *alias)
 {
     if (!alias)
         return;
-    disconnect(this, nullptr, alias, nullptr);
-    disconnect(alias, nullptr, this, nullptr);
+    // Only the alias connections: the alias may also be a container of this action, or a
+    // member of it, with connections of its own between the two.
+    disconnect(this, SIGNAL(changed()), alias, SIGNAL(changed()));
+    disconnect(this, SIGNAL(hovered()), alias, SIGNAL(hovered()));
+    disconnect(this, SIGNAL(triggered()), alias, SIGNAL(triggered()));
+    disconnect(alias, SIGNAL(toggled(bool)), this, SLOT(onAliasToogled(bool)));
+    disconnect(alias, SIGNAL(changed()), this, SLOT(aliasChanged()));
 }
 
 bool RibbonAction::aliasLeadsBack(const QAction *alias) const
