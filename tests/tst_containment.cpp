@@ -80,6 +80,7 @@ private slots:
     void aliasCyclesAreRefused();
     void sharedMemberRelaysOncePerContainer();
     void replacedAliasLeavesContainerLinks();
+    void changeRelayedThroughAliasSettles();
     void anyOrderOfDestruction();
 };
 
@@ -337,6 +338,27 @@ void tst_Containment::replacedAliasLeavesContainerLinks()
     delete item;
     QVERIFY(group->actions().isEmpty());
     delete group;
+}
+
+void tst_Containment::changeRelayedThroughAliasSettles()
+{
+    // An outer group standing for (aliased to) a command of an inner group it then holds:
+    // the outer group's change goes to the command's alias announcement, the inner group
+    // relays it back to the outer one, which has announced it already.
+    QObject owner;
+    RibbonCatSimpleAction *go = command(&owner);
+    auto *inner = new RibbonCatActionGroup(QStringLiteral("Inner"), &owner);
+    auto *outer = new RibbonCatActionGroup(QStringLiteral("Outer"), &owner);
+    inner->addAction(go, false);
+    outer->setAliasAction(QPointer<QAction>(go));
+    QSignalSpy outerChanged(outer, &QAction::changed);
+    outer->addAction(inner, false);
+    QCOMPARE(outer->actions().size(), 1);
+    QVERIFY(outerChanged.count() >= 1);
+    outerChanged.clear();
+    go->setText(QStringLiteral("Went"));
+    QVERIFY(outerChanged.count() >= 1);
+    QCOMPARE(outer->text(), QStringLiteral("Went")); // the alias's text still follows
 }
 
 void tst_Containment::anyOrderOfDestruction()

@@ -132,9 +132,10 @@ void RibbonAction::connectWithAlieas()
     if (!alias)
         return;
     // Unique: setting the same alias again must not make one trigger run the host's
-    // handlers twice. A toggle reaches the alias through onToogled() alone, which
-    // announces it on the alias when the alias cannot follow it.
-    connect(this, SIGNAL(changed()), alias, SIGNAL(changed()), Qt::UniqueConnection);
+    // handlers twice. A change reaches the alias through announceChangeOnAlias(), a
+    // toggle through onToogled(), which announces it on the alias when the alias cannot
+    // follow it; both read the alias when they run.
+    connect(this, SIGNAL(changed()), this, SLOT(announceChangeOnAlias()), Qt::UniqueConnection);
     connect(this, SIGNAL(hovered()), alias, SIGNAL(hovered()), Qt::UniqueConnection);
     connect(this, SIGNAL(triggered()), alias, SIGNAL(triggered()), Qt::UniqueConnection);
     connect(this, SIGNAL(toggled(bool)), this, SLOT(onToogled(bool)), Qt::UniqueConnection);
@@ -148,7 +149,6 @@ void RibbonAction::disconnectFromAlias(QAction *alias)
         return;
     // Only the alias connections: the alias may also be a container of this action, or a
     // member of it, with connections of its own between the two.
-    disconnect(this, SIGNAL(changed()), alias, SIGNAL(changed()));
     disconnect(this, SIGNAL(hovered()), alias, SIGNAL(hovered()));
     disconnect(this, SIGNAL(triggered()), alias, SIGNAL(triggered()));
     disconnect(alias, SIGNAL(toggled(bool)), this, SLOT(onAliasToogled(bool)));
@@ -233,6 +233,21 @@ void RibbonAction::aliasChanged()
     // one): the alias's enabled state still wins over the one requested here.
     if (alias->isEnabled() != m_requestedEnabled)
         setEnabled(alias->isEnabled());
+}
+
+void RibbonAction::announceChangeOnAlias()
+{
+    QAction *alias = m_alias.data();
+    // Once per change: the alias may hold this action, or relay to something that does
+    // (a button group standing for a command of a group it holds), and then the change
+    // comes back round to this action while the alias announces it. It ends here.
+    if (!alias || m_announcingChange)
+        return;
+    QPointer<RibbonAction> self(this);
+    m_announcingChange = true;
+    emit alias->changed();
+    if (self)
+        m_announcingChange = false;
 }
 
 void RibbonAction::onToogled(bool isToogled)

@@ -52,6 +52,9 @@ protected slots:
     void onToogled(bool isToogled);
     void onAliasToogled(bool isToogled);
 
+private slots:
+    void announceChangeOnAlias();
+
 protected:
     // Sends an ActionChanged event synchronously to every associated widget and then
     // to the action itself, for state QAction does not know about.
@@ -75,6 +78,8 @@ private:
     bool m_keepOwnText = false;
     bool m_keepOwnIcon = false;
     bool m_inConnectNotify = false;
+    // Set while the alias announces a change of this action.
+    bool m_announcingChange = false;
     int m_minimalWidth = -1;
 };
 
