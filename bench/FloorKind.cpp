@@ -121,6 +121,17 @@ public:
                 shortItem(b);
                 break;
             }
+            case Slot::Color:
+            case Slot::Palette: {
+                // A drop-down of the shared menu standing for the colour grid and the
+                // palette.
+                QToolButton *b = button(c.actions.first(), box,
+                                        c.slot == Slot::Color ? Qt::ToolButtonIconOnly : Qt::ToolButtonTextBesideIcon, 16);
+                b->setMenu(m_menu);
+                b->setPopupMode(QToolButton::InstantPopup);
+                shortItem(b);
+                break;
+            }
             case Slot::Group: {
                 auto *strip = new QWidget(box);
                 auto *h = new QHBoxLayout(strip);

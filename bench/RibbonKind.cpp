@@ -4,6 +4,7 @@
 
 #include "RibbonCatActionGroup.h"
 #include "RibbonCatCheckBoxAction.h"
+#include "RibbonCatColorMenuAction.h"
 #include "RibbonCatComboAction.h"
 #include "RibbonCatMenuAction.h"
 #include "RibbonCatSimpleAction.h"
@@ -59,6 +60,15 @@ public:
                         cat->addAction(new RibbonCatMenuAction(icon(n), text, RibbonCatMenuAction::MenuTypeButton,
                                                                RibbonCatMenuAction::MenuSizeMedium,
                                                                RibbonCatMenuAction::PopupMenu, m_owner), -1);
+                        break;
+                    case Slot::Color:
+                        cat->addAction(new RibbonCatColorMenuAction(icon(n), text, RibbonCatColorMenuAction::ColorSizeSmall,
+                                                                    m_owner), -1);
+                        break;
+                    case Slot::Palette:
+                        cat->addAction(new RibbonCatMenuAction(icon(n), text, RibbonCatMenuAction::MenuTypeButton,
+                                                               RibbonCatMenuAction::MenuSizeMedium,
+                                                               RibbonCatMenuAction::PopupPalette, m_owner), -1);
                         break;
                     case Slot::Group: {
                         auto *strip = new RibbonCatActionGroup(m_owner);

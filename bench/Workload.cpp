@@ -39,6 +39,13 @@ QVector<Slot> groupSlots(int commands, int groupIndex)
         mix << rest[(groupIndex + i) % 5];
     for (int i = 0; i < small; ++i)
         mix << Slot::Small;
+    // Once per tab, two of the small buttons are a small colour button and a medium
+    // palette menu.
+    if (groupIndex == 0 && small >= 2) {
+        const int firstSmall = commands - small;
+        mix[firstSmall] = Slot::Color;
+        mix[firstSmall + 1] = Slot::Palette;
+    }
     return mix;
 }
 

@@ -32,7 +32,7 @@ Workload workload(const QString &name);
 
 // The command mix of one group: the kind of every slot, decided once so both kinds build
 // exactly the same thing.
-enum class Slot { Large, Small, Medium, Menu, Group, Combo, Check };
+enum class Slot { Large, Small, Medium, Menu, Group, Combo, Check, Color, Palette };
 QVector<Slot> groupSlots(int commands, int groupIndex);
 // Buttons a slot stands for (a button group is a strip of three small buttons).
 int buttonsOf(Slot slot);

@@ -6,7 +6,44 @@
 #include "RibbonApplication.h"
 #include "RibbonPlatform.h"
 
+#include <QHBoxLayout>
+#include <QLineEdit>
 #include <QtTest>
+
+// The number of widgets alive once the popups a test left open are closed and what was
+// deleted later is gone: cleanup() compares it with the number init() took.
+inline int zelWidgetsLeft()
+{
+    while (QWidget *popup = QApplication::activePopupWidget())
+        popup->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    return QApplication::allWidgets().size();
+}
+
+// A window holding a line edit (which has the focus) and one control made for an action.
+template<class Control>
+struct ZelControlHost
+{
+    template<class Action>
+    explicit ZelControlHost(Action &action)
+    {
+        auto *layout = new QHBoxLayout(&window);
+        edit = new QLineEdit(&window);
+        button = new Control(action, &window);
+        layout->addWidget(edit);
+        layout->addWidget(button);
+        layout->addStretch();
+        window.show();
+        QApplication::setActiveWindow(&window);
+        edit->setFocus();
+    }
+
+    bool exposed() { return QTest::qWaitForWindowExposed(&window); }
+
+    QWidget window;
+    QLineEdit *edit = nullptr;
+    Control *button = nullptr;
+};
 
 // Plays, while it lives, a window system that takes every move and resize it is asked
 // for and leaves the window where it is (the mouse would move it). Records the requests

@@ -4,6 +4,7 @@
 #include "IRibbonGroupWidget.h"
 #include "RibbonCatMenuAction.h"
 #include "RibbonCatMenuButton.h"
+#include "RibbonCatMenuPalettePopup.h"
 #include "RibbonCatSimpleAction.h"
 #include "RibbonScale_p.h"
 #include "RibbonSeparatorAction.h"
@@ -12,8 +13,6 @@
 #include "RibbonViewPopup.h"
 
 #include <QCursor>
-#include <QHBoxLayout>
-#include <QLineEdit>
 #include <QMenu>
 #include <QScreen>
 
@@ -33,28 +32,7 @@ QMenu *openMenu()
     return qobject_cast<QMenu *>(QApplication::activePopupWidget());
 }
 
-// A window holding a line edit (which has the focus) and one menu button.
-struct Host
-{
-    explicit Host(RibbonCatMenuAction &action)
-    {
-        auto *layout = new QHBoxLayout(&window);
-        edit = new QLineEdit(&window);
-        button = new RibbonCatMenuButton(action, &window);
-        layout->addWidget(edit);
-        layout->addWidget(button);
-        layout->addStretch();
-        window.show();
-        QApplication::setActiveWindow(&window);
-        edit->setFocus();
-    }
-
-    bool exposed() { return QTest::qWaitForWindowExposed(&window); }
-
-    QWidget window;
-    QLineEdit *edit = nullptr;
-    RibbonCatMenuButton *button = nullptr;
-};
+using Host = ZelControlHost<RibbonCatMenuButton>;
 
 void press(QWidget *widget, const QPoint &pos)
 {
@@ -437,8 +415,10 @@ private slots:
         const int before = topLevelCount();
         click(host.button, QPoint(3, 3));
         if (opens == 1) {
-            QTRY_VERIFY(openMenu());
-            QCOMPARE(qobject_cast<RibbonViewPopup *>(openMenu()) != nullptr, popupType == Menu::PopupView);
+            QTRY_VERIFY(QApplication::activePopupWidget());
+            QWidget *popup = QApplication::activePopupWidget();
+            QCOMPARE(qobject_cast<RibbonViewPopup *>(popup) != nullptr, popupType == Menu::PopupView);
+            QCOMPARE(qobject_cast<RibbonCatMenuPalettePopup *>(popup) != nullptr, popupType == Menu::PopupPalette);
         } else if (opens == 0) {
             QVERIFY(!QApplication::activePopupWidget());
         }
@@ -449,8 +429,10 @@ private slots:
         if (!withItems)
             fill();
         if (opens != 0 || !withItems) {
-            QVERIFY(pressOpens(host.button, QPoint(3, 3)));
-            QVERIFY(escapeMenu());
+            press(host.button, QPoint(3, 3));
+            QTRY_VERIFY(QApplication::activePopupWidget());
+            QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+            QTRY_VERIFY(!QApplication::activePopupWidget());
         }
     }
 

@@ -14,6 +14,6 @@ if [ "${1:-}" = "--sanitize" ]; then
 fi
 
 tools/ensure-deps.sh "${ZEL_BUILD_DEPS[@]}" "${ZEL_XVFB_DEPS[@]}"
-cmake -S . -B "$build" -G Ninja -DZEL_BUILD_TESTS=ON "${flags[@]}" >/dev/null
+cmake -S . -B "$build" -G Ninja -DZEL_BUILD_TESTS=ON -DZEL_WARNINGS_AS_ERRORS=ON "${flags[@]}" >/dev/null
 cmake --build "$build"
 ctest --test-dir "$build" --output-on-failure -j"$(nproc)"

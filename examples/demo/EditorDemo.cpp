@@ -2,6 +2,7 @@
 
 #include "DemoIcons.h"
 #include "EditorDemoIcons.h"
+#include "EditorDemoPickers.h"
 
 #include "BackstageListModel.h"
 #include "BackstageView.h"
@@ -552,6 +553,7 @@ RibbonCategoriesPanelAction *EditorDemo::buildHomeTab()
     fontCategory->addAction(growShrink, 0);
     fontCategory->addAction(styleGroup, 1);
     fontCategory->addAction(clearGroup, 1);
+    addColorCommands(*fontCategory, 1, edit, this);
     d->home->addCategory(fontCategory);
 
     auto *paragraph = new RibbonCategoryAction(editorIcon(EditorIcon::AlignLeft), tr("Paragraph"), this);
@@ -823,6 +825,7 @@ RibbonCategoriesPanelAction *EditorDemo::buildInsertTab()
         });
     }
     text->addAction(date, -1);
+    text->addAction(makeSymbolPalette(d->edit, this), -1);
     insert->addCategory(text);
     return insert;
 }
@@ -1122,7 +1125,6 @@ void EditorDemo::buildWelcomeScreen()
 void EditorDemo::followEditor()
 {
     QTextEdit *edit = d->edit;
-    RibbonMenuBar &bar = ribbonMenuBar();
     auto updateWords = [this] {
         const QString plain = d->edit->toPlainText();
         const int words = plain.split(QRegExp(QStringLiteral("\\s+")), Qt::SkipEmptyParts).size();
@@ -1272,12 +1274,12 @@ bool EditorDemo::openDocument(const QString &path)
         QMessageBox::warning(this, AppName, tr("Cannot open %1:\n%2").arg(QDir::toNativeSeparators(path), file.errorString()));
         return false;
     }
-    const QByteArray data = file.readAll();
+    const QByteArray bytes = file.readAll();
     const QString suffix = QFileInfo(path).suffix().toLower();
-    if (suffix == QLatin1String("html") || suffix == QLatin1String("htm") || Qt::mightBeRichText(QString::fromUtf8(data)))
-        d->edit->setHtml(QString::fromUtf8(data));
+    if (suffix == QLatin1String("html") || suffix == QLatin1String("htm") || Qt::mightBeRichText(QString::fromUtf8(bytes)))
+        d->edit->setHtml(QString::fromUtf8(bytes));
     else
-        d->edit->setPlainText(QString::fromUtf8(data));
+        d->edit->setPlainText(QString::fromUtf8(bytes));
     d->path = QFileInfo(path).absoluteFilePath();
     d->recent->addItem(d->path);
     d->edit->document()->setModified(false);

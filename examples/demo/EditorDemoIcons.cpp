@@ -14,8 +14,8 @@ using namespace EditorColors;
 class GlyphPainter
 {
 public:
-    GlyphPainter(QPainter &p, int extent, const QColor &mono)
-        : p(p), small(extent < 32), mono(mono)
+    GlyphPainter(QPainter &painter, int extent, const QColor &monochrome)
+        : p(painter), small(extent < 32), mono(monochrome)
     {
     }
 
@@ -444,6 +444,26 @@ void drawGlyph(GlyphPainter &g, EditorIcon icon)
     }
     case EditorIcon::Page:
         g.page(QRectF(7.5, 3.5, 17, 25), Ink, 0);
+        break;
+    // The two colour glyphs keep clear of the bottom quarter, where the colour
+    // command draws its bar of the current colour.
+    case EditorIcon::FontColor:
+        g.letter(QStringLiteral("A"), Ink, false, false, false, QRectF(0, 0, 32, 24), 23);
+        break;
+    case EditorIcon::Highlight: {
+        p.save();
+        p.translate(16, 12);
+        p.rotate(45);
+        p.setPen(QPen(g.c(Ink), g.thin()));
+        p.setBrush(g.c(QColor(0xF2, 0xC8, 0x1F)));
+        p.drawRect(QRectF(-3.5, -10, 7, 12));
+        p.setBrush(g.c(Ink));
+        p.drawPolygon(QPolygonF({QPointF(-3.5, 2), QPointF(3.5, 2), QPointF(1.5, 8), QPointF(-1.5, 8)}));
+        p.restore();
+        break;
+    }
+    case EditorIcon::Symbol:
+        g.letter(QString(QChar(0x03A9)), Accent, false, false, false, QRectF(0, 0, 32, 32), 24);
         break;
     case EditorIcon::Words:
         g.textLines(QRectF(4, 8, 24, 16), Ink, 4);

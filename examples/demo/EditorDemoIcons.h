@@ -7,11 +7,11 @@
 // 32-pixel versions match.
 enum class EditorIcon {
     Paste, Cut, Copy, FormatPainter,
-    Bold, Italic, Underline, Strikethrough, Grow, Shrink, ClearFormat,
+    Bold, Italic, Underline, Strikethrough, Grow, Shrink, ClearFormat, FontColor, Highlight,
     AlignLeft, AlignCenter, AlignRight, Justify, Bullets, Numbering,
     SelectAll, Find,
     StyleNormal, StyleHeading1, StyleHeading2, StyleTitle, StyleQuote,
-    Table, Picture, DateTime, Line,
+    Table, Picture, DateTime, Line, Symbol,
     ZoomIn, ZoomOut, Zoom100, MinimiseRibbon,
     Save, Undo, Redo, NewDocument, OpenFolder,
     RowAbove, RowBelow, ColumnLeft, ColumnRight, DeleteRow, DeleteColumn, DeleteTable,

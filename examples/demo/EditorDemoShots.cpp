@@ -5,12 +5,18 @@
 
 #include "BackstageView.h"
 #include "RibbonButtonMain.h"
+#include "RibbonCatColorMenuAction.h"
+#include "RibbonCatColorMenuButton.h"
+#include "RibbonCatMenuAction.h"
+#include "RibbonCatMenuButton.h"
 #include "RibbonMenuBar.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QImage>
+#include <QMouseEvent>
+#include <QPainter>
 #include <QPixmap>
 #include <QScreen>
 #include <QSet>
@@ -50,6 +56,33 @@ void seedSettings(QSettings &settings)
         recent.append(QVariant(QVariantList{entry.first, entry.second}));
     settings.setValue(QStringLiteral("editor/recentDocuments"), recent);
     settings.sync();
+}
+
+// Opens the drop-down of the first control of class Button whose action has the text.
+template<class Button>
+void pressButton(EditorDemo &w, const QString &text)
+{
+    for (Button *button : w.findChildren<Button *>()) {
+        if (button->isVisible() && button->action() && button->action()->text() == text) {
+            const QPoint pos(3, 3);
+            QMouseEvent press(QEvent::MouseButtonPress, pos, button->mapToGlobal(pos), Qt::LeftButton,
+                              Qt::LeftButton, Qt::NoModifier);
+            QApplication::sendEvent(button, &press);
+            return;
+        }
+    }
+}
+
+// The window's picture with the popups open over it, where they stand on the screen.
+QPixmap grabWithPopups(QWidget &window)
+{
+    QPixmap picture = window.grab();
+    QPainter painter(&picture);
+    for (QWidget *top : QApplication::topLevelWidgets()) {
+        if (top->isVisible() && top->windowType() == Qt::Popup)
+            painter.drawPixmap(top->geometry().topLeft() - window.geometry().topLeft(), top->grab());
+    }
+    return picture;
 }
 
 void showTab(EditorDemo &w, const QString &name)
@@ -111,6 +144,21 @@ int writeEditorScreenshots(const QDir &dir)
              w.showMainView();
              showTab(w, QStringLiteral("View"));
          }},
+        {QStringLiteral("editor-color-picker"), QSize(1000, 520), [](EditorDemo &w) {
+             w.showMainView();
+             QTextCursor cursor = w.editor()->textCursor();
+             cursor.movePosition(QTextCursor::Start);
+             cursor.movePosition(QTextCursor::NextBlock);
+             cursor.movePosition(QTextCursor::EndOfWord, QTextCursor::KeepAnchor);
+             w.editor()->setTextCursor(cursor);
+             pressButton<zel::RibbonCatColorMenuButton>(w, QStringLiteral("Font Color"));
+         }},
+        {QStringLiteral("editor-symbol-palette"), QSize(1000, 520), [](EditorDemo &w) {
+             w.showMainView();
+             showTab(w, QStringLiteral("Insert"));
+             settle();
+             pressButton<zel::RibbonCatMenuButton>(w, QStringLiteral("Symbol"));
+         }},
         {QStringLiteral("editor-picture-tools"), QSize(1280, 800), [](EditorDemo &w) {
              w.showMainView();
              w.selectFirstPicture();
@@ -128,14 +176,17 @@ int writeEditorScreenshots(const QDir &dir)
         shot.prepare(*window);
         // The page shown first may have held the window wider than asked.
         window->resize(shot.size);
-        window->editor()->setFocus();
+        if (!QApplication::activePopupWidget())
+            window->editor()->setFocus();
         settle();
         const QString file = dir.filePath(shot.name + QStringLiteral(".png"));
-        if (!window->grab().save(file)) {
+        if (!grabWithPopups(*window).save(file)) {
             out << "Cannot write " << file << '\n';
             return 1;
         }
         out << "  " << file << '\n';
+        while (QWidget *popup = QApplication::activePopupWidget())
+            popup->close();
         window->close();
         window.reset();
         settle();

@@ -1,6 +1,6 @@
 #include "RibbonCatActionGroup.h"
 
-#include "RibbonClassChecks_p.h"
+#include "RibbonCatColorMenuAction.h"
 #include "RibbonMembers_p.h"
 
 namespace zel {
@@ -98,7 +98,7 @@ void RibbonCatActionGroup::actionActivated()
 {
     // A colour menu in a strip is activated while its picker stays open; it must not
     // close the surrounding popup.
-    if (RibbonClassChecks::isColorMenuAction(sender()))
+    if (qobject_cast<RibbonCatColorMenuAction *>(sender()))
         return;
     emit ribbonActionActivated();
 }

@@ -83,6 +83,8 @@ public:
     RibbonViewPopup *fillMenu();
 
 private slots:
+    // Connected beside the base class's slot of the same name; it hides the base class's
+    // virtual actionChanged overloads by name only, they stay in force.
     void actionChanged();
 
 private:

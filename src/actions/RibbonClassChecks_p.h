@@ -9,12 +9,6 @@
 namespace zel {
 namespace RibbonClassChecks {
 
-// A colour menu action: activated while its picker stays open.
-inline bool isColorMenuAction(const QObject *object)
-{
-    return object && object->inherits("zel::RibbonCatColorMenuAction");
-}
-
 // An in-ribbon gallery: the category frames it.
 inline bool isListPreview(const QObject *object)
 {

@@ -51,8 +51,13 @@ signals:
     void defaultActionChanged();
 
 protected:
+    // RibbonCatMenuAction's own actionChanged() slot hides these two by name; that is
+    // intended, so compilers that warn about hidden overloads are told so.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Woverloaded-virtual"
     virtual void actionChanged(RibbonMenuAction *menu);
     virtual void actionChanged(RibbonAction *item);
+#pragma GCC diagnostic pop
 
     // Emits changed() as a change of the menu's own look: its enabled state is not
     // pushed to the items for it.

@@ -19,9 +19,9 @@ constexpr int kStartupTimeoutMs = 5000;
 class RibbonSingletonApplication::Priv
 {
 public:
-    explicit Priv(const QString &id)
-        : id(id)
-        , channel(id)
+    explicit Priv(const QString &identifier)
+        : id(identifier)
+        , channel(identifier)
     {
     }
 

@@ -4,6 +4,8 @@
 #include "RibbonActionWidgetMap_p.h"
 #include "RibbonApplication.h"
 #include "RibbonCatActionGroup.h"
+#include "RibbonCatColorMenuAction.h"
+#include "RibbonCatColorMenuButton.h"
 #include "RibbonCatMenuAction.h"
 #include "RibbonCatMenuButton.h"
 #include "RibbonImageRows_p.h"
@@ -33,6 +35,7 @@ const QRect kWideRightEdge(28, 0, 2, 22);
 // The hidden buttons behind the members of a wide strip that open a popup of their
 // own; each implements IRibbonGroupWidget. Plain commands get none.
 const RibbonWidgetMaker popupButtonMakers[] = {
+    makeWidgetFor<RibbonCatColorMenuAction, RibbonCatColorMenuButton>,
     makeWidgetFor<RibbonCatMenuAction, RibbonCatMenuButton>,
 };
 

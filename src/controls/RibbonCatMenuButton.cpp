@@ -3,9 +3,11 @@
 
 #include "RibbonApplication.h"
 #include "RibbonCatMenuAction.h"
+#include "RibbonCatMenuPalettePopup.h"
 #include "RibbonImageRows_p.h"
 #include "RibbonPaint_p.h"
 #include "RibbonPlatform.h"
+#include "RibbonPopupReplay_p.h"
 #include "RibbonScale_p.h"
 #include "RibbonStyle.h"
 #include "RibbonTextFit_p.h"
@@ -40,29 +42,13 @@ const RibbonStyle &palette()
     return RibbonApplication::theApp().ribbonStyle();
 }
 
-// Source cut into a left cap, a stretched middle and a right cap, onto target.
-void drawThreeSlice(QPainter &painter, const QRect &target, const QPixmap &image, const QRect &source,
-                    int leftCap, int rightCap)
-{
-    RibbonSlices slices;
-    slices.set(target, source, QMargins(leftCap, 0, rightCap, 0));
-    slices.draw(painter, image);
-}
-
 // A band of a 43-pixel-wide vertical sprite (2-pixel edges, stretched centre) across
 // the full width of a large button.
 void drawVerticalRow(QPainter &painter, const QPixmap &image, int sourceY, int sourceHeight,
                      int targetY, int targetHeight, int width)
 {
-    drawThreeSlice(painter, QRect(0, targetY, width, targetHeight), image,
-                   QRect(0, sourceY, 43, sourceHeight), 2, 2);
-}
-
-void drawDropDownArrow(QPainter &painter, int x, int y, const QColor &color)
-{
-    painter.setPen(color);
-    painter.setBrush(color);
-    RibbonStyle::drawSymbol(painter, QRect(x, y, 5, 3), SymbolDropDown);
+    RibbonPaint::drawThreeSlice(painter, QRect(0, targetY, width, targetHeight), image,
+                                QRect(0, sourceY, 43, sourceHeight), 2, 2);
 }
 
 } // namespace
@@ -211,9 +197,9 @@ void RibbonCatMenuButton::leaveEvent(QEvent *event)
 
 // RibbonCatMenuButtonPriv ---------------------------------------------------------------
 
-RibbonCatMenuButtonPriv::RibbonCatMenuButtonPriv(RibbonCatMenuButton &owner)
-    : QObject(&owner)
-    , owner(owner)
+RibbonCatMenuButtonPriv::RibbonCatMenuButtonPriv(RibbonCatMenuButton &button)
+    : QObject(&button)
+    , owner(button)
 {
 }
 
@@ -221,8 +207,8 @@ RibbonCatMenuButtonPriv::~RibbonCatMenuButtonPriv() = default;
 
 // RibbonCatMenuButtonBPriv --------------------------------------------------------------
 
-RibbonCatMenuButtonBPriv::RibbonCatMenuButtonBPriv(RibbonCatMenuButton &owner)
-    : RibbonCatMenuButtonPriv(owner)
+RibbonCatMenuButtonBPriv::RibbonCatMenuButtonBPriv(RibbonCatMenuButton &button)
+    : RibbonCatMenuButtonPriv(button)
 {
 }
 
@@ -459,21 +445,20 @@ QWidget *RibbonCatMenuButtonBPriv::openViewPopup()
 
 QWidget *RibbonCatMenuButtonBPriv::openPalettePopup()
 {
-    // The grid popup of the items is not available yet: the items open as a plain
-    // menu, placed as any one-row drop-down.
-    return openMenu();
+    auto *popup = new RibbonCatMenuPalettePopup(*owner.action(), &owner);
+    popup->installEventFilter(this);
+    connect(popup, &RibbonCatMenuPalettePopup::closed, this, &RibbonCatMenuButtonBPriv::popupClosed);
+    // A popup deleted while open announces no closing; the button must not stay locked.
+    connect(popup, &QObject::destroyed, this, &RibbonCatMenuButtonBPriv::popupClosed);
+    return popup;
 }
 
 bool RibbonCatMenuButtonBPriv::eventFilter(QObject *watched, QEvent *event)
 {
     // A click on this button that closes its drop-down must not reach the button again
     // and reopen it.
-    if (watched == m_popup && event->type() == QEvent::MouseButtonPress) {
-        auto *mouse = static_cast<QMouseEvent *>(event);
-        if (!m_popup->rect().contains(mouse->pos())
-            && owner.rect().contains(owner.mapFromGlobal(mouse->globalPos())))
-            m_popup->setAttribute(Qt::WA_NoMouseReplay);
-    }
+    if (watched == m_popup)
+        keepOpenerPressFromReopening(m_popup, owner, event);
     return RibbonCatMenuButtonPriv::eventFilter(watched, event);
 }
 
@@ -554,8 +539,8 @@ void RibbonCatMenuButtonBPriv::paintRow(QPainter &painter)
             // Caption: 2-pixel left cap, stretched centre, 1-pixel right cap; the arrow
             // part keeps its width.
             if (captionState != NoRow)
-                drawThreeSlice(painter, QRect(0, 0, w - 11, rowHeight), captionImage,
-                               QRect(0, RowHeight * captionState, 22, RowHeight), 2, 1);
+                RibbonPaint::drawThreeSlice(painter, QRect(0, 0, w - 11, rowHeight), captionImage,
+                                            QRect(0, RowHeight * captionState, 22, RowHeight), 2, 1);
             if (arrowState != NoRow)
                 painter.drawPixmap(QRect(w - ArrowWidth, 0, ArrowWidth, rowHeight), arrowImage,
                                    QRect(0, RowHeight * arrowState, ArrowWidth, RowHeight));
@@ -572,14 +557,7 @@ void RibbonCatMenuButtonBPriv::paintRow(QPainter &painter)
             captionState = MenuCaption::Hover;
             arrowState = MenuArrow::Hover;
         }
-        // One outline: the caption image without its right cap meets the arrow image
-        // without its left edge.
-        if (captionState != NoRow)
-            drawThreeSlice(painter, QRect(0, 0, w - 12, rowHeight), captionImage,
-                           QRect(0, RowHeight * captionState, 21, RowHeight), 2, 0);
-        if (arrowState != NoRow)
-            drawThreeSlice(painter, QRect(w - 12, 0, 12, rowHeight), arrowImage,
-                           QRect(0, RowHeight * arrowState, ArrowWidth, RowHeight), 0, 2);
+        RibbonPaint::drawDropDownRow(painter, w, rowHeight, captionState, arrowState);
     }
 
     // Icon: the menu's own, else that of the default action.
@@ -602,7 +580,7 @@ void RibbonCatMenuButtonBPriv::paintRow(QPainter &painter)
         painter.drawText(textRect, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, action->text());
     }
 
-    drawDropDownArrow(painter, w - 9, h / 2, textColor);
+    RibbonPaint::drawDropDownArrow(painter, w - 9, h / 2, textColor);
 }
 
 void RibbonCatMenuButtonBPriv::paintLarge(QPainter &painter)
@@ -670,9 +648,9 @@ void RibbonCatMenuButtonBPriv::paintLarge(QPainter &painter)
     painter.drawText(textRect, Qt::AlignTop | Qt::AlignHCenter | Qt::TextWordWrap, action->text());
 
     if (lineCount == 2)
-        drawDropDownArrow(painter, w - 7, scaled(56), textColor);
+        RibbonPaint::drawDropDownArrow(painter, w - 7, scaled(56), textColor);
     else
-        drawDropDownArrow(painter, (w - 5) / 2, scaled(56), textColor);
+        RibbonPaint::drawDropDownArrow(painter, (w - 5) / 2, scaled(56), textColor);
 }
 
 } // namespace zel

@@ -84,6 +84,12 @@ QRect RibbonPlatform::availableGeometry(const QWidget *widget)
     return screen->availableGeometry();
 }
 
+QRect RibbonPlatform::desktopGeometry()
+{
+    const QScreen *screen = QGuiApplication::primaryScreen();
+    return screen ? screen->virtualGeometry() : QRect();
+}
+
 void RibbonPlatform::frameCell(const QRect &frame, const QPoint &globalPos, FrameRow *row, FrameColumn *column)
 {
     const int f = sizingFrameThickness();

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "zelribbon_export.h"
+#include "RibbonAutotestExport_p.h"
 
 #include <QRect>
 #include <QString>
@@ -16,7 +16,7 @@ namespace zel {
 // answers (screen resolution, frame metrics, system generation, window management) is
 // asked here, so no other part of the library calls a native API. This implementation
 // answers with portable Qt.
-class ZELRIBBON_EXPORT RibbonPlatform
+class ZELRIBBON_AUTOTEST_EXPORT RibbonPlatform
 {
 public:
     // Logical resolution of the primary screen in dots per inch. Returns false (and
@@ -45,6 +45,10 @@ public:
     // The part of the widget's screen not taken by task bars and docks; the default
     // screen's for a null widget.
     static QRect availableGeometry(const QWidget *widget);
+
+    // The whole desktop (every screen side by side) in global coordinates; a null
+    // rectangle when there is no screen.
+    static QRect desktopGeometry();
 
     // Cells of the three-by-three grid a frameless window is divided into when the
     // system asks what lies under the cursor.

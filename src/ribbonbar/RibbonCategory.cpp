@@ -6,6 +6,8 @@
 #include "RibbonCatActionGroupWidget.h"
 #include "RibbonCatCheckBox.h"
 #include "RibbonCatCheckBoxAction.h"
+#include "RibbonCatColorMenuAction.h"
+#include "RibbonCatColorMenuButton.h"
 #include "RibbonCatComboAction.h"
 #include "RibbonCatComboWidget.h"
 #include "RibbonCatFontFamilyAction.h"
@@ -18,6 +20,7 @@
 #include "RibbonCategoryLayout.h"
 #include "RibbonClassChecks_p.h"
 #include "RibbonPaint_p.h"
+#include "RibbonScale_p.h"
 #include "RibbonStyle.h"
 
 #include <QActionEvent>
@@ -28,11 +31,6 @@
 namespace zel {
 
 namespace {
-
-int dpiRound(double v)
-{
-    return int(v * RibbonApplication::theApp().dpiFactor().second + 0.5);
-}
 
 QWidget *makeMenuButton(QAction *action, QWidget *parent)
 {
@@ -48,6 +46,7 @@ QWidget *makeMenuButton(QAction *action, QWidget *parent)
 
 // The control of a member, by its class; the first maker that accepts it wins.
 const RibbonWidgetMaker controlMakers[] = {
+    makeWidgetFor<RibbonCatColorMenuAction, RibbonCatColorMenuButton>,
     makeMenuButton,
     makeWidgetFor<RibbonCatSimpleAction, RibbonCatSimpleButton>,
     makeWidgetFor<RibbonCatActionGroup, RibbonCatActionGroupWidget>,
@@ -232,17 +231,17 @@ void RibbonCategory::resizeEvent(QResizeEvent *event)
     QWidget::resizeEvent(event);
     const int w = width();
     const QMargins caps(kCapWidth, 0, kCapWidth, 0);
-    const int bodyHeight = dpiRound(66);
+    const int bodyHeight = scaled(66);
     const QRect topEdge(0, 0, w, 3);
     const QRect body(0, 3, w, bodyHeight);
-    const QRect captionBand(0, bodyHeight + 3, w, dpiRound(13));
-    const QRect bottomEdge(0, dpiRound(79) + 3, w, 3);
+    const QRect captionBand(0, bodyHeight + 3, w, scaled(13));
+    const QRect bottomEdge(0, scaled(79) + 3, w, 3);
 
     d->topEdge.set(topEdge, QRect(0, 0, kImageWidth, 3), caps);
     d->body.set(body, QRect(0, 3, kImageWidth, 65), caps);
     d->captionBand.set(captionBand, QRect(0, 0, kImageWidth, 14), caps);
     d->bottomEdge.set(bottomEdge, QRect(0, 14, kImageWidth, 3), caps);
-    d->captionRect = QRect(0, dpiRound(69), w, dpiRound(14)).adjusted(3, 0, -3, 0);
+    d->captionRect = QRect(0, scaled(69), w, scaled(14)).adjusted(3, 0, -3, 0);
 }
 
 void RibbonCategory::paintEvent(QPaintEvent *)

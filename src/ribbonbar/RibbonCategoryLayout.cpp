@@ -1,8 +1,8 @@
 #include "RibbonCategoryLayout.h"
 
-#include "RibbonApplication.h"
 #include "RibbonCatComboWidget.h"
 #include "RibbonCategory.h"
+#include "RibbonScale_p.h"
 
 #include <QVector>
 #include <QWidget>
@@ -13,20 +13,15 @@ namespace zel {
 
 namespace {
 
-int dpiRound(double v)
-{
-    return int(v * RibbonApplication::theApp().dpiFactor().second + 0.5);
-}
-
 // The full height of a category and the height up to which a control counts as short.
 int categoryHeight()
 {
-    return dpiRound(85);
+    return scaled(85);
 }
 
 int shortThreshold()
 {
-    return dpiRound(22);
+    return scaled(22);
 }
 
 const int kColumnGap = 2;

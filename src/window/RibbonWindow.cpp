@@ -1,6 +1,7 @@
 #include "RibbonWindow.h"
 
 #include "RibbonApplication.h"
+#include "RibbonPaint_p.h"
 #include "RibbonPlatform.h"
 #include "RibbonStyle.h"
 #include "RibbonWindowDrag_p.h"
@@ -522,23 +523,18 @@ void RibbonWindow::paintEvent(QPaintEvent *event)
     const int b = s_BorderSize;
     namespace F = WindowImages::Frame;
     const int k = isActiveWindow() ? 0 : F::InactiveHalf;
-    const int left = k;
-    const int middle = k + F::MiddleX;
-    const int right = k + F::RightEndX;
 
     QPainter p(this);
-    // QPainter skips null pixmaps, so a missing image simply leaves its piece out.
-    const QPixmap &caption = style.mainBorderCaption();
-    p.drawPixmap(QRect(0, 0, b, c), caption, QRect(left, 0, F::EndWidth, F::CaptionHeight));
-    p.drawPixmap(QRect(b, 0, w - b, c), caption, QRect(middle, 0, F::MiddleWidth, F::CaptionHeight));
-    p.drawPixmap(QRect(w - b, 0, b, c), caption, QRect(right, 0, F::EndWidth, F::CaptionHeight));
-
+    // The caption band and the bottom edge are three-slices of their images with caps as
+    // wide as the border; each side stretches one row of the border image. A missing
+    // image simply leaves its piece out.
+    RibbonPaint::drawThreeSlice(p, QRect(0, 0, w, c), style.mainBorderCaption(),
+                                QRect(k, 0, F::HalfWidth, F::CaptionHeight), b, b);
     const QPixmap &border = style.mainBorder();
-    p.drawPixmap(QRect(0, c, b, h - b - c), border, QRect(left, F::SideRow, F::EndWidth, 1));
-    p.drawPixmap(QRect(w - b, c, b, h - b - c), border, QRect(right, F::SideRow, F::EndWidth, 1));
-    p.drawPixmap(QRect(0, h - b, b, b), border, QRect(left, F::BottomRow, F::EndWidth, F::BottomHeight));
-    p.drawPixmap(QRect(b, h - b, w - 2 * b, b), border, QRect(middle, F::BottomRow, F::MiddleWidth, F::BottomHeight));
-    p.drawPixmap(QRect(w - b, h - b, b, b), border, QRect(right, F::BottomRow, F::EndWidth, F::BottomHeight));
+    p.drawPixmap(QRect(0, c, b, h - b - c), border, QRect(k, F::SideRow, F::EndWidth, 1));
+    p.drawPixmap(QRect(w - b, c, b, h - b - c), border, QRect(k + F::RightEndX, F::SideRow, F::EndWidth, 1));
+    RibbonPaint::drawThreeSlice(p, QRect(0, h - b, w, b), border,
+                                QRect(k, F::BottomRow, F::HalfWidth, F::BottomHeight), b, b);
 
     const int lineHeight = std::max(fontMetrics().height(), s_SysIconSize);
     const QIcon icon = windowIcon();

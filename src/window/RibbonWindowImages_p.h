@@ -12,9 +12,8 @@ namespace WindowImages {
 // end, 7-27 the stretchable middle, 28-34 the right end.
 namespace Frame {
 constexpr int InactiveHalf = 35;
+constexpr int HalfWidth = 35;
 constexpr int EndWidth = 7;
-constexpr int MiddleX = 7;
-constexpr int MiddleWidth = 21;
 constexpr int RightEndX = 28;
 // mainBorderCaption: the caption, the image's full height.
 constexpr int CaptionHeight = 31;

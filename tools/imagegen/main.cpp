@@ -96,8 +96,8 @@ QColor parseColor(const QString &text)
 class FramePainter
 {
 public:
-    FramePainter(QPainter &painter, const Scope &scope, const QSize &frame)
-        : p(painter), scope(scope), frame(frame)
+    FramePainter(QPainter &painter, const Scope &vars, const QSize &frameSize)
+        : p(painter), scope(vars), frame(frameSize)
     {
     }
 

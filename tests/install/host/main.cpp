@@ -1,6 +1,12 @@
 // A host built against the installed package, as the README shows one. With --check it
 // verifies that the ribbon came up and exits instead of running the event loop.
-#include <zelRibbon.h>
+#include <zelRibbon/RibbonApplication.h>
+#include <zelRibbon/RibbonCatSimpleAction.h>
+#include <zelRibbon/RibbonCategoriesPanelAction.h>
+#include <zelRibbon/RibbonCategoryAction.h>
+#include <zelRibbon/RibbonMainWindow.h>
+#include <zelRibbon/RibbonMenuBar.h>
+#include <zelRibbon/RibbonStyle.h>
 
 #include <QTextEdit>
 

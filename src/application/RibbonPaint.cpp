@@ -62,6 +62,26 @@ QColor textColor(bool enabled)
     return enabled ? style.highlightedCategoryTextColor() : style.disabledCategoryTextColor();
 }
 
+void drawDropDownArrow(QPainter &painter, int x, int y, const QColor &color)
+{
+    painter.setPen(color);
+    painter.setBrush(color);
+    RibbonStyle::drawSymbol(painter, QRect(x, y, 5, 3), SymbolDropDown);
+}
+
+void drawDropDownRow(QPainter &painter, int width, int height, int captionRow, int arrowRow)
+{
+    const RibbonStyle &style = RibbonApplication::theApp().ribbonStyle();
+    // One outline: the caption image without its right cap meets the arrow image
+    // without its left edge.
+    if (captionRow != RibbonImageRows::NoRow)
+        drawThreeSlice(painter, QRect(0, 0, width - 12, height), style.horizontalMenuButtonCaption(),
+                       QRect(0, SmallRowHeight * captionRow, 21, SmallRowHeight), 2, 0);
+    if (arrowRow != RibbonImageRows::NoRow)
+        drawThreeSlice(painter, QRect(width - 12, 0, 12, height), style.horizontalMenuButtonMenu(),
+                       QRect(0, SmallRowHeight * arrowRow, 11, SmallRowHeight), 0, 2);
+}
+
 int smallButtonRow(const QAbstractButton &button)
 {
     using namespace RibbonImageRows;

@@ -50,6 +50,15 @@ void drawThreeSlice(QPainter &painter, const QRect &target, const QPixmap &pixma
 // The pen colour of a control's text and symbols by its enabled state.
 QColor textColor(bool enabled);
 
+// The drop-down mark of a button, a 5 x 3 triangle with its top-left corner at (x, y).
+void drawDropDownArrow(QPainter &painter, int x, int y, const QColor &color);
+
+// Background of a one-row drop-down button: the caption part (horizontalMenuButtonCaption
+// without its right cap) over all but the last 12 pixels, joined to the arrow part
+// (horizontalMenuButtonMenu) there; rows by RibbonImageRows::MenuCaption and MenuArrow,
+// a part whose row is NoRow is not drawn.
+void drawDropDownRow(QPainter &painter, int width, int height, int captionRow, int arrowRow);
+
 // Height of a row in the small state sheets (normalButtonSmall, paletteItemSmall and
 // the strip segments).
 const int SmallRowHeight = 22;

@@ -1,0 +1,168 @@
+#include "EditorDemoPickers.h"
+
+#include "EditorDemoIcons.h"
+
+#include "RibbonCatColorMenuAction.h"
+#include "RibbonCatMenuAction.h"
+#include "RibbonCategoryAction.h"
+#include "RibbonSimpleAction.h"
+
+#include <QPainter>
+#include <QPixmap>
+#include <QSignalBlocker>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <QTextEdit>
+
+#include <functional>
+
+using namespace zel;
+
+namespace {
+
+// Changes the character format of the selection, or of the word under the cursor, and
+// the format of what is typed next. Unlike a merge it can also remove a property.
+void changeCharFormat(QTextEdit *edit, const std::function<void(QTextCharFormat &)> &change)
+{
+    QTextCursor cursor = edit->textCursor();
+    if (!cursor.hasSelection())
+        cursor.select(QTextCursor::WordUnderCursor);
+    if (cursor.hasSelection()) {
+        // Each run of one format keeps its other properties; collected first, since
+        // setting a format merges and splits the runs.
+        struct Run
+        {
+            int start;
+            int end;
+            QTextCharFormat format;
+        };
+        QVector<Run> runs;
+        const int start = cursor.selectionStart();
+        const int end = cursor.selectionEnd();
+        for (QTextBlock block = edit->document()->findBlock(start); block.isValid() && block.position() < end;
+             block = block.next()) {
+            for (auto it = block.begin(); !it.atEnd(); ++it) {
+                const QTextFragment fragment = it.fragment();
+                const int from = qMax(fragment.position(), start);
+                const int to = qMin(fragment.position() + fragment.length(), end);
+                if (from < to)
+                    runs.append({from, to, fragment.charFormat()});
+            }
+        }
+        QTextCursor part(edit->document());
+        part.beginEditBlock();
+        for (Run &run : runs) {
+            change(run.format);
+            part.setPosition(run.start);
+            part.setPosition(run.end, QTextCursor::KeepAnchor);
+            part.setCharFormat(run.format);
+        }
+        part.endEditBlock();
+    }
+    QTextCharFormat typing = edit->currentCharFormat();
+    change(typing);
+    edit->setCurrentCharFormat(typing);
+    edit->setFocus();
+}
+
+QIcon symbolIcon(const QString &symbol)
+{
+    QPixmap pixmap(48, 48);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::TextAntialiasing);
+    QFont font(QStringLiteral("DejaVu Sans"));
+    font.setPixelSize(28);
+    painter.setFont(font);
+    painter.setPen(EditorColors::Ink);
+    painter.drawText(pixmap.rect(), Qt::AlignCenter, symbol);
+    painter.end();
+    return QIcon(pixmap);
+}
+
+} // namespace
+
+EditorColorCommands addColorCommands(RibbonCategoryAction &category, int row, QTextEdit *edit, QObject *owner)
+{
+    using Color = RibbonCatColorMenuAction;
+    EditorColorCommands commands;
+    commands.fontColor = new Color(editorIcon(EditorIcon::FontColor), QObject::tr("Font Color"),
+                                   Color::ColorSizeSmall, owner);
+    commands.fontColor->setToolTip(QObject::tr("Font Color"));
+    commands.fontColor->setHasAutomaticColor(true);
+    commands.fontColor->setAutomaticColor(edit->palette().color(QPalette::Text));
+    commands.highlight = new Color(editorIcon(EditorIcon::Highlight), QObject::tr("Text Highlight Color"),
+                                   Color::ColorSizeSmall, owner);
+    commands.highlight->setToolTip(QObject::tr("Text Highlight Color"));
+    commands.highlight->setHasNoneColor(true);
+    // Every choice applies, also the colour the button shows already: the next selection
+    // may have another.
+    for (Color *action : {commands.fontColor, commands.highlight}) {
+        action->setKeepSelection(false);
+        category.addAction(action, row);
+    }
+
+    QObject::connect(commands.fontColor, &Color::colorSet, edit, [edit](const QColor &color) {
+        changeCharFormat(edit, [color](QTextCharFormat &f) { f.setForeground(color); });
+    });
+    QObject::connect(commands.fontColor, &Color::automaticSet, edit, [edit] {
+        changeCharFormat(edit, [](QTextCharFormat &f) { f.clearForeground(); });
+    });
+    QObject::connect(commands.highlight, &Color::colorSet, edit, [edit](const QColor &color) {
+        changeCharFormat(edit, [color](QTextCharFormat &f) { f.setBackground(color); });
+    });
+    QObject::connect(commands.highlight, &Color::noneSet, edit, [edit] {
+        changeCharFormat(edit, [](QTextCharFormat &f) { f.clearBackground(); });
+    });
+
+    // The buttons show the colours at the cursor; following them applies nothing.
+    const auto follow = [commands](const QTextCharFormat &format) {
+        {
+            const QSignalBlocker quiet(commands.fontColor);
+            if (format.hasProperty(QTextFormat::ForegroundBrush))
+                commands.fontColor->setColor(format.foreground().color());
+            else
+                commands.fontColor->setAutomatic();
+        }
+        const QSignalBlocker quiet(commands.highlight);
+        if (format.hasProperty(QTextFormat::BackgroundBrush) && format.background().style() != Qt::NoBrush)
+            commands.highlight->setColor(format.background().color());
+        else
+            commands.highlight->setNone();
+    };
+    QObject::connect(edit, &QTextEdit::currentCharFormatChanged, commands.fontColor, follow);
+    follow(edit->currentCharFormat());
+    return commands;
+}
+
+RibbonCatMenuAction *makeSymbolPalette(QTextEdit *edit, QObject *owner)
+{
+    auto *palette = new RibbonCatMenuAction(editorIcon(EditorIcon::Symbol), QObject::tr("Symbol"),
+                                            RibbonCatMenuAction::MenuTypeButton, RibbonCatMenuAction::MenuSizeMedium,
+                                            RibbonCatMenuAction::PopupPalette, owner);
+    palette->setToolTip(QObject::tr("Insert a symbol"));
+    const QList<QPair<ushort, QString>> symbols = {
+        {0x00A9, QObject::tr("Copyright")}, {0x00AE, QObject::tr("Registered")}, {0x2122, QObject::tr("Trade mark")},
+        {0x20AC, QObject::tr("Euro")}, {0x00A3, QObject::tr("Pound")}, {0x00A5, QObject::tr("Yen")},
+        {0x00B0, QObject::tr("Degree")}, {0x00B1, QObject::tr("Plus-minus")}, {0x00D7, QObject::tr("Multiplication")},
+        {0x00F7, QObject::tr("Division")}, {0x2260, QObject::tr("Not equal")}, {0x2248, QObject::tr("Almost equal")},
+        {0x2264, QObject::tr("Less or equal")}, {0x2265, QObject::tr("Greater or equal")},
+        {0x221E, QObject::tr("Infinity")}, {0x03C0, QObject::tr("Pi")}, {0x03A9, QObject::tr("Omega")},
+        {0x00B5, QObject::tr("Micro")}, {0x00A7, QObject::tr("Section")}, {0x00B6, QObject::tr("Pilcrow")},
+        {0x2022, QObject::tr("Bullet")}, {0x2026, QObject::tr("Ellipsis")}, {0x2014, QObject::tr("Em dash")},
+        {0x2192, QObject::tr("Right arrow")}, {0x2190, QObject::tr("Left arrow")}, {0x2191, QObject::tr("Up arrow")},
+        {0x2193, QObject::tr("Down arrow")}, {0x00BD, QObject::tr("One half")}, {0x00BC, QObject::tr("One quarter")},
+        {0x2713, QObject::tr("Check mark")}};
+    for (const auto &symbol : symbols) {
+        const QString text(QChar(symbol.first));
+        auto *item = new RibbonSimpleAction(symbolIcon(text), text, owner);
+        item->setToolTip(symbol.second);
+        palette->addAction(item, false);
+        QObject::connect(item, &QAction::triggered, edit, [edit, text] {
+            edit->textCursor().insertText(text);
+            edit->setFocus();
+        });
+    }
+    return palette;
+}
