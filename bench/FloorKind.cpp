@@ -10,6 +10,7 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QListWidget>
 #include <QMenu>
 #include <QPointer>
 #include <QStackedWidget>
@@ -30,6 +31,7 @@ struct FloorGroup
 {
     QString caption;
     QList<FloorCommand> commands;
+    QList<QAction *> gallery; // the tiles of the tab's gallery, in its first group
 };
 
 struct FloorTab
@@ -67,6 +69,15 @@ public:
                     for (int i = 0; i < buttonsOf(s); ++i)
                         c.actions << new QAction(icon(n + i), buttonsOf(s) > 1 ? text + QString::number(i) : text, m_owner);
                     group.commands << c;
+                }
+                if (g == 0) {
+                    for (int i = 0; i < galleryTiles; ++i) {
+                        auto *tile = new QAction(icon(n + i), QStringLiteral("Gallery %1").arg(t) + QString::number(i),
+                                                 m_owner);
+                        tile->setCheckable(true);
+                        tile->setChecked(i == 0);
+                        group.gallery << tile;
+                    }
                 }
                 tab.groups << group;
             }
@@ -156,7 +167,38 @@ public:
                 break;
             }
         }
+        if (!group.gallery.isEmpty()) {
+            if (row) {
+                row = 0;
+                ++col;
+            }
+            grid->addWidget(galleryList(group.gallery, box), 0, col, 3, 1);
+            auto *more = new QToolButton(box);
+            more->setMenu(m_menu);
+            more->setPopupMode(QToolButton::InstantPopup);
+            grid->addWidget(more, 2, col + 1);
+        }
         return box;
+    }
+
+    // What a gallery is in plain Qt: a one-row icon list of the tiles and a button
+    // opening a menu.
+    static QListWidget *galleryList(const QList<QAction *> &tiles, QWidget *parent)
+    {
+        auto *list = new QListWidget(parent);
+        list->setViewMode(QListView::IconMode);
+        list->setIconSize(QSize(32, 32));
+        list->setFixedSize(4 * 60 + 18, 60);
+        list->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+        for (QAction *tile : tiles) {
+            auto *item = new QListWidgetItem(tile->icon(), QString(), list);
+            item->setSizeHint(QSize(60, 60));
+            item->setCheckState(tile->isChecked() ? Qt::Checked : Qt::Unchecked);
+        }
+        QObject::connect(list, &QListWidget::itemClicked, list, [list, tiles](QListWidgetItem *item) {
+            tiles.at(list->row(item))->trigger();
+        });
+        return list;
     }
 
     QWidget *page(const FloorTab &tab) const

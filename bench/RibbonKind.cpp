@@ -17,7 +17,9 @@
 #include "RibbonCategoryWrapperPopup.h"
 #include "RibbonMainWindow.h"
 #include "RibbonMenuBar.h"
+#include "RibbonSimpleAction.h"
 
+#include <QActionGroup>
 #include <QPointer>
 #include <QTest>
 
@@ -25,6 +27,22 @@ namespace bench {
 namespace {
 
 using namespace zel;
+
+// A styles gallery: a menu command shown in the ribbon as a row of tiles, one per
+// action of its icon group, the first one checked.
+RibbonCatMenuAction *gallery(const QString &text, int firstIcon, QObject *owner)
+{
+    auto *menu = new RibbonCatMenuAction(icon(firstIcon), text, RibbonCatMenuAction::MenuTypeButton,
+                                         RibbonCatMenuAction::MenuSizeLarge, RibbonCatMenuAction::PopupListPreview,
+                                         owner);
+    for (int i = 0; i < galleryTiles; ++i) {
+        auto *tile = new RibbonSimpleAction(icon(firstIcon + i), text + QString::number(i), owner);
+        tile->setCheckable(true);
+        tile->setChecked(i == 0);
+        menu->iconActionGroup()->addAction(tile);
+    }
+    return menu;
+}
 
 class RibbonKind : public Kind
 {
@@ -91,6 +109,8 @@ public:
                         break;
                     }
                 }
+                if (g == 0)
+                    cat->addAction(gallery(QStringLiteral("Gallery %1").arg(t), n, m_owner), -1);
                 tab->addCategory(cat);
             }
             m_tabs << tab;

@@ -54,6 +54,11 @@ int buttonsOf(Slot slot)
     return slot == Slot::Group ? 3 : 1;
 }
 
+int tabExtraButtons()
+{
+    return galleryTiles + 1; // the gallery's tiles and its menu button
+}
+
 const QIcon &icon(int index)
 {
     static QVector<QIcon> icons;

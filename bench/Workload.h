@@ -37,6 +37,12 @@ QVector<Slot> groupSlots(int commands, int groupIndex);
 // Buttons a slot stands for (a button group is a strip of three small buttons).
 int buttonsOf(Slot slot);
 
+// Besides the slots, the first group of every tab holds an in-ribbon gallery of this
+// many tiles (a styles gallery) with the button that opens its full menu.
+const int galleryTiles = 8;
+// Buttons every tab holds besides those of its groups' slots.
+int tabExtraButtons();
+
 // A handful of distinct icons (32 and 16 pixels) drawn in memory and reused.
 const QIcon &icon(int index);
 

@@ -123,6 +123,7 @@ int child(const QString &workloadName, const QString &kindName, const QString &o
     for (int g = 0; g < w.groups; ++g)
         for (Slot s : groupSlots(w.commands, g))
             buttons += buttonsOf(s);
+    buttons += tabExtraButtons();
     buttons *= w.tabs;
     out[QStringLiteral("buttons")] = buttons;
 

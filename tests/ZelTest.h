@@ -8,6 +8,7 @@
 
 #include <QHBoxLayout>
 #include <QLineEdit>
+#include <QWindow>
 #include <QtTest>
 
 // The number of widgets alive once the popups a test left open are closed and what was
@@ -62,6 +63,17 @@ struct ZelAcceptingWindowSystem
     ~ZelAcceptingWindowSystem() { zel::RibbonPlatform::setSystemDragHandler({}); }
     Q_DISABLE_COPY(ZelAcceptingWindowSystem)
 };
+
+// Waits until the window system has shown popup (true) or gives up (false). The
+// offscreen platform activates a window it shows; handled only after the popup has
+// closed, that activation would take the active window away from the test's window.
+inline bool zelPopupShown(QWidget *popup)
+{
+    if (!popup)
+        return false;
+    QCoreApplication::processEvents(); // usually enough, and much faster than a wait
+    return (popup->windowHandle() && popup->windowHandle()->isExposed()) || QTest::qWaitForWindowExposed(popup);
+}
 
 #define ZEL_TEST_MAIN(TestObject)                                   \
     int main(int argc, char *argv[])                                \

@@ -1,26 +1,34 @@
 #include "EditorDemo.h"
 
 #include "DemoIcons.h"
+#include "DocumentInfoPane.h"
 #include "EditorDemoIcons.h"
 #include "EditorDemoPickers.h"
+#include "EditorGalleries.h"
+#include "EditorOptions.h"
+#include "NavigationPane.h"
 
 #include "BackstageListModel.h"
 #include "BackstageView.h"
 #include "BackstageWelcomeScreen.h"
 #include "RibbonCatActionGroup.h"
+#include "RibbonCatCheckBoxAction.h"
 #include "RibbonCatComboAction.h"
 #include "RibbonCatFontFamilyAction.h"
 #include "RibbonCatMenuAction.h"
 #include "RibbonCatSimpleAction.h"
+#include "RibbonChildWindow.h"
 #include "RibbonCategoriesPanelAction.h"
 #include "RibbonCategoryAction.h"
 #include "RibbonContextCategoryPanel.h"
 #include "RibbonContextCategoryPanelAction.h"
 #include "RibbonMenuBar.h"
+#include "RibbonOptionsDialog.h"
 #include "RibbonPercAction.h"
 #include "RibbonQuickAccessBar.h"
 #include "RibbonSimpleAction.h"
 #include "RibbonStatusBar.h"
+#include "RibbonTabBar.h"
 
 #include <QAbstractItemDelegate>
 #include <QApplication>
@@ -43,6 +51,8 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSettings>
+#include <QShortcut>
+#include <QStackedWidget>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocumentWriter>
@@ -54,6 +64,7 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <cmath>
 
 using namespace zel;
@@ -63,9 +74,16 @@ namespace {
 const QString AppName = QStringLiteral("Writer");
 const QString KeyRecent = QStringLiteral("editor/recentDocuments");
 const QString KeyHiddenQuick = QStringLiteral("editor/hiddenQuickAccess");
-const QString KeyMinimised = QStringLiteral("editor/ribbonMinimised");
 
 const QList<int> FontSizes = {8, 9, 10, 11, 12, 14, 16, 18, 20, 22, 24, 28, 36, 48, 72};
+
+// The text font of new documents, at 100 %.
+QFont documentFont()
+{
+    QFont font(QStringLiteral("DejaVu Sans"));
+    font.setPointSize(11);
+    return font;
+}
 
 // Full-width tables with thin blue-grey rules, as inserted and in the sample report.
 QTextTableFormat documentTableFormat(qreal cellPadding)
@@ -109,6 +127,14 @@ public:
         relayout();
     }
     int zoom() const { return m_zoom; }
+    // A page column of fixed width (print layout) or text across the window (web layout).
+    void setPrintLayout(bool on)
+    {
+        if (on == m_printLayout)
+            return;
+        m_printLayout = on;
+        relayout();
+    }
     void setBaseSize(qreal points)
     {
         m_baseSize = points;
@@ -141,13 +167,18 @@ private:
     {
         // A page column that grows with the zoom, centred on the grey desk.
         const int pageWidth = int(std::lround(760 * m_zoom / 100.0));
-        const int side = qMax(0, (width() - verticalScrollBar()->sizeHint().width() - pageWidth) / 2);
+        const int side =
+            m_printLayout ? qMax(0, (width() - verticalScrollBar()->sizeHint().width() - pageWidth) / 2) : 0;
         setViewportMargins(side, 0, side, 0);
+        // The margin is a format change of the document, which would count as an edit.
+        const bool modified = document()->isModified();
         document()->setDocumentMargin(qMax(16, 56 * m_zoom / 100));
+        document()->setModified(modified);
     }
 
     int m_zoom = 100;
     qreal m_baseSize = 11;
+    bool m_printLayout = true;
 };
 
 // Rows of the Open page's recent list: name, folder and a pin at the right.
@@ -371,14 +402,58 @@ QTextCursor pictureAt(const QTextCursor &cursor)
 
 } // namespace
 
+struct EditorDemo::Document
+{
+    PageEdit *edit = nullptr;
+    QString path;     // empty until saved or opened
+    int untitled = 0; // its number in "DocumentN" while it has no file
+    RibbonSimpleAction *tab = nullptr;
+};
+
 struct EditorDemo::Priv
 {
     QSettings *settings = nullptr;
-    PageEdit *edit = nullptr;
-    QString path;
-    int untitled = 1;
+    EditorPreferences *preferences = nullptr;
+    std::vector<std::unique_ptr<Document>> documents;
+    Document *current = nullptr;
+    PageEdit *edit = nullptr; // the current document's
+    int nextUntitled = 1;
     int pictures = 0;
     bool syncing = false;
+
+    QStackedWidget *pages = nullptr;
+    RibbonMenuAction *tabs = nullptr;
+    NavigationPane *navigation = nullptr;
+    RibbonCatCheckBoxAction *showNavigation = nullptr;
+    DocumentInfoPane *info = nullptr;
+    QList<QPair<QString, QString>> shortcuts;
+
+    // The ribbon and status bar following the current editor.
+    std::function<void()> updateWords;
+    std::function<void()> updatePage;
+    std::function<void(const QTextCharFormat &)> updateFormat;
+    std::function<void()> updateBlock;
+    std::function<void()> updateContext;
+
+    QString name(const Document *document) const
+    {
+        return document->path.isEmpty() ? EditorDemo::tr("Document%1").arg(document->untitled)
+                                        : QFileInfo(document->path).fileName();
+    }
+    // Documents are counted in the order of their tabs, which the user may change.
+    int tabIndex(const Document *document) const
+    {
+        return document ? tabs->menuActions().indexOf(document->tab) : -1;
+    }
+    Document *atTab(int index) const
+    {
+        const RibbonAction *tab = tabs->menuActions().value(index);
+        for (const auto &document : documents) {
+            if (tab && document->tab == tab)
+                return document.get();
+        }
+        return nullptr;
+    }
 
     BackstageListModel *recent = nullptr;
     QListView *recentView = nullptr;
@@ -415,20 +490,15 @@ EditorDemo::EditorDemo(QSettings &settings, QWidget *parent)
     , d(new Priv)
 {
     d->settings = &settings;
+    d->preferences = new EditorPreferences(settings, this);
     QFont uiFont = font();
     uiFont.setPointSize(9);
     setFont(uiFont);
 
-    d->edit = new PageEdit(this);
-    d->edit->setAcceptRichText(true);
-    QFont textFont(QStringLiteral("DejaVu Sans"));
-    textFont.setPointSize(11);
-    d->edit->setFont(textFont);
-    d->edit->setBaseSize(11);
-    setCentralWidget(d->edit);
+    buildDocumentArea();
 
     // Recent documents, restored with their pins.
-    d->recent = new BackstageListModel(this, 12);
+    d->recent = new BackstageListModel(this, d->preferences->recentLength());
     d->recent->restoreState(settings.value(KeyRecent).toList());
 
     buildQuickAccess();
@@ -447,23 +517,158 @@ EditorDemo::EditorDemo(QSettings &settings, QWidget *parent)
     });
     bar.setHelpAction(help);
 
+    buildShortcuts(); // before the File page, whose Info pane lists them
     buildFilePage();
     buildWelcomeScreen();
     followEditor();
 
-    if (settings.value(KeyMinimised, false).toBool()) {
+    connect(d->preferences, &EditorPreferences::recentLengthChanged, this, [this] {
+        d->recent->setMaxNumberOfItems(d->preferences->recentLength());
+        writeSettings();
+    });
+    connect(d->preferences, &EditorPreferences::defaultZoomChanged, this,
+            [this] { zoomTo(d->preferences->defaultZoom()); });
+    connect(d->preferences, &EditorPreferences::authorChanged, this, &EditorDemo::refreshInfo);
+    connect(this, &RibbonMainWindow::activeViewChanged, this, [this] {
+        if (activeView() == BackstagePanel)
+            refreshInfo();
+    });
+
+    if (d->preferences->startMinimised()) {
         d->minimise->setChecked(true);
         ribbonMenuBar().setMinimizeRibbon(true);
     }
 
-    newDocument();
+    activate(createDocument());
     setActiveView(WelcomeScreen);
+}
+
+// The documents' area: the Navigation panel at the left; at the right a tab per open
+// document above the documents themselves.
+void EditorDemo::buildDocumentArea()
+{
+    auto *area = new QWidget(this);
+    auto *row = new QHBoxLayout(area);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(0);
+    d->navigation = new NavigationPane(area);
+    row->addWidget(d->navigation->dockedWindow());
+
+    auto *column = new QVBoxLayout;
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    d->tabs = new RibbonMenuAction(tr("Documents"), this);
+    d->tabs->setExclusive(true);
+    d->pages = new QStackedWidget(area);
+    column->addWidget(new RibbonTabBar(*d->tabs, area));
+    column->addWidget(d->pages, 1);
+    row->addLayout(column, 1);
+    setCentralWidget(area);
+}
+
+EditorDemo::Document *EditorDemo::createDocument()
+{
+    auto document = std::make_unique<Document>();
+    Document *raw = document.get();
+    raw->edit = new PageEdit(d->pages);
+    raw->edit->setAcceptRichText(true);
+    raw->edit->setFont(documentFont());
+    raw->edit->setBaseSize(documentFont().pointSizeF());
+    raw->edit->setZoom(d->preferences->defaultZoom());
+    // Nothing to undo in a new document, not even the page margins.
+    raw->edit->document()->clearUndoRedoStacks();
+    raw->untitled = d->nextUntitled++;
+    d->pages->addWidget(raw->edit);
+
+    // Document tabs are no commands: made without a text, they stay out of the registry
+    // of commands by name.
+    raw->tab = new RibbonSimpleAction(this);
+    raw->tab->setCheckable(true);
+    d->tabs->addAction(raw->tab, false);
+    connect(raw->tab, &QAction::triggered, this, [this, raw] { activate(raw); });
+
+    d->documents.push_back(std::move(document));
+    connectEditor(raw);
+    updateTitle(raw);
+    return raw;
+}
+
+// The current document when nothing has been done with it yet: a new or opened
+// document takes its place instead of opening beside it.
+EditorDemo::Document *EditorDemo::blankCurrentDocument() const
+{
+    Document *document = d->current;
+    if (!document || !document->path.isEmpty() || document->edit->document()->isModified()
+        || !document->edit->document()->isEmpty())
+        return nullptr;
+    return document;
+}
+
+void EditorDemo::activate(Document *document)
+{
+    if (!document)
+        return;
+    d->current = document;
+    d->edit = document->edit;
+    d->pages->setCurrentWidget(document->edit);
+    document->tab->setChecked(true);
+    d->navigation->setEditor(document->edit);
+    syncWithEditor();
+    updateTitle(document);
+}
+
+void EditorDemo::removeDocument(Document *document)
+{
+    const auto owned = std::find_if(d->documents.begin(), d->documents.end(),
+                                    [document](const auto &candidate) { return candidate.get() == document; });
+    if (owned == d->documents.end())
+        return;
+    if (d->current == document) {
+        d->current = nullptr;
+        d->edit = nullptr;
+        d->navigation->setEditor(nullptr);
+    }
+    d->tabs->removeAction(document->tab);
+    delete document->tab;
+    delete document->edit;
+    d->documents.erase(owned);
+}
+
+int EditorDemo::documentCount() const
+{
+    return int(d->documents.size());
+}
+
+int EditorDemo::currentDocument() const
+{
+    return d->tabIndex(d->current);
+}
+
+void EditorDemo::setCurrentDocument(int index)
+{
+    activate(d->atTab(index));
+}
+
+NavigationPane &EditorDemo::navigationPane() const
+{
+    return *d->navigation;
+}
+
+// The tab shows the document's name, starred while it has unsaved changes; the
+// window's title follows the current document.
+void EditorDemo::updateTitle(Document *document)
+{
+    const bool modified = document->edit->document()->isModified();
+    const QString name = d->name(document);
+    document->tab->setText(modified ? name + QStringLiteral("*") : name);
+    document->tab->setToolTip(document->path.isEmpty() ? name : QDir::toNativeSeparators(document->path));
+    if (document == d->current)
+        setWindowTitle(QStringLiteral("%1%2 - %3").arg(name, modified ? QStringLiteral("*") : QString(), AppName));
 }
 
 // The hidden list is restored before the commands arrive, so hidden ones never show.
 void EditorDemo::buildQuickAccess()
 {
-    QTextEdit *edit = d->edit;
     RibbonQuickAccessBar &quick = quickAccessBar();
     quick.setQuickAccessBarItems(d->settings->value(KeyHiddenQuick).toStringList());
     auto quickCommand = [&](EditorIcon icon, const QString &text, const QString &name, const QString &shortcut) {
@@ -477,17 +682,14 @@ void EditorDemo::buildQuickAccess()
     d->quickUndo = quickCommand(EditorIcon::Undo, tr("Undo"), QStringLiteral("quick.undo"), tr("Ctrl+Z"));
     d->quickRedo = quickCommand(EditorIcon::Redo, tr("Redo"), QStringLiteral("quick.redo"), tr("Ctrl+Y"));
     connect(quickSave, &QAction::triggered, this, &EditorDemo::save);
-    connect(d->quickUndo, &QAction::triggered, edit, &QTextEdit::undo);
-    connect(d->quickRedo, &QAction::triggered, edit, &QTextEdit::redo);
+    connect(d->quickUndo, &QAction::triggered, this, [this] { d->edit->undo(); });
+    connect(d->quickRedo, &QAction::triggered, this, [this] { d->edit->redo(); });
     d->quickUndo->setEnabled(false);
     d->quickRedo->setEnabled(false);
-    connect(edit, &QTextEdit::undoAvailable, d->quickUndo, &QAction::setEnabled);
-    connect(edit, &QTextEdit::redoAvailable, d->quickRedo, &QAction::setEnabled);
 }
 
 RibbonCategoriesPanelAction *EditorDemo::buildHomeTab()
 {
-    QTextEdit *edit = d->edit;
     using S = RibbonCatSimpleAction;
     d->home = new RibbonCategoriesPanelAction(tr("Home"), this);
 
@@ -499,20 +701,18 @@ RibbonCategoriesPanelAction *EditorDemo::buildHomeTab()
     auto *pasteText = new RibbonSimpleAction(editorIcon(EditorIcon::Words), tr("Paste as Text"), this);
     paste->addAction(pasteNow, true);
     paste->addAction(pasteText, false);
-    connect(pasteNow, &QAction::triggered, edit, &QTextEdit::paste);
-    connect(pasteText, &QAction::triggered, this, [edit] {
-        edit->textCursor().insertText(QApplication::clipboard()->text());
+    connect(pasteNow, &QAction::triggered, this, [this] { d->edit->paste(); });
+    connect(pasteText, &QAction::triggered, this, [this] {
+        d->edit->textCursor().insertText(QApplication::clipboard()->text());
     });
     d->cut = command(this, EditorIcon::Cut, tr("Cut"), S::SizeMedium);
     d->copy = command(this, EditorIcon::Copy, tr("Copy"), S::SizeMedium);
-    connect(d->cut, &QAction::triggered, edit, &QTextEdit::cut);
-    connect(d->copy, &QAction::triggered, edit, &QTextEdit::copy);
+    connect(d->cut, &QAction::triggered, this, [this] { d->edit->cut(); });
+    connect(d->copy, &QAction::triggered, this, [this] { d->edit->copy(); });
     d->cut->setEnabled(false);
     d->copy->setEnabled(false);
-    connect(edit, &QTextEdit::copyAvailable, d->cut, &QAction::setEnabled);
-    connect(edit, &QTextEdit::copyAvailable, d->copy, &QAction::setEnabled);
     auto *selectAll = command(this, EditorIcon::SelectAll, tr("Select All"), S::SizeMedium);
-    connect(selectAll, &QAction::triggered, edit, &QTextEdit::selectAll);
+    connect(selectAll, &QAction::triggered, this, [this] { d->edit->selectAll(); });
     clipboard->addAction(paste, -1);
     clipboard->addAction(d->cut, -1);
     clipboard->addAction(d->copy, -1);
@@ -520,7 +720,7 @@ RibbonCategoriesPanelAction *EditorDemo::buildHomeTab()
     d->home->addCategory(clipboard);
 
     auto *fontCategory = new RibbonCategoryAction(editorIcon(EditorIcon::Bold), tr("Font"), this);
-    d->family = new RibbonCatFontFamilyAction(d->edit->font(), this);
+    d->family = new RibbonCatFontFamilyAction(documentFont(), this);
     d->family->setToolTip(tr("Font"));
     d->size = new RibbonCatComboAction(this);
     for (int s : FontSizes)
@@ -579,56 +779,13 @@ RibbonCategoriesPanelAction *EditorDemo::buildHomeTab()
     paragraph->addAction(align, 1);
     d->home->addCategory(paragraph);
 
-    auto *styles = new RibbonCategoryAction(editorIcon(EditorIcon::StyleHeading1), tr("Styles"), this);
-    struct StyleDef
-    {
-        EditorIcon icon;
-        QString name;
-        int heading;
-        qreal points;
-        QColor color;
-        bool italic;
-        int weight;
-    };
-    const QList<StyleDef> styleDefs = {
-        {EditorIcon::StyleNormal, tr("Normal"), 0, 0, QColor(), false, QFont::Normal},
-        {EditorIcon::StyleTitle, tr("Title"), 1, 26, QColor(0x26, 0x26, 0x26), false, QFont::Light},
-        {EditorIcon::StyleHeading1, tr("Heading 1"), 1, 20, EditorColors::Accent, false, QFont::Normal},
-        {EditorIcon::StyleHeading2, tr("Heading 2"), 2, 15, EditorColors::Accent, false, QFont::Normal},
-        {EditorIcon::StyleQuote, tr("Quote"), 0, 0, QColor(0x66, 0x66, 0x66), true, QFont::Normal}};
-    for (const StyleDef &style : styleDefs) {
-        RibbonCatSimpleAction *a = command(this, style.icon, style.name, S::SizeLarge);
-        a->setToolTip(tr("Format the paragraph as %1").arg(style.name));
-        styles->addAction(a, -1);
-        connect(a, &QAction::triggered, this, [this, style] {
-            QTextCursor cursor = d->edit->textCursor();
-            cursor.beginEditBlock();
-            QTextBlockFormat block = cursor.blockFormat();
-            block.setHeadingLevel(style.heading);
-            cursor.setBlockFormat(block);
-            QTextCharFormat chars;
-            if (style.points > 0)
-                chars.setFontPointSize(style.points);
-            if (style.color.isValid())
-                chars.setForeground(style.color);
-            chars.setFontItalic(style.italic);
-            chars.setFontWeight(style.weight);
-            // The whole paragraph takes the style, as in any word processor.
-            QTextCursor whole = cursor;
-            whole.setPosition(cursor.block().position());
-            whole.setPosition(cursor.block().position() + cursor.block().length() - 1, QTextCursor::KeepAnchor);
-            whole.setCharFormat(chars);
-            cursor.endEditBlock();
-            d->edit->mergeCurrentCharFormat(chars);
-            d->edit->setFocus();
-        });
-    }
-    d->home->addCategory(styles);
+    d->home->addCategory(buildStylesCategory(d->edit, this));
 
     auto *editing = new RibbonCategoryAction(editorIcon(EditorIcon::Find), tr("Editing"), this);
     auto *find = command(this, EditorIcon::Find, tr("Find"), S::SizeLarge);
     find->setToolTip(tr("Find text in the document"));
-    connect(find, &QAction::triggered, this, [this, edit] {
+    connect(find, &QAction::triggered, this, [this] {
+        QTextEdit *edit = d->edit;
         bool ok = false;
         const QString text = QInputDialog::getText(this, tr("Find"), tr("Find what:"), QLineEdit::Normal,
                                                    edit->textCursor().selectedText(), &ok);
@@ -849,7 +1006,18 @@ RibbonCategoriesPanelAction *EditorDemo::buildViewTab()
     d->minimise->setToolTip(tr("Show only the tab names (Ctrl+F1)"));
     connect(d->minimise, &QAction::triggered, this, [this](bool on) { ribbonMenuBar().setMinimizeRibbon(on); });
     ribbonCategory->addAction(d->minimise, -1);
+    viewTab->addCategory(buildLayoutCategory(d->zoom, d->edit, [this](bool print) { d->edit->setPrintLayout(print); },
+                                             this));
     viewTab->addCategory(ribbonCategory);
+
+    auto *show = new RibbonCategoryAction(editorIcon(EditorIcon::Page), tr("Show"), this);
+    d->showNavigation = new RibbonCatCheckBoxAction(tr("Navigation Pane"), this);
+    d->showNavigation->setToolTip(tr("Show the headings of the document at the left"));
+    d->showNavigation->setChecked(d->navigation->isShown());
+    connect(d->showNavigation, &QAction::toggled, d->navigation, &NavigationPane::setShown);
+    connect(d->navigation, &NavigationPane::shownChanged, d->showNavigation, &QAction::setChecked);
+    show->addAction(d->showNavigation, 0);
+    viewTab->addCategory(show);
     connect(zoomIn, &QAction::triggered, this, [this] { zoomStep(1); });
     connect(zoomOut, &QAction::triggered, this, [this] { zoomStep(-1); });
     connect(zoom100, &QAction::triggered, this, [this] { zoomTo(100); });
@@ -989,15 +1157,14 @@ void EditorDemo::buildContextTabs()
 
 void EditorDemo::buildStatusBar()
 {
-    QTextEdit *edit = d->edit;
     RibbonStatusBar &status = ribbonStatusBar();
     d->pageStatus = new RibbonCatMenuAction(editorIcon(EditorIcon::Page, DemoColors::Ink), tr("Page 1 of 1"),
                                             RibbonCatMenuAction::MenuTypeButton, RibbonCatMenuAction::MenuSizeMedium,
                                             RibbonCatMenuAction::PopupMenu, this);
     auto *top = new RibbonSimpleAction(tr("Go to Beginning"), this);
     auto *end = new RibbonSimpleAction(tr("Go to End"), this);
-    connect(top, &QAction::triggered, this, [edit] { edit->moveCursor(QTextCursor::Start); });
-    connect(end, &QAction::triggered, this, [edit] { edit->moveCursor(QTextCursor::End); });
+    connect(top, &QAction::triggered, this, [this] { d->edit->moveCursor(QTextCursor::Start); });
+    connect(end, &QAction::triggered, this, [this] { d->edit->moveCursor(QTextCursor::End); });
     d->pageStatus->addAction(top, false);
     d->pageStatus->addAction(end, false);
     d->wordStatus = new RibbonCatMenuAction(editorIcon(EditorIcon::Words, DemoColors::Ink), tr("0 words"),
@@ -1081,20 +1248,34 @@ void EditorDemo::buildFilePage()
             showMainView();
     });
 
+    QWidget *infoPane = titledPane(tr("Info"), body);
+    d->info = new DocumentInfoPane(d->shortcuts, infoPane);
+    d->info->setMaximumWidth(640);
+    body->addWidget(d->info, 1);
+
+    backstage.addItem(tr("Info"), infoPane);
     backstage.addItem(tr("New"), newPane);
     backstage.addItem(tr("Open"), openPane);
     backstage.addItem(tr("Save"), nullptr);
     backstage.addItem(tr("Save As"), nullptr);
+    backstage.addItem(tr("Close"), nullptr);
     backstage.addSeparator();
+    backstage.addItem(tr("Options"), nullptr);
     backstage.addItem(tr("Exit"), nullptr);
     connect(&backstage, &BackstageView::itemClicked, this, [this](const QString &name) {
-        if (name.compare(QStringLiteral("Save"), Qt::CaseInsensitive) == 0) {
+        auto is = [&name](const char *item) { return name.compare(QLatin1String(item), Qt::CaseInsensitive) == 0; };
+        if (is("Save")) {
             showMainView();
             save();
-        } else if (name.compare(QStringLiteral("Save As"), Qt::CaseInsensitive) == 0) {
+        } else if (is("Save As")) {
             showMainView();
             saveAs();
-        } else if (name.compare(QStringLiteral("Exit"), Qt::CaseInsensitive) == 0) {
+        } else if (is("Close")) {
+            if (closeDocument())
+                showMainView();
+        } else if (is("Options")) {
+            showOptions();
+        } else if (is("Exit")) {
             close();
         }
     });
@@ -1121,16 +1302,15 @@ void EditorDemo::buildWelcomeScreen()
     });
 }
 
-// Keeps the ribbon, the contextual tabs and the status bar in step with the cursor.
+// How the ribbon, the contextual tabs and the status bar follow the current editor.
 void EditorDemo::followEditor()
 {
-    QTextEdit *edit = d->edit;
-    auto updateWords = [this] {
+    d->updateWords = [this] {
         const QString plain = d->edit->toPlainText();
         const int words = plain.split(QRegExp(QStringLiteral("\\s+")), Qt::SkipEmptyParts).size();
         d->wordStatus->setText(words == 1 ? tr("1 word") : tr("%1 words").arg(words));
     };
-    auto updatePage = [this] {
+    d->updatePage = [this] {
         // Pages of the printed layout: an A4 page holds about 1000 pixels of text at 100 %.
         const qreal pageHeight = 1000.0 * d->edit->zoom() / 100.0;
         const qreal height = d->edit->document()->size().height();
@@ -1139,7 +1319,7 @@ void EditorDemo::followEditor()
         const int page = qBound(1, int(y / pageHeight) + 1, pages);
         d->pageStatus->setText(tr("Page %1 of %2").arg(page).arg(pages));
     };
-    auto updateFormat = [this](const QTextCharFormat &format) {
+    d->updateFormat = [this](const QTextCharFormat &format) {
         d->syncing = true;
         d->bold->setChecked(format.fontWeight() >= QFont::Bold);
         d->italic->setChecked(format.fontItalic());
@@ -1152,7 +1332,7 @@ void EditorDemo::followEditor()
         d->size->setSelectionText(QString::number(points));
         d->syncing = false;
     };
-    auto updateBlock = [this] {
+    d->updateBlock = [this] {
         d->syncing = true;
         const Qt::Alignment a = d->edit->alignment();
         if (a & Qt::AlignHCenter)
@@ -1169,7 +1349,7 @@ void EditorDemo::followEditor()
         d->numbering->setChecked(list && style < QTextListFormat::ListSquare);
         d->syncing = false;
     };
-    auto updateContext = [this] {
+    d->updateContext = [this] {
         QTextCursor cursor = d->edit->textCursor();
         RibbonContextCategoryPanelAction *wanted = nullptr;
         if (cursor.currentTable()) {
@@ -1186,17 +1366,129 @@ void EditorDemo::followEditor()
         else if (shown)
             bar.hideContextPanelAction(shown);
     };
-    connect(edit, &QTextEdit::textChanged, this, updateWords);
-    connect(edit, &QTextEdit::textChanged, this, updatePage);
-    connect(edit, &QTextEdit::cursorPositionChanged, this, updatePage);
-    connect(edit, &QTextEdit::currentCharFormatChanged, this, updateFormat);
-    connect(edit, &QTextEdit::cursorPositionChanged, this, updateBlock);
-    connect(edit, &QTextEdit::cursorPositionChanged, this, updateContext);
-    connect(edit, &QTextEdit::selectionChanged, this, updateContext);
-    connect(edit->document(), &QTextDocument::modificationChanged, this, [this](bool) {
-        const QString name = d->path.isEmpty() ? tr("Document%1").arg(d->untitled) : QFileInfo(d->path).fileName();
-        setWindowTitle(QStringLiteral("%1%2 - %3").arg(name, d->edit->document()->isModified() ? QStringLiteral("*") : QString(), AppName));
+}
+
+// The editor's signals reach the ribbon only while its document is the current one;
+// the tab and the title follow each document's changes.
+void EditorDemo::connectEditor(Document *document)
+{
+    PageEdit *edit = document->edit;
+    auto whenCurrent = [this, document](const std::function<void()> &update) {
+        return [this, document, update] {
+            if (document == d->current)
+                update();
+        };
+    };
+    connect(edit, &QTextEdit::textChanged, this, whenCurrent([this] {
+        d->updateWords();
+        d->updatePage();
+    }));
+    connect(edit, &QTextEdit::cursorPositionChanged, this, whenCurrent([this] {
+        d->updatePage();
+        d->updateBlock();
+        d->updateContext();
+    }));
+    connect(edit, &QTextEdit::selectionChanged, this, whenCurrent([this] { d->updateContext(); }));
+    connect(edit, &QTextEdit::currentCharFormatChanged, this, [this, document](const QTextCharFormat &format) {
+        if (document == d->current)
+            d->updateFormat(format);
     });
+    connect(edit, &QTextEdit::copyAvailable, this, [this, document](bool available) {
+        if (document != d->current)
+            return;
+        d->cut->setEnabled(available);
+        d->copy->setEnabled(available);
+    });
+    connect(edit, &QTextEdit::undoAvailable, this, [this, document](bool available) {
+        if (document == d->current)
+            d->quickUndo->setEnabled(available);
+    });
+    connect(edit, &QTextEdit::redoAvailable, this, [this, document](bool available) {
+        if (document == d->current)
+            d->quickRedo->setEnabled(available);
+    });
+    connect(edit->document(), &QTextDocument::modificationChanged, this, [this, document] { updateTitle(document); });
+}
+
+// Brings the ribbon and the status bar in line with the editor that just became current.
+void EditorDemo::syncWithEditor()
+{
+    PageEdit *edit = d->edit;
+    const bool selection = edit->textCursor().hasSelection();
+    d->cut->setEnabled(selection);
+    d->copy->setEnabled(selection);
+    d->quickUndo->setEnabled(edit->document()->isUndoAvailable());
+    d->quickRedo->setEnabled(edit->document()->isRedoAvailable());
+    d->zoom->setPercentage(edit->zoom());
+    d->updateWords();
+    d->updatePage();
+    d->updateFormat(edit->currentCharFormat());
+    d->updateBlock();
+    d->updateContext();
+}
+
+// Keys that work anywhere in the window; the File page's Info pane lists them with the
+// editing keys of the document itself.
+void EditorDemo::buildShortcuts()
+{
+    struct Key
+    {
+        QKeySequence keys;
+        QString text;
+        std::function<void()> run;
+    };
+    const QList<Key> keys = {
+        {QKeySequence::New, tr("New document"), [this] { newDocument(); }},
+        {QKeySequence::Open, tr("Open a document"), [this] { open(); }},
+        {QKeySequence::Save, tr("Save the document"), [this] { save(); }},
+        {QKeySequence(Qt::CTRL | Qt::Key_W), tr("Close the document"), [this] { closeDocument(); }},
+        {QKeySequence(Qt::CTRL | Qt::Key_Tab), tr("Next document"),
+         [this] { setCurrentDocument((currentDocument() + 1) % documentCount()); }},
+        {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab), tr("Previous document"),
+         [this] { setCurrentDocument((currentDocument() + documentCount() - 1) % documentCount()); }},
+        {QKeySequence::Bold, tr("Bold"), [this] { d->bold->trigger(); }},
+        {QKeySequence::Italic, tr("Italic"), [this] { d->italic->trigger(); }},
+        {QKeySequence::Underline, tr("Underline"), [this] { d->underline->trigger(); }},
+    };
+    for (const Key &key : keys) {
+        auto *shortcut = new QShortcut(key.keys, this);
+        shortcut->setContext(Qt::WindowShortcut);
+        connect(shortcut, &QShortcut::activated, this, key.run);
+        d->shortcuts.append({key.keys.toString(QKeySequence::NativeText), key.text});
+    }
+    // Handled by the text itself and by the ribbon.
+    const QList<QPair<QKeySequence, QString>> builtIn = {
+        {QKeySequence::Undo, tr("Undo")},
+        {QKeySequence::Redo, tr("Redo")},
+        {QKeySequence::Cut, tr("Cut")},
+        {QKeySequence::Copy, tr("Copy")},
+        {QKeySequence::Paste, tr("Paste")},
+        {QKeySequence::SelectAll, tr("Select all")},
+        {QKeySequence(Qt::CTRL | Qt::Key_F1), tr("Minimise or restore the ribbon")},
+        {QKeySequence(Qt::Key_Escape), tr("Leave the File page")},
+    };
+    for (const auto &key : builtIn)
+        d->shortcuts.append({key.first.toString(QKeySequence::NativeText), key.second});
+}
+
+RibbonOptionsDialog *EditorDemo::showOptions()
+{
+    RibbonOptionsDialog *dialog = makeEditorOptionsDialog(*this, *d->preferences);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->open();
+    return dialog;
+}
+
+void EditorDemo::refreshInfo()
+{
+    if (!d->current || !d->info)
+        return;
+    DocumentInfoPane::Facts facts;
+    facts.name = d->name(d->current);
+    facts.path = d->current->path;
+    facts.author = d->preferences->author();
+    facts.modified = d->edit->document()->isModified();
+    d->info->showDocument(facts, *d->edit->document());
 }
 
 void EditorDemo::zoomTo(int percent)
@@ -1229,68 +1521,82 @@ void EditorDemo::writeSettings()
         return;
     d->settings->setValue(KeyRecent, d->recent->saveState());
     d->settings->setValue(KeyHiddenQuick, quickAccessBar().disabledQuickAccessBarItems());
-    d->settings->setValue(KeyMinimised, ribbonMenuBar().isRibbonMinimized());
     d->settings->sync();
 }
 
 void EditorDemo::closeEvent(QCloseEvent *event)
 {
-    if (d->edit->document()->isModified() && !d->edit->document()->isEmpty()) {
-        const auto answer = QMessageBox::question(this, AppName, tr("Save the changes to %1?").arg(windowTitle()),
-                                                  QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
-        if (answer == QMessageBox::Cancel) {
+    for (size_t i = 0; i < d->documents.size(); ++i) {
+        if (!maybeSave(d->documents[i].get())) {
             event->ignore();
             return;
-        }
-        if (answer == QMessageBox::Save) {
-            save();
-            if (d->edit->document()->isModified()) {
-                event->ignore();
-                return;
-            }
         }
     }
     writeSettings();
     RibbonMainWindow::closeEvent(event);
 }
 
+// Asks whether to save a changed document; false when the user cancels or the save
+// fails.
+bool EditorDemo::maybeSave(Document *document)
+{
+    QTextDocument *text = document->edit->document();
+    if (!text->isModified() || text->isEmpty())
+        return true;
+    activate(document);
+    const auto answer = QMessageBox::question(this, AppName, tr("Save the changes to %1?").arg(d->name(document)),
+                                              QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
+    if (answer == QMessageBox::Cancel)
+        return false;
+    if (answer == QMessageBox::Save) {
+        save();
+        return !text->isModified();
+    }
+    return true;
+}
+
 void EditorDemo::newDocument()
 {
-    if (!d->path.isEmpty() || !d->edit->document()->isEmpty())
-        ++d->untitled;
-    d->path.clear();
-    d->edit->clear();
-    QTextCharFormat plain;
-    d->edit->setCurrentCharFormat(plain);
-    d->edit->document()->setModified(false);
-    d->edit->document()->clearUndoRedoStacks();
-    emit d->edit->document()->modificationChanged(false);
+    Document *document = blankCurrentDocument();
+    activate(document ? document : createDocument());
 }
 
 bool EditorDemo::openDocument(const QString &path)
 {
+    const QString absolute = QFileInfo(path).absoluteFilePath();
+    for (const auto &document : d->documents) {
+        if (document->path == absolute) {
+            activate(document.get());
+            return true;
+        }
+    }
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
         QMessageBox::warning(this, AppName, tr("Cannot open %1:\n%2").arg(QDir::toNativeSeparators(path), file.errorString()));
         return false;
     }
+    Document *document = blankCurrentDocument();
+    if (!document)
+        document = createDocument();
+    PageEdit *edit = document->edit;
     const QByteArray bytes = file.readAll();
     const QString suffix = QFileInfo(path).suffix().toLower();
     if (suffix == QLatin1String("html") || suffix == QLatin1String("htm") || Qt::mightBeRichText(QString::fromUtf8(bytes)))
-        d->edit->setHtml(QString::fromUtf8(bytes));
+        edit->setHtml(QString::fromUtf8(bytes));
     else
-        d->edit->setPlainText(QString::fromUtf8(bytes));
-    d->path = QFileInfo(path).absoluteFilePath();
-    d->recent->addItem(d->path);
-    d->edit->document()->setModified(false);
-    d->edit->document()->clearUndoRedoStacks();
-    emit d->edit->document()->modificationChanged(false);
+        edit->setPlainText(QString::fromUtf8(bytes));
+    document->path = absolute;
+    d->recent->addItem(absolute);
+    edit->document()->setModified(false);
+    edit->document()->clearUndoRedoStacks();
+    activate(document);
     writeSettings();
     return true;
 }
 
 bool EditorDemo::saveDocument(const QString &path)
 {
+    Document *document = d->current;
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
         QMessageBox::warning(this, AppName, tr("Cannot save %1:\n%2").arg(QDir::toNativeSeparators(path), file.errorString()));
@@ -1300,25 +1606,41 @@ bool EditorDemo::saveDocument(const QString &path)
     const QString content = suffix == QLatin1String("txt") ? d->edit->toPlainText() : d->edit->toHtml();
     file.write(content.toUtf8());
     file.close();
-    d->path = QFileInfo(path).absoluteFilePath();
-    d->recent->addItem(d->path);
+    document->path = QFileInfo(path).absoluteFilePath();
+    d->recent->addItem(document->path);
     d->edit->document()->setModified(false);
-    emit d->edit->document()->modificationChanged(false);
+    updateTitle(document);
     writeSettings();
+    return true;
+}
+
+bool EditorDemo::closeDocument()
+{
+    Document *document = d->current;
+    if (!document || !maybeSave(document))
+        return false;
+    const int index = d->tabIndex(document);
+    removeDocument(document);
+    if (d->documents.empty())
+        createDocument();
+    setCurrentDocument(qMin(index, documentCount() - 1));
     return true;
 }
 
 void EditorDemo::save()
 {
-    if (d->path.isEmpty())
+    if (d->current->path.isEmpty())
         saveAs();
     else
-        saveDocument(d->path);
+        saveDocument(d->current->path);
 }
 
 void EditorDemo::saveAs()
 {
-    const QString suggested = d->path.isEmpty() ? QDir::home().filePath(tr("Document%1.html").arg(d->untitled)) : d->path;
+    const Document *document = d->current;
+    const QString suggested = document->path.isEmpty()
+        ? QDir::home().filePath(tr("Document%1.html").arg(document->untitled))
+        : document->path;
     const QString path = QFileDialog::getSaveFileName(this, tr("Save As"), suggested,
                                                       tr("HTML documents (*.html *.htm);;Plain text (*.txt)"));
     if (!path.isEmpty())
@@ -1327,7 +1649,8 @@ void EditorDemo::saveAs()
 
 void EditorDemo::open()
 {
-    const QString path = QFileDialog::getOpenFileName(this, tr("Open"), d->path.isEmpty() ? QDir::homePath() : QFileInfo(d->path).path(),
+    const QString &current = d->current->path;
+    const QString path = QFileDialog::getOpenFileName(this, tr("Open"), current.isEmpty() ? QDir::homePath() : QFileInfo(current).path(),
                                                       tr("Documents (*.html *.htm *.txt);;All files (*)"));
     if (!path.isEmpty() && openDocument(path))
         showMainView();
@@ -1342,7 +1665,7 @@ void EditorDemo::showBackstagePage(const QString &name)
 void EditorDemo::loadSampleDocument()
 {
     newDocument();
-    QTextEdit *edit = d->edit;
+    PageEdit *edit = d->edit;
     edit->setHtml(tr(
         "<h1 style='color:#2B579A; font-weight:normal'>Harbour Renewal Project</h1>"
         "<p style='color:#666666'><i>Quarterly report \u2014 prepared for the steering group</i></p>"
@@ -1388,7 +1711,8 @@ void EditorDemo::loadSampleDocument()
     edit->moveCursor(QTextCursor::Start);
     edit->document()->setModified(false);
     edit->document()->clearUndoRedoStacks();
-    emit edit->document()->modificationChanged(false);
+    updateTitle(d->current);
+    d->navigation->refresh();
 }
 
 void EditorDemo::activateContextTab(const QString &name)

@@ -6,33 +6,52 @@
 
 #include <memory>
 
+class NavigationPane;
 class QSettings;
 class QTextEdit;
 
 namespace zel {
 class RibbonCategoriesPanelAction;
-}
+class RibbonOptionsDialog;
+} // namespace zel
 
-// A small rich-text editor hosted in a ribbon main window: its Home, Insert and View
-// tabs, the File page, the quick-access toolbar, the status bar and the contextual tab
-// sets for tables and pictures all work on one QTextEdit.
+// A small rich-text editor hosted in a ribbon main window. It holds several documents,
+// one tab each in a tab bar above them; its Home, Insert and View tabs, the File page,
+// the quick-access toolbar, the status bar, the contextual tab sets for tables and
+// pictures and the Navigation panel all work on the current document.
 class EditorDemo : public zel::RibbonMainWindow
 {
     Q_OBJECT
 public:
-    // The recent documents (with their pins) and the hidden quick-access commands are
-    // read from settings now and written back when the window closes; the settings
-    // object must outlive the window.
+    // The recent documents (with their pins), the hidden quick-access commands and the
+    // options are read from settings now and written back as they change or when the
+    // window closes; the settings object must outlive the window.
     explicit EditorDemo(QSettings &settings, QWidget *parent = nullptr);
     ~EditorDemo() override;
 
+    // The current document's editor.
     QTextEdit *editor() const;
+    // Documents are counted in the order of their tabs.
+    int documentCount() const;
+    int currentDocument() const;
+    void setCurrentDocument(int index);
+    NavigationPane &navigationPane() const;
 
-    // Replaces the document with a formatted sample holding a table and a picture.
+    // Fills the current document, if it is still blank, else a new one, with a formatted
+    // sample holding headings, a table and a picture.
     void loadSampleDocument();
+    // A new blank document, unless the current one is still blank.
     void newDocument();
+    // Opens path in a document of its own (in the current one if that is still blank);
+    // a document already open is brought to the front instead.
     bool openDocument(const QString &path);
     bool saveDocument(const QString &path);
+    // Closes the current document, asking to save changes; false when the user cancels.
+    bool closeDocument();
+
+    // Opens the options dialog over the window and returns it; it applies its pages on
+    // OK and deletes itself when closed.
+    zel::RibbonOptionsDialog *showOptions();
 
     // Places the cursor in the first table / selects the first picture, if any.
     void moveCursorIntoTable();
@@ -55,6 +74,17 @@ protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
+    struct Document;
+
+    Document *createDocument();
+    Document *blankCurrentDocument() const;
+    void activate(Document *document);
+    void removeDocument(Document *document);
+    bool maybeSave(Document *document);
+    void updateTitle(Document *document);
+    void refreshInfo();
+    void buildDocumentArea();
+    void buildShortcuts();
     void buildQuickAccess();
     zel::RibbonCategoriesPanelAction *buildHomeTab();
     zel::RibbonCategoriesPanelAction *buildInsertTab();
@@ -64,6 +94,8 @@ private:
     void buildFilePage();
     void buildWelcomeScreen();
     void followEditor();
+    void connectEditor(Document *document);
+    void syncWithEditor();
     void zoomTo(int percent);
     void zoomStep(int direction);
 

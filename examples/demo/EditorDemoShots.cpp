@@ -2,18 +2,26 @@
 // editor comes up as a real window on an X server with the ribbon in place.
 
 #include "EditorDemo.h"
+#include "NavigationPane.h"
 
 #include "BackstageView.h"
+#include "OfficePopupButton.h"
 #include "RibbonButtonMain.h"
 #include "RibbonCatColorMenuAction.h"
 #include "RibbonCatColorMenuButton.h"
+#include "RibbonCatListPreview.h"
 #include "RibbonCatMenuAction.h"
 #include "RibbonCatMenuButton.h"
 #include "RibbonMenuBar.h"
+#include "RibbonOptionsButton.h"
+#include "RibbonOptionsDialog.h"
+#include "RibbonStackedButton.h"
+#include "RibbonWindow.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QImage>
 #include <QMouseEvent>
 #include <QPainter>
@@ -55,6 +63,7 @@ void seedSettings(QSettings &settings)
     for (const auto &entry : entries)
         recent.append(QVariant(QVariantList{entry.first, entry.second}));
     settings.setValue(QStringLiteral("editor/recentDocuments"), recent);
+    settings.setValue(QStringLiteral("options/author"), QStringLiteral("Anna Berg"));
     settings.sync();
 }
 
@@ -85,11 +94,64 @@ QPixmap grabWithPopups(QWidget &window)
     return picture;
 }
 
+// Two more documents for the shots that show several open at once.
+QStringList writeDocuments(const QDir &dir)
+{
+    const QList<QPair<QString, QString>> documents = {
+        {QStringLiteral("Landlord.html"),
+         QStringLiteral("<h1>Letter to the landlord</h1><p>Dear Mr Holm,</p><h2>The heating</h2>"
+                        "<p>The radiators in the living room stay cold since March.</p><h2>The windows</h2>"
+                        "<p>Two frames no longer close.</p><p>Kind regards,<br>Anna Berg</p>")},
+        {QStringLiteral("Timeline.html"),
+         QStringLiteral("<h1>Harbour timeline</h1><h2>Spring</h2><p>Quay wall.</p><h2>Summer</h2>"
+                        "<p>Dredging.</p><h2>Autumn</h2><p>Walkway.</p>")}};
+    QStringList paths;
+    for (const auto &document : documents) {
+        QFile file(dir.filePath(document.first));
+        if (file.open(QIODevice::WriteOnly))
+            file.write(document.second.toUtf8());
+        paths.append(file.fileName());
+    }
+    return paths;
+}
+
+// The screenshot has no mouse: a button is shown hovered by telling it the mouse is on it.
+void showHovered(QWidget *widget)
+{
+    widget->setAttribute(Qt::WA_UnderMouse, true);
+    widget->update();
+}
+
 void showTab(EditorDemo &w, const QString &name)
 {
     for (QAction *tab : w.ribbonMenuBar().actions()) {
         if (tab->text().compare(name, Qt::CaseInsensitive) == 0) // the bar shows tab names in capitals
             tab->setChecked(true);
+    }
+}
+
+// Opens the full list of the first visible in-ribbon gallery (the styles on the Home tab).
+void openStylesGallery(EditorDemo &w)
+{
+    for (zel::RibbonCatListPreview *gallery : w.findChildren<zel::RibbonCatListPreview *>()) {
+        if (gallery->isVisible()) {
+            gallery->popupButton()->click();
+            return;
+        }
+    }
+}
+
+// Opens the view popup of the first visible menu button that has one (Page Layout on View).
+void openViewPopup(EditorDemo &w)
+{
+    for (zel::RibbonCatMenuButton *button : w.findChildren<zel::RibbonCatMenuButton *>()) {
+        if (button->isVisible() && button->action()
+            && button->action()->popupType() == zel::RibbonCatMenuAction::PopupView) {
+            QMouseEvent press(QEvent::MouseButtonPress, QPoint(5, 5), button->mapToGlobal(QPoint(5, 5)),
+                              Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+            QCoreApplication::sendEvent(button, &press);
+            return;
+        }
     }
 }
 
@@ -105,12 +167,15 @@ int writeEditorScreenshots(const QDir &dir)
     }
     QSettings settings(tmp.filePath(QStringLiteral("editor.ini")), QSettings::IniFormat);
     seedSettings(settings);
+    const QStringList documents = writeDocuments(QDir(tmp.path()));
 
     struct Shot
     {
         QString name;
         QSize size;
         std::function<void(EditorDemo &)> prepare;
+        // What to grab instead of the editor's window (a dialog, a secondary window).
+        std::function<QWidget *(EditorDemo &)> target = {};
     };
     const QList<Shot> shots = {
         {QStringLiteral("editor-main"), QSize(1280, 800), [](EditorDemo &w) {
@@ -165,6 +230,58 @@ int writeEditorScreenshots(const QDir &dir)
              w.editor()->ensureCursorVisible();
              w.activateContextTab(QStringLiteral("Format"));
          }},
+        {QStringLiteral("editor-styles-gallery"), QSize(1100, 520), [](EditorDemo &w) {
+             w.showMainView();
+             settle();
+             openStylesGallery(w);
+         }},
+        {QStringLiteral("editor-view-popup"), QSize(1000, 520), [](EditorDemo &w) {
+             w.showMainView();
+             showTab(w, QStringLiteral("View"));
+             settle();
+             openViewPopup(w);
+         }},
+        // Three documents, the second current; the Navigation panel lists its headings.
+        {QStringLiteral("editor-documents"), QSize(1280, 800), [documents](EditorDemo &w) {
+             w.showMainView();
+             for (const QString &path : documents)
+                 w.openDocument(path);
+             w.setCurrentDocument(1);
+             QTextCursor cursor = w.editor()->textCursor();
+             cursor.movePosition(QTextCursor::NextBlock, QTextCursor::MoveAnchor, 3);
+             w.editor()->setTextCursor(cursor);
+             showTab(w, QStringLiteral("View"));
+         }},
+        {QStringLiteral("editor-navigation-floating"), QSize(1000, 640), [](EditorDemo &w) {
+             w.showMainView();
+             w.navigationPane().undock();
+         }, [](EditorDemo &w) -> QWidget * { return w.navigationPane().floatingWindow(); }},
+        {QStringLiteral("editor-options"), QSize(1000, 640), [](EditorDemo &w) {
+             zel::RibbonOptionsDialog *dialog = w.showOptions();
+             const QList<zel::RibbonOptionsButton *> pages = dialog->findChildren<zel::RibbonOptionsButton *>();
+             if (pages.size() > 1)
+                 showHovered(pages.at(1));
+         }, [](EditorDemo &w) -> QWidget * { return w.findChild<zel::RibbonOptionsDialog *>(); }},
+        {QStringLiteral("editor-options-view"), QSize(1000, 640), [](EditorDemo &w) {
+             zel::RibbonOptionsDialog *dialog = w.showOptions();
+             const QList<zel::RibbonOptionsButton *> pages = dialog->findChildren<zel::RibbonOptionsButton *>();
+             if (pages.size() > 1)
+                 pages.at(1)->click();
+         }, [](EditorDemo &w) -> QWidget * { return w.findChild<zel::RibbonOptionsDialog *>(); }},
+        {QStringLiteral("editor-info"), QSize(1280, 800), [](EditorDemo &w) {
+             w.showBackstagePage(QStringLiteral("Info"));
+             for (zel::RibbonStackedButton *button : w.findChildren<zel::RibbonStackedButton *>()) {
+                 if (button->text() == QLatin1String("Statistics"))
+                     showHovered(button);
+             }
+         }},
+        {QStringLiteral("editor-info-statistics"), QSize(1280, 800), [](EditorDemo &w) {
+             w.showBackstagePage(QStringLiteral("Info"));
+             for (zel::RibbonStackedButton *button : w.findChildren<zel::RibbonStackedButton *>()) {
+                 if (button->text() == QLatin1String("Statistics"))
+                     button->click();
+             }
+         }},
     };
 
     for (const Shot &shot : shots) {
@@ -179,8 +296,10 @@ int writeEditorScreenshots(const QDir &dir)
         if (!QApplication::activePopupWidget())
             window->editor()->setFocus();
         settle();
+        QWidget *target = shot.target ? shot.target(*window) : window.get();
         const QString file = dir.filePath(shot.name + QStringLiteral(".png"));
-        if (!grabWithPopups(*window).save(file)) {
+        const QPixmap picture = shot.target ? (target ? target->grab() : QPixmap()) : grabWithPopups(*window);
+        if (picture.isNull() || !picture.save(file)) {
             out << "Cannot write " << file << '\n';
             return 1;
         }

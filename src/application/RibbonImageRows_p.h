@@ -68,5 +68,12 @@ namespace StatusBarHalf {
 enum : int { Active, Inactive };
 }
 
+// mainPanelButton (23-pixel frames): the page buttons of the options dialog and of the
+// stacked panes. The dialog shows a hovered button in LightHover and its checked one in
+// Hover; the panes use Hover and Checked.
+namespace PanelButton {
+enum : int { LightHover, Hover, Checked };
+}
+
 } // namespace RibbonImageRows
 } // namespace zel

@@ -113,6 +113,15 @@ QPixmap iconPixmap(const QIcon &icon, int extent, bool enabled)
     return icon.pixmap(QSize(extent, extent), enabled ? QIcon::Normal : QIcon::Disabled, QIcon::Off);
 }
 
+void drawCentred(QPainter &painter, const QRect &target, const QPixmap &pixmap)
+{
+    if (pixmap.isNull())
+        return;
+    QRect placed(QPoint(0, 0), pixmap.size() / pixmap.devicePixelRatio());
+    placed.moveCenter(target.center());
+    painter.drawPixmap(placed, pixmap);
+}
+
 } // namespace RibbonPaint
 
 } // namespace zel

@@ -74,6 +74,9 @@ void drawSmallButtonBackground(QPainter &painter, const QAbstractButton &button,
 // A pixmap of at most extent x extent pixels in the mode of the enabled state.
 QPixmap iconPixmap(const QIcon &icon, int extent, bool enabled);
 
+// Draws pixmap at its own size centred in target (nothing for a null pixmap).
+void drawCentred(QPainter &painter, const QRect &target, const QPixmap &pixmap);
+
 } // namespace RibbonPaint
 
 } // namespace zel

@@ -1,5 +1,6 @@
 #include "RibbonCategory.h"
 
+#include "OfficeGallery_p.h"
 #include "RibbonActionWidgetMap_p.h"
 #include "RibbonApplication.h"
 #include "RibbonCatActionGroup.h"
@@ -12,13 +13,13 @@
 #include "RibbonCatComboWidget.h"
 #include "RibbonCatFontFamilyAction.h"
 #include "RibbonCatFontFamilyComboBox.h"
+#include "RibbonCatListPreview.h"
 #include "RibbonCatMenuAction.h"
 #include "RibbonCatMenuButton.h"
 #include "RibbonCatSimpleAction.h"
 #include "RibbonCatSimpleButton.h"
 #include "RibbonCategoryAction.h"
 #include "RibbonCategoryLayout.h"
-#include "RibbonClassChecks_p.h"
 #include "RibbonPaint_p.h"
 #include "RibbonScale_p.h"
 #include "RibbonStyle.h"
@@ -32,22 +33,20 @@ namespace zel {
 
 namespace {
 
-QWidget *makeMenuButton(QAction *action, QWidget *parent)
+// A menu command whose items show in the ribbon gets a gallery instead of a button.
+QWidget *makeListPreview(QAction *action, QWidget *parent)
 {
     auto *menu = qobject_cast<RibbonCatMenuAction *>(action);
-    if (!menu)
+    if (!menu || menu->popupType() != RibbonCatMenuAction::PopupListPreview)
         return nullptr;
-    // An in-ribbon gallery has no button; this build has no gallery control, so such a
-    // member gets no control at all rather than a button that is not meant to exist.
-    if (menu->popupType() == RibbonCatMenuAction::PopupListPreview)
-        return nullptr;
-    return new RibbonCatMenuButton(*menu, parent);
+    return new RibbonCatListPreview(*menu, parent);
 }
 
 // The control of a member, by its class; the first maker that accepts it wins.
 const RibbonWidgetMaker controlMakers[] = {
     makeWidgetFor<RibbonCatColorMenuAction, RibbonCatColorMenuButton>,
-    makeMenuButton,
+    makeListPreview,
+    makeWidgetFor<RibbonCatMenuAction, RibbonCatMenuButton>,
     makeWidgetFor<RibbonCatSimpleAction, RibbonCatSimpleButton>,
     makeWidgetFor<RibbonCatActionGroup, RibbonCatActionGroupWidget>,
     makeWidgetFor<RibbonCatFontFamilyAction, RibbonCatFontFamilyComboBox>,
@@ -263,11 +262,11 @@ void RibbonCategory::paintEvent(QPaintEvent *)
     painter.setPen(style.categoryCaptionTextColor());
     painter.drawText(d->captionRect, Qt::AlignCenter | Qt::TextDontClip, d->caption);
 
-    // In-ribbon galleries get a thin frame.
-    painter.setPen(QColor(QStringLiteral("#afafaf")));
+    // In-ribbon galleries get a thin frame, in the colour of their own buttons' outline.
+    painter.setPen(OfficeGallery::frameColor());
     painter.setBrush(Qt::NoBrush);
     for (const QWidget *control : d->widgets.widgets()) {
-        if (RibbonClassChecks::isListPreview(control)) {
+        if (qobject_cast<const RibbonCatListPreview *>(control)) {
             const QRect g = control->geometry();
             painter.drawRect(g.x() - 1, g.y() - 1, g.width() + 1, g.height() + 1);
         }

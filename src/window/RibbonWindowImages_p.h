@@ -2,7 +2,8 @@
 
 // Where the states and pieces lie in the palette's window images (RibbonStyle's
 // mainBorderCaption, mainBorder, sysBtnBack and the sysBtn glyph strips), for the
-// frameless window and the title-row buttons that paint from them. Not installed.
+// frameless window, the title-row buttons and the child window's caption buttons that
+// paint from them. Not installed.
 
 namespace zel {
 namespace WindowImages {
@@ -40,6 +41,8 @@ constexpr int PressedRow = 0;
 constexpr int HoverRow = 16;
 constexpr int ActiveRow = 32;
 constexpr int InactiveRow = 64;
+// A child window's undock button (sysBtnRestore) at rest takes the hover frame.
+constexpr int UndockRestingRow = HoverRow;
 } // namespace SysButtonGlyph
 
 // sysBtnMinimizeSmall, sysBtnMaximizeSmall, sysBtnRestoreSmall, sysBtnCloseSmall,
@@ -50,6 +53,8 @@ constexpr int RowHeight = 12;
 constexpr int PressedRow = 0;
 constexpr int HoverRow = 12;
 constexpr int NormalRow = 36;
+// The child window's close button at rest (sysBtnCloseSmall).
+constexpr int ChildNormalRow = 24;
 } // namespace SmallSysButtonGlyph
 
 } // namespace WindowImages

@@ -1,0 +1,363 @@
+// Button widths follow the text, measured at 96 and 144 DPI: ZEL_TEST_DPI_SENSITIVE
+#include "PanelButtonChecks.h"
+#include "ZelTest.h"
+
+#include "RibbonApplication.h"
+#include "RibbonMainWindow.h"
+#include "RibbonOptionsButton.h"
+#include "RibbonOptionsDialog.h"
+#include "RibbonOptionsPage.h"
+#include "RibbonStyle.h"
+
+#include <QButtonGroup>
+#include <QDialogButtonBox>
+#include <QPointer>
+#include <QPushButton>
+#include <QStackedWidget>
+
+#include <memory>
+
+using namespace zel;
+
+namespace {
+
+// Writes who was asked to accept or reject, in order.
+class RecordingDialog : public RibbonOptionsDialog
+{
+public:
+    RecordingDialog(RibbonMainWindow &window, QStringList &log)
+        : RibbonOptionsDialog(window)
+        , m_log(log)
+    {
+    }
+
+    void accept() override
+    {
+        m_log.append(QStringLiteral("dialog accept"));
+        RibbonOptionsDialog::accept();
+    }
+    void reject() override
+    {
+        m_log.append(QStringLiteral("dialog reject"));
+        RibbonOptionsDialog::reject();
+    }
+
+private:
+    QStringList &m_log;
+};
+
+class RecordingPage : public RibbonOptionsPage
+{
+    Q_OBJECT
+public:
+    RecordingPage(RibbonOptionsDialog &dialog, const QString &title, QStringList &log)
+        : RibbonOptionsPage(dialog)
+        , m_log(log)
+    {
+        setWindowTitle(title);
+    }
+
+public slots:
+    void accept() override { m_log.append(windowTitle() + QStringLiteral(" accept")); }
+    void reject() override { m_log.append(windowTitle() + QStringLiteral(" reject")); }
+
+private:
+    QStringList &m_log;
+};
+
+} // namespace
+
+class tst_OptionsDialog : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void construction();
+    void firstPageIsCurrent();
+    void setCurrentPage_data();
+    void setCurrentPage();
+    void removeOptionsPageKeepsEverything();
+    void strangersAreIgnored();
+    void okAndCancelReachDialogThenPages_data();
+    void okAndCancelReachDialogThenPages();
+    void escapeAndCloseReachOnlyTheDialog_data();
+    void escapeAndCloseReachOnlyTheDialog();
+    void buttonSizeHint_data();
+    void buttonSizeHint();
+    void buttonLooks();
+
+private:
+    RecordingPage *addPage(const QString &title);
+    QList<RibbonOptionsButton *> buttons() const;
+    QList<RibbonOptionsButton *> checkedButtons() const;
+    QWidget *currentPage() const;
+    QPushButton *boxButton(QDialogButtonBox::ButtonRole role) const;
+
+    std::unique_ptr<RibbonMainWindow> m_window;
+    QStringList m_log;
+    RecordingDialog *m_dialog = nullptr;
+    QList<RecordingPage *> m_pages;
+};
+
+void tst_OptionsDialog::init()
+{
+    m_window.reset(new RibbonMainWindow);
+    m_log.clear();
+    m_dialog = new RecordingDialog(*m_window, m_log);
+    m_pages.clear();
+}
+
+void tst_OptionsDialog::cleanup()
+{
+    m_window.reset();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(QApplication::topLevelWidgets().isEmpty());
+}
+
+RecordingPage *tst_OptionsDialog::addPage(const QString &title)
+{
+    auto *page = new RecordingPage(*m_dialog, title, m_log);
+    m_dialog->addOptionsPage(page);
+    m_pages.append(page);
+    return page;
+}
+
+QList<RibbonOptionsButton *> tst_OptionsDialog::buttons() const
+{
+    QList<RibbonOptionsButton *> list = m_dialog->findChildren<RibbonOptionsButton *>();
+    std::sort(list.begin(), list.end(), [](QWidget *a, QWidget *b) { return a->y() < b->y(); });
+    return list;
+}
+
+QList<RibbonOptionsButton *> tst_OptionsDialog::checkedButtons() const
+{
+    QList<RibbonOptionsButton *> checked;
+    for (RibbonOptionsButton *button : m_dialog->findChildren<RibbonOptionsButton *>()) {
+        if (button->isChecked())
+            checked.append(button);
+    }
+    return checked;
+}
+
+QWidget *tst_OptionsDialog::currentPage() const
+{
+    auto *stack = m_dialog->findChild<QStackedWidget *>();
+    return stack ? stack->currentWidget() : nullptr;
+}
+
+QPushButton *tst_OptionsDialog::boxButton(QDialogButtonBox::ButtonRole role) const
+{
+    auto *box = m_dialog->findChild<QDialogButtonBox *>();
+    for (QAbstractButton *button : box->buttons()) {
+        if (box->buttonRole(button) == role)
+            return qobject_cast<QPushButton *>(button);
+    }
+    return nullptr;
+}
+
+void tst_OptionsDialog::construction()
+{
+    QCOMPARE(m_dialog->parentWidget(), m_window.get());
+    QCOMPARE(&m_dialog->mainWindow(), m_window.get());
+    QCOMPARE(m_dialog->size(), QSize(640, 398));
+    QCOMPARE(m_dialog->windowTitle(), QStringLiteral("Zandor Options"));
+    QVERIFY(!m_dialog->windowFlags().testFlag(Qt::WindowContextHelpButtonHint));
+    QVERIFY(m_dialog->isWindow());
+
+    auto *box = m_dialog->findChild<QDialogButtonBox *>();
+    QVERIFY(box);
+    QCOMPARE(box->orientation(), Qt::Horizontal);
+    QCOMPARE(box->buttons().size(), 2);
+    QCOMPARE(boxButton(QDialogButtonBox::AcceptRole)->text(), QStringLiteral("OK"));
+    QCOMPARE(boxButton(QDialogButtonBox::RejectRole)->text(), QStringLiteral("Cancel"));
+    QVERIFY(m_dialog->findChild<QButtonGroup *>()->exclusive());
+
+    // The page column at the left of the pages, the box at the bottom.
+    addPage(QStringLiteral("General"));
+    m_dialog->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_dialog));
+    const QRect stack = m_dialog->findChild<QStackedWidget *>()->geometry();
+    const QRect button = buttons().first()->geometry();
+    QVERIFY(button.right() < stack.left());
+    QCOMPARE(button.top(), stack.top() + 1);
+    QVERIFY(box->geometry().top() > stack.bottom());
+
+    auto *page = m_pages.first();
+    QCOMPARE(&page->dialog(), static_cast<RibbonOptionsDialog *>(m_dialog));
+    QCOMPARE(page->palette().color(QPalette::Inactive, QPalette::Window), QColor(Qt::white));
+    QCOMPARE(page->palette().color(QPalette::Disabled, QPalette::Window), QColor(Qt::white));
+}
+
+void tst_OptionsDialog::firstPageIsCurrent()
+{
+    QCOMPARE(currentPage(), nullptr);
+    RecordingPage *general = addPage(QStringLiteral("General"));
+    QCOMPARE(currentPage(), general);
+    QCOMPARE(checkedButtons().size(), 1);
+    QCOMPARE(checkedButtons().first()->text(), QStringLiteral("General"));
+    addPage(QStringLiteral("View"));
+    addPage(QStringLiteral("Advanced"));
+    QCOMPARE(currentPage(), general);
+    QCOMPARE(checkedButtons().size(), 1);
+    QCOMPARE(checkedButtons().first()->text(), QStringLiteral("General"));
+    QStringList texts;
+    for (RibbonOptionsButton *button : buttons())
+        texts.append(button->text());
+    QCOMPARE(texts, (QStringList{QStringLiteral("General"), QStringLiteral("View"), QStringLiteral("Advanced")}));
+    QVERIFY(m_log.isEmpty());
+}
+
+void tst_OptionsDialog::setCurrentPage_data()
+{
+    QTest::addColumn<int>("target"); // index of a page, -1 never added, -2 null
+    QTest::addColumn<int>("expected");
+    QTest::newRow("second") << 1 << 1;
+    QTest::newRow("third") << 2 << 2;
+    QTest::newRow("current") << 0 << 0;
+    QTest::newRow("never added") << -1 << 0;
+    QTest::newRow("null") << -2 << 0;
+}
+
+void tst_OptionsDialog::setCurrentPage()
+{
+    QFETCH(int, target);
+    QFETCH(int, expected);
+    for (const char *title : {"General", "View", "Advanced"})
+        addPage(QString::fromLatin1(title));
+    RecordingPage stranger(*m_dialog, QStringLiteral("Stranger"), m_log);
+    RibbonOptionsPage *page = target >= 0 ? m_pages.at(target) : target == -1 ? &stranger : nullptr;
+
+    QSignalSpy clicked(m_dialog->findChild<QButtonGroup *>(), SIGNAL(buttonClicked(QAbstractButton*)));
+    m_dialog->setCurrentPage(page);
+    QCOMPARE(currentPage(), m_pages.at(expected));
+    QCOMPARE(checkedButtons(), QList<RibbonOptionsButton *>{buttons().at(expected)});
+    QCOMPARE(clicked.count(), 0); // checked, not clicked
+}
+
+void tst_OptionsDialog::removeOptionsPageKeepsEverything()
+{
+    addPage(QStringLiteral("General"));
+    addPage(QStringLiteral("View"));
+    m_dialog->setCurrentPage(m_pages.at(1));
+    m_dialog->removeOptionsPage(m_pages.at(1));
+    m_dialog->removeOptionsPage(m_pages.at(0));
+    m_dialog->removeOptionsPage(nullptr);
+    QCOMPARE(buttons().size(), 2);
+    QCOMPARE(m_dialog->findChild<QStackedWidget *>()->count(), 2);
+    QCOMPARE(currentPage(), m_pages.at(1));
+    QCOMPARE(checkedButtons(), QList<RibbonOptionsButton *>{buttons().at(1)});
+    // The pages still hear OK.
+    boxButton(QDialogButtonBox::AcceptRole)->click();
+    QCOMPARE(m_log, (QStringList{QStringLiteral("dialog accept"), QStringLiteral("General accept"),
+                                 QStringLiteral("View accept")}));
+}
+
+void tst_OptionsDialog::strangersAreIgnored()
+{
+    RecordingPage *general = addPage(QStringLiteral("General"));
+    m_dialog->addOptionsPage(general);
+    m_dialog->addOptionsPage(nullptr);
+    RibbonMainWindow otherWindow;
+    RecordingDialog other(otherWindow, m_log);
+    auto *foreign = new RecordingPage(other, QStringLiteral("Foreign"), m_log);
+    m_dialog->addOptionsPage(foreign);
+    QCOMPARE(buttons().size(), 1);
+    QCOMPARE(foreign->parentWidget(), &other);
+
+    // Added twice, it would hear OK twice.
+    boxButton(QDialogButtonBox::AcceptRole)->click();
+    QCOMPARE(m_log, (QStringList{QStringLiteral("dialog accept"), QStringLiteral("General accept")}));
+}
+
+void tst_OptionsDialog::okAndCancelReachDialogThenPages_data()
+{
+    QTest::addColumn<bool>("ok");
+    QTest::newRow("OK") << true;
+    QTest::newRow("Cancel") << false;
+}
+
+// The dialog first, then each page in the order the pages were added (not the order of
+// the buttons on screen, nor of the current page).
+void tst_OptionsDialog::okAndCancelReachDialogThenPages()
+{
+    QFETCH(bool, ok);
+    for (const char *title : {"General", "View", "Advanced"})
+        addPage(QString::fromLatin1(title));
+    m_dialog->setCurrentPage(m_pages.at(2));
+    m_dialog->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_dialog));
+    QTest::mouseClick(boxButton(ok ? QDialogButtonBox::AcceptRole : QDialogButtonBox::RejectRole), Qt::LeftButton);
+    const QString verb = ok ? QStringLiteral(" accept") : QStringLiteral(" reject");
+    QCOMPARE(m_log, (QStringList{QStringLiteral("dialog") + verb, QStringLiteral("General") + verb,
+                                 QStringLiteral("View") + verb, QStringLiteral("Advanced") + verb}));
+    QCOMPARE(m_dialog->result(), ok ? int(QDialog::Accepted) : int(QDialog::Rejected));
+    QVERIFY(!m_dialog->isVisible());
+}
+
+void tst_OptionsDialog::escapeAndCloseReachOnlyTheDialog_data()
+{
+    QTest::addColumn<bool>("escape");
+    QTest::newRow("Escape") << true;
+    QTest::newRow("close") << false;
+}
+
+void tst_OptionsDialog::escapeAndCloseReachOnlyTheDialog()
+{
+    QFETCH(bool, escape);
+    addPage(QStringLiteral("General"));
+    addPage(QStringLiteral("View"));
+    m_dialog->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_dialog));
+    if (escape)
+        QTest::keyClick(m_dialog, Qt::Key_Escape);
+    else
+        m_dialog->close();
+    QCOMPARE(m_log, QStringList{QStringLiteral("dialog reject")});
+    QCOMPARE(m_dialog->result(), int(QDialog::Rejected));
+    QVERIFY(!m_dialog->isVisible());
+}
+
+void tst_OptionsDialog::buttonSizeHint_data()
+{
+    PanelButtonChecks::addSizeHintRows();
+}
+
+void tst_OptionsDialog::buttonSizeHint()
+{
+    QFETCH(QString, text);
+    addPage(text);
+    PanelButtonChecks::verifySizeHint(*buttons().first());
+}
+
+// The dialog's buttons show a checked page in frame 1 and a hovered one in frame 0;
+// at rest only the text.
+void tst_OptionsDialog::buttonLooks()
+{
+    addPage(QString());
+    addPage(QString());
+    m_dialog->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_dialog));
+    QTest::mouseMove(m_dialog, QPoint(630, 5));
+    RibbonOptionsButton *checked = buttons().at(0);
+    RibbonOptionsButton *other = buttons().at(1);
+    QTRY_VERIFY(!other->underMouse());
+
+    using namespace PanelButtonChecks;
+    QVERIFY(drawsNothing(*other));
+    QCOMPARE(centre(*checked), frameCentre(1));
+    // The nine-slice keeps the frame's 2-pixel corners: the top-left pixel is the sheet's.
+    const QImage sheet = RibbonApplication::theApp().ribbonStyle().mainPanelButton().toImage().convertToFormat(
+        QImage::Format_ARGB32);
+    QCOMPARE(grabArgb(*checked).pixel(1, 1), sheet.pixel(1, 23 + 1));
+
+    QTest::mouseMove(other, QPoint(5, 5));
+    QTRY_VERIFY(other->underMouse());
+    QCOMPARE(centre(*other), frameCentre(0));
+    QVERIFY(frameCentre(0) != frameCentre(1));
+}
+
+ZEL_TEST_MAIN(tst_OptionsDialog)
+#include "tst_optionsdialog.moc"
