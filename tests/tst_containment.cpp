@@ -79,6 +79,8 @@ private slots:
     void containerIgnoresMemberClosingACycle();
     void aliasCyclesAreRefused();
     void sharedMemberRelaysOncePerContainer();
+    void relaysThroughSharedLevelsStayLinear_data();
+    void relaysThroughSharedLevelsStayLinear();
     void replacedAliasLeavesContainerLinks();
     void changeRelayedThroughAliasSettles();
     void anyOrderOfDestruction();
@@ -321,6 +323,74 @@ void tst_Containment::sharedMemberRelaysOncePerContainer()
     QVERIFY(activated.count() >= 1);
     QCOMPARE(triggered.count(), 1);
     QCOMPARE(triggered.at(0).at(0).value<RibbonAction *>(), go);
+}
+
+void tst_Containment::relaysThroughSharedLevelsStayLinear_data()
+{
+    QTest::addColumn<QString>("container");
+    QTest::newRow("menus") << QStringLiteral("menu");
+    QTest::newRow("button groups") << QStringLiteral("group");
+    QTest::newRow("categories of tabs") << QStringLiteral("category");
+    QTest::newRow("menus standing for a shared alias") << QStringLiteral("alias");
+}
+
+void tst_Containment::relaysThroughSharedLevelsStayLinear()
+{
+    // Levels of two containers, each holding both of the level below: the command at the
+    // bottom reaches the top by 2^levels paths. Its change must reach each container a
+    // bounded number of times, whatever the number of paths.
+    QFETCH(QString, container);
+    constexpr int Levels = 16;
+    QObject owner;
+    QAction alias(QStringLiteral("Alias"), &owner);
+    RibbonCatSimpleAction *go = command(&owner);
+    QList<RibbonAction *> below{go};
+    RibbonAction *top = nullptr;
+    for (int level = 0; level < Levels; ++level) {
+        QList<RibbonAction *> here;
+        for (int i = 0; i < 2; ++i) {
+            RibbonAction *made = nullptr;
+            if (container == QLatin1String("group")) {
+                auto *group = new RibbonCatActionGroup(QStringLiteral("Strip"), &owner);
+                for (RibbonAction *member : below)
+                    group->addAction(member, false);
+                made = group;
+            } else if (container == QLatin1String("category")) {
+                // A category holds tabs here, and each tab the categories below.
+                auto *category = new RibbonCategoryAction(QStringLiteral("Group"), &owner);
+                for (RibbonAction *member : below) {
+                    if (auto *inner = qobject_cast<RibbonCategoryAction *>(member)) {
+                        auto *tab = new RibbonCategoriesPanelAction(QStringLiteral("Tab"), &owner);
+                        tab->addCategory(inner);
+                        category->addAction(tab, 0);
+                    } else {
+                        category->addAction(member, 0);
+                    }
+                }
+                made = category;
+            } else {
+                RibbonCatMenuAction *menu = menuAction(&owner);
+                for (RibbonAction *member : below)
+                    menu->addAction(member, false);
+                if (container == QLatin1String("alias"))
+                    menu->setAliasAction(QPointer<QAction>(&alias));
+                made = menu;
+            }
+            here << made;
+        }
+        below = here;
+        top = here.first();
+    }
+    QSignalSpy topChanged(top, &QAction::changed);
+    QSignalSpy aliasChanged(&alias, &QAction::changed);
+    go->setText(QStringLiteral("Went"));
+    QVERIFY(topChanged.count() >= 1);
+    QVERIFY2(topChanged.count() <= 2, qPrintable(QString::number(topChanged.count())));
+    QVERIFY2(aliasChanged.count() <= 2, qPrintable(QString::number(aliasChanged.count())));
+    // A second change is announced again.
+    topChanged.clear();
+    go->setText(QStringLiteral("Go"));
+    QVERIFY(topChanged.count() >= 1);
 }
 
 void tst_Containment::replacedAliasLeavesContainerLinks()

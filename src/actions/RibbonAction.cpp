@@ -5,6 +5,7 @@
 #include "RibbonCategoriesPanelAction.h"
 #include "RibbonCategoryAction.h"
 #include "RibbonContextCategoryPanelAction.h"
+#include "RibbonMembers_p.h"
 
 #include <QActionEvent>
 #include <QCoreApplication>
@@ -240,14 +241,11 @@ void RibbonAction::announceChangeOnAlias()
     QAction *alias = m_alias.data();
     // Once per change: the alias may hold this action, or relay to something that does
     // (a button group standing for a command of a group it holds), and then the change
-    // comes back round to this action while the alias announces it. It ends here.
-    if (!alias || m_announcingChange)
+    // comes back round to this action while the alias announces it; several actions
+    // may also stand for one alias.
+    if (!alias)
         return;
-    QPointer<RibbonAction> self(this);
-    m_announcingChange = true;
-    emit alias->changed();
-    if (self)
-        m_announcingChange = false;
+    RibbonMembers::relayOnce(alias, [alias] { emit alias->changed(); });
 }
 
 void RibbonAction::onToogled(bool isToogled)

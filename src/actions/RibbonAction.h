@@ -78,8 +78,6 @@ private:
     bool m_keepOwnText = false;
     bool m_keepOwnIcon = false;
     bool m_inConnectNotify = false;
-    // Set while the alias announces a change of this action.
-    bool m_announcingChange = false;
     int m_minimalWidth = -1;
 };
 

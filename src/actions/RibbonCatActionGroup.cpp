@@ -90,8 +90,10 @@ void RibbonCatActionGroup::actionChanged()
         if (previous && previous->isChecked())
             previous->setChecked(false);
     }
-    sendActionChangedEvt();
-    emit changed();
+    RibbonMembers::relayOnce(this, [this] {
+        sendActionChangedEvt();
+        emit changed();
+    });
 }
 
 void RibbonCatActionGroup::actionActivated()

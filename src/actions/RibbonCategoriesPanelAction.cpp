@@ -67,7 +67,7 @@ RibbonCategoryAction *RibbonCategoriesPanelAction::category(const QString &text)
 
 void RibbonCategoriesPanelAction::categoryChanged()
 {
-    emit changed();
+    RibbonMembers::relayOnce(this, [this] { emit changed(); });
 }
 
 void RibbonCategoriesPanelAction::forgetCategory(QObject *category)

@@ -61,7 +61,7 @@ int RibbonCategoryAction::actionRow(RibbonAction *action) const
 
 void RibbonCategoryAction::actionChanged()
 {
-    emit changed();
+    RibbonMembers::relayOnce(this, [this] { emit changed(); });
 }
 
 void RibbonCategoryAction::actionActivated()

@@ -6,6 +6,8 @@
 #include "RibbonContextCategoryPanelAction.h"
 #include "RibbonMenuAction.h"
 
+#include <QPair>
+#include <QPointer>
 #include <QSet>
 
 namespace zel {
@@ -60,6 +62,61 @@ bool closesCycle(const QObject *container, const QObject *member)
         }
     }
     return false;
+}
+
+namespace {
+
+struct Wave
+{
+    int depth = 0;
+    bool secondRound = false;
+    QSet<const QObject *> relayed;
+    QSet<const QObject *> askedAgain;
+    QList<QPair<QPointer<QObject>, std::function<void()>>> again;
+};
+
+Wave &wave()
+{
+    static Wave current;
+    return current;
+}
+
+void runRelay(Wave &w, QObject *relayer, const std::function<void()> &relay)
+{
+    w.relayed.insert(relayer);
+    ++w.depth;
+    relay();
+    --w.depth;
+}
+
+} // namespace
+
+void relayOnce(QObject *relayer, const std::function<void()> &relay)
+{
+    Wave &w = wave();
+    if (w.relayed.contains(relayer)) {
+        if (!w.secondRound && !w.askedAgain.contains(relayer)) {
+            w.askedAgain.insert(relayer);
+            w.again.append(qMakePair(QPointer<QObject>(relayer), relay));
+        }
+        return;
+    }
+    runRelay(w, relayer, relay);
+    if (w.depth > 0)
+        return;
+
+    // The wave has ended: the relayers asked again run once more, in the order asked.
+    const auto again = std::move(w.again);
+    w.again.clear();
+    w.askedAgain.clear();
+    w.relayed.clear();
+    w.secondRound = true;
+    for (const auto &pending : again) {
+        if (pending.first && !w.relayed.contains(pending.first.data()))
+            runRelay(w, pending.first.data(), pending.second);
+    }
+    w.secondRound = false;
+    w.relayed.clear();
 }
 
 } // namespace RibbonMembers

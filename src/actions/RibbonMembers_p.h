@@ -17,6 +17,7 @@
 #include <QMetaObject>
 #include <QObject>
 
+#include <functional>
 #include <utility>
 
 namespace zel {
@@ -54,6 +55,16 @@ bool forget(T *&member, const QObject *gone)
     member = nullptr;
     return true;
 }
+
+// Runs relay, which announces that something below relayer changed (a container's
+// changed() for a changed member, an action's announcement on its alias), at most once
+// per relayer and wave. A wave is everything one change sets off through the relays;
+// a member shared by several containers, or containers nested in several others,
+// would otherwise reach the ones above by every path, which multiplies with each
+// level. A relayer asked again later in the same wave (a relay in between may have
+// changed a state it reports) runs once more when the wave has ended, its duplicates
+// in that second round dropped. Relays are GUI-thread only.
+void relayOnce(QObject *relayer, const std::function<void()> &relay);
 
 // Runs announce (which emits the container's change signals) from the event loop: the
 // dying member, or an owner in the middle of deleting its children, may still be

@@ -223,8 +223,10 @@ void RibbonMenuAction::actionChanged(RibbonAction *item)
             m_checkedItem = nullptr;
         }
     }
-    sendActionChangedEvt();
-    emitChanged();
+    RibbonMembers::relayOnce(this, [this] {
+        sendActionChangedEvt();
+        emitChanged();
+    });
 }
 
 void RibbonMenuAction::actionChanged()
