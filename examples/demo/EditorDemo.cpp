@@ -434,6 +434,13 @@ struct EditorDemo::Priv
     std::function<void(const QTextCharFormat &)> updateFormat;
     std::function<void()> updateBlock;
     std::function<void()> updateContext;
+    EditorColorCommands colors;
+    EditorStyles styles;
+
+    CurrentEditor currentEditor()
+    {
+        return [this]() -> QTextEdit * { return edit; };
+    }
 
     QString name(const Document *document) const
     {
@@ -753,7 +760,7 @@ RibbonCategoriesPanelAction *EditorDemo::buildHomeTab()
     fontCategory->addAction(growShrink, 0);
     fontCategory->addAction(styleGroup, 1);
     fontCategory->addAction(clearGroup, 1);
-    addColorCommands(*fontCategory, 1, edit, this);
+    d->colors = addColorCommands(*fontCategory, 1, d->currentEditor(), this);
     d->home->addCategory(fontCategory);
 
     auto *paragraph = new RibbonCategoryAction(editorIcon(EditorIcon::AlignLeft), tr("Paragraph"), this);
@@ -779,7 +786,8 @@ RibbonCategoriesPanelAction *EditorDemo::buildHomeTab()
     paragraph->addAction(align, 1);
     d->home->addCategory(paragraph);
 
-    d->home->addCategory(buildStylesCategory(d->edit, this));
+    d->styles = buildStylesCategory(d->currentEditor(), this);
+    d->home->addCategory(d->styles.category);
 
     auto *editing = new RibbonCategoryAction(editorIcon(EditorIcon::Find), tr("Editing"), this);
     auto *find = command(this, EditorIcon::Find, tr("Find"), S::SizeLarge);
@@ -982,7 +990,7 @@ RibbonCategoriesPanelAction *EditorDemo::buildInsertTab()
         });
     }
     text->addAction(date, -1);
-    text->addAction(makeSymbolPalette(d->edit, this), -1);
+    text->addAction(makeSymbolPalette(d->currentEditor(), this), -1);
     insert->addCategory(text);
     return insert;
 }
@@ -1006,8 +1014,11 @@ RibbonCategoriesPanelAction *EditorDemo::buildViewTab()
     d->minimise->setToolTip(tr("Show only the tab names (Ctrl+F1)"));
     connect(d->minimise, &QAction::triggered, this, [this](bool on) { ribbonMenuBar().setMinimizeRibbon(on); });
     ribbonCategory->addAction(d->minimise, -1);
-    viewTab->addCategory(buildLayoutCategory(d->zoom, d->edit, [this](bool print) { d->edit->setPrintLayout(print); },
-                                             this));
+    const auto printLayout = [this](bool print) {
+        if (d->edit)
+            d->edit->setPrintLayout(print);
+    };
+    viewTab->addCategory(buildLayoutCategory(d->zoom, d->currentEditor(), printLayout, this));
     viewTab->addCategory(ribbonCategory);
 
     auto *show = new RibbonCategoryAction(editorIcon(EditorIcon::Page), tr("Show"), this);
@@ -1330,6 +1341,8 @@ void EditorDemo::followEditor()
             d->family->setFontFamily(family);
         const qreal points = format.fontPointSize() > 0 ? format.fontPointSize() : 11;
         d->size->setSelectionText(QString::number(points));
+        d->colors.follow(format);
+        d->styles.follow();
         d->syncing = false;
     };
     d->updateBlock = [this] {
@@ -1347,6 +1360,7 @@ void EditorDemo::followEditor()
         const auto style = list ? list->format().style() : QTextListFormat::ListStyleUndefined;
         d->bullets->setChecked(list && style >= QTextListFormat::ListSquare && style <= QTextListFormat::ListDisc);
         d->numbering->setChecked(list && style < QTextListFormat::ListSquare);
+        d->styles.follow();
         d->syncing = false;
     };
     d->updateContext = [this] {

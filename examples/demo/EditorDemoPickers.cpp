@@ -7,6 +7,7 @@
 #include "RibbonCategoryAction.h"
 #include "RibbonSimpleAction.h"
 
+#include <QApplication>
 #include <QPainter>
 #include <QPixmap>
 #include <QSignalBlocker>
@@ -83,7 +84,8 @@ QIcon symbolIcon(const QString &symbol)
 
 } // namespace
 
-EditorColorCommands addColorCommands(RibbonCategoryAction &category, int row, QTextEdit *edit, QObject *owner)
+EditorColorCommands addColorCommands(RibbonCategoryAction &category, int row, const CurrentEditor &editor,
+                                     QObject *owner)
 {
     using Color = RibbonCatColorMenuAction;
     EditorColorCommands commands;
@@ -91,7 +93,7 @@ EditorColorCommands addColorCommands(RibbonCategoryAction &category, int row, QT
                                    Color::ColorSizeSmall, owner);
     commands.fontColor->setToolTip(QObject::tr("Font Color"));
     commands.fontColor->setHasAutomaticColor(true);
-    commands.fontColor->setAutomaticColor(edit->palette().color(QPalette::Text));
+    commands.fontColor->setAutomaticColor(QApplication::palette().color(QPalette::Text));
     commands.highlight = new Color(editorIcon(EditorIcon::Highlight), QObject::tr("Text Highlight Color"),
                                    Color::ColorSizeSmall, owner);
     commands.highlight->setToolTip(QObject::tr("Text Highlight Color"));
@@ -103,40 +105,41 @@ EditorColorCommands addColorCommands(RibbonCategoryAction &category, int row, QT
         category.addAction(action, row);
     }
 
-    QObject::connect(commands.fontColor, &Color::colorSet, edit, [edit](const QColor &color) {
-        changeCharFormat(edit, [color](QTextCharFormat &f) { f.setForeground(color); });
+    const auto apply = [editor](const std::function<void(QTextCharFormat &)> &change) {
+        if (QTextEdit *edit = editor())
+            changeCharFormat(edit, change);
+    };
+    QObject::connect(commands.fontColor, &Color::colorSet, owner, [apply](const QColor &color) {
+        apply([color](QTextCharFormat &f) { f.setForeground(color); });
     });
-    QObject::connect(commands.fontColor, &Color::automaticSet, edit, [edit] {
-        changeCharFormat(edit, [](QTextCharFormat &f) { f.clearForeground(); });
+    QObject::connect(commands.fontColor, &Color::automaticSet, owner,
+                     [apply] { apply([](QTextCharFormat &f) { f.clearForeground(); }); });
+    QObject::connect(commands.highlight, &Color::colorSet, owner, [apply](const QColor &color) {
+        apply([color](QTextCharFormat &f) { f.setBackground(color); });
     });
-    QObject::connect(commands.highlight, &Color::colorSet, edit, [edit](const QColor &color) {
-        changeCharFormat(edit, [color](QTextCharFormat &f) { f.setBackground(color); });
-    });
-    QObject::connect(commands.highlight, &Color::noneSet, edit, [edit] {
-        changeCharFormat(edit, [](QTextCharFormat &f) { f.clearBackground(); });
-    });
+    QObject::connect(commands.highlight, &Color::noneSet, owner,
+                     [apply] { apply([](QTextCharFormat &f) { f.clearBackground(); }); });
 
     // The buttons show the colours at the cursor; following them applies nothing.
-    const auto follow = [commands](const QTextCharFormat &format) {
+    const EditorColorCommands actions = commands;
+    commands.follow = [actions](const QTextCharFormat &format) {
         {
-            const QSignalBlocker quiet(commands.fontColor);
+            const QSignalBlocker quiet(actions.fontColor);
             if (format.hasProperty(QTextFormat::ForegroundBrush))
-                commands.fontColor->setColor(format.foreground().color());
+                actions.fontColor->setColor(format.foreground().color());
             else
-                commands.fontColor->setAutomatic();
+                actions.fontColor->setAutomatic();
         }
-        const QSignalBlocker quiet(commands.highlight);
+        const QSignalBlocker quiet(actions.highlight);
         if (format.hasProperty(QTextFormat::BackgroundBrush) && format.background().style() != Qt::NoBrush)
-            commands.highlight->setColor(format.background().color());
+            actions.highlight->setColor(format.background().color());
         else
-            commands.highlight->setNone();
+            actions.highlight->setNone();
     };
-    QObject::connect(edit, &QTextEdit::currentCharFormatChanged, commands.fontColor, follow);
-    follow(edit->currentCharFormat());
     return commands;
 }
 
-RibbonCatMenuAction *makeSymbolPalette(QTextEdit *edit, QObject *owner)
+RibbonCatMenuAction *makeSymbolPalette(const CurrentEditor &editor, QObject *owner)
 {
     auto *palette = new RibbonCatMenuAction(editorIcon(EditorIcon::Symbol), QObject::tr("Symbol"),
                                             RibbonCatMenuAction::MenuTypeButton, RibbonCatMenuAction::MenuSizeMedium,
@@ -159,9 +162,11 @@ RibbonCatMenuAction *makeSymbolPalette(QTextEdit *edit, QObject *owner)
         auto *item = new RibbonSimpleAction(symbolIcon(text), text, owner);
         item->setToolTip(symbol.second);
         palette->addAction(item, false);
-        QObject::connect(item, &QAction::triggered, edit, [edit, text] {
-            edit->textCursor().insertText(text);
-            edit->setFocus();
+        QObject::connect(item, &QAction::triggered, owner, [editor, text] {
+            if (QTextEdit *edit = editor()) {
+                edit->textCursor().insertText(text);
+                edit->setFocus();
+            }
         });
     }
     return palette;

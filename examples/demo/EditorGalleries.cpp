@@ -141,7 +141,7 @@ int styleAt(const QTextEdit *edit)
 
 } // namespace
 
-RibbonCategoryAction *buildStylesCategory(QTextEdit *edit, QObject *owner)
+EditorStyles buildStylesCategory(const CurrentEditor &editor, QObject *owner)
 {
     auto *styles = new RibbonCategoryAction(editorIcon(EditorIcon::StyleHeading1), tr("Styles"), owner);
     auto *gallery = new RibbonCatMenuAction(editorIcon(EditorIcon::StyleNormal), tr("Styles"),
@@ -155,13 +155,19 @@ RibbonCategoryAction *buildStylesCategory(QTextEdit *edit, QObject *owner)
         tile->setToolTip(QCoreApplication::translate("EditorGalleries", "Format the paragraph as %1").arg(style.name));
         tile->setCheckable(true);
         gallery->iconActionGroup()->addAction(tile);
-        QObject::connect(tile, &QAction::triggered, edit, [edit, style] { applyStyle(edit, style); });
+        QObject::connect(tile, &QAction::triggered, owner, [editor, style] {
+            if (QTextEdit *edit = editor())
+                applyStyle(edit, style);
+        });
         tiles.append(tile);
     }
     tiles.first()->setChecked(true);
 
     auto *clear = new RibbonSimpleAction(editorIcon(EditorIcon::ClearFormat), tr("Clear Formatting"), owner);
-    QObject::connect(clear, &QAction::triggered, edit, [edit] {
+    QObject::connect(clear, &QAction::triggered, owner, [editor] {
+        QTextEdit *edit = editor();
+        if (!edit)
+            return;
         applyStyle(edit, styleDefs().first());
         QTextCursor cursor = edit->textCursor();
         QTextCursor whole = cursor;
@@ -173,19 +179,18 @@ RibbonCategoryAction *buildStylesCategory(QTextEdit *edit, QObject *owner)
     gallery->addBottomAction(clear);
 
     // The tile of the paragraph under the cursor stays checked.
-    const auto follow = [edit, tiles] {
-        QAction *current = tiles.at(styleAt(edit));
-        if (!current->isChecked())
+    const auto follow = [editor, tiles] {
+        const QTextEdit *edit = editor();
+        QAction *current = edit ? tiles.at(styleAt(edit)) : nullptr;
+        if (current && !current->isChecked())
             current->setChecked(true);
     };
-    QObject::connect(edit, &QTextEdit::cursorPositionChanged, gallery, follow);
-    QObject::connect(edit, &QTextEdit::currentCharFormatChanged, gallery, follow);
 
     styles->addAction(gallery, -1);
-    return styles;
+    return {styles, follow};
 }
 
-RibbonCategoryAction *buildLayoutCategory(RibbonPercAction *zoom, QTextEdit *edit,
+RibbonCategoryAction *buildLayoutCategory(RibbonPercAction *zoom, const CurrentEditor &editor,
                                           std::function<void(bool)> printLayout, QObject *owner)
 {
     auto *layout = new RibbonCategoryAction(editorIcon(EditorIcon::Page), tr("Layout"), owner);
@@ -227,9 +232,10 @@ RibbonCategoryAction *buildLayoutCategory(RibbonPercAction *zoom, QTextEdit *edi
     });
 
     auto *custom = new RibbonSimpleAction(editorIcon(EditorIcon::ZoomIn), tr("Custom Zoom..."), owner);
-    QObject::connect(custom, &QAction::triggered, edit, [zoom, edit] {
+    QObject::connect(custom, &QAction::triggered, owner, [zoom, editor] {
+        QTextEdit *edit = editor();
         bool ok = false;
-        const int percent = QInputDialog::getInt(edit->window(), tr("Zoom"), tr("Zoom (%):"), zoom->percentage(),
+        const int percent = QInputDialog::getInt(edit ? edit->window() : nullptr, tr("Zoom"), tr("Zoom (%):"), zoom->percentage(),
                                                  zoom->minimum(), zoom->maximum(), 5, &ok);
         if (ok)
             zoom->setPercentage(percent);
