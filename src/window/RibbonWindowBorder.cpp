@@ -5,10 +5,10 @@
 #include "RibbonWindowDrag_p.h"
 
 #include <QApplication>
-#include <QWindow>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QTimer>
+#include <QWindow>
 
 #include <algorithm>
 #include <iterator>
@@ -148,8 +148,13 @@ void RibbonWindowBorder::BorderItem::place()
     default:
         return;
     }
-    setFixedSize(size.expandedTo(QSize(0, 0)));
-    move(topLeft);
+    // A strip the window's change leaves in place (the left side when only the width
+    // changes, say) keeps its pixels: repainting it would only send them again.
+    const QRect placed(topLeft, size.expandedTo(QSize(0, 0)));
+    if (placed == geometry())
+        return;
+    setFixedSize(placed.size());
+    move(placed.topLeft());
     update();
 }
 
