@@ -108,12 +108,13 @@ RibbonCategory::RibbonCategory(QWidget *parent, RibbonCategoryAction &action)
 
     d->layout = new RibbonCategoryLayout(this);
     setLayout(d->layout);
-    // Every addition recomputes the whole arrangement: arrange the initial controls once.
+    // Every addition recomputes the whole arrangement: arrange the initial controls once,
+    // when first asked.
     d->layout->m_suppressed = true;
     for (RibbonAction *member : action.actions())
         QWidget::addAction(member);
     d->layout->m_suppressed = false;
-    d->layout->recompute();
+    d->layout->m_pending = true;
     d->layout->invalidate();
 }
 

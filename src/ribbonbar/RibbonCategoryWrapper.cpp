@@ -52,7 +52,8 @@ RibbonCategoryWrapper::RibbonCategoryWrapper(RibbonCategoryPanel &panel, RibbonC
 
     d->category = new RibbonCategory(this, action);
     d->category->move(0, 0);
-    d->category->resize(d->category->sizeHint());
+    // The group takes its size when the wrapper is shown (see event()): measuring it
+    // now would measure every control of pages that may never be shown.
 }
 
 RibbonCategoryWrapper::~RibbonCategoryWrapper()
