@@ -4,6 +4,8 @@
 
 #include <QApplication>
 #include <QPair>
+#include <QPalette>
+
 
 namespace zel {
 
@@ -17,7 +19,8 @@ class ZELRIBBON_EXPORT RibbonApplication : public QApplication
 public:
     enum eRibbonStyle {
         RibbonStyleNone = 0,
-        RibbonStyleDefault = 1
+        RibbonStyleDefault = 1,
+        RibbonStyleDark = 2
     };
 
     RibbonApplication(int &argc, char **argv);
@@ -32,6 +35,12 @@ public:
 
     eRibbonStyle getRibbonStyle();
 
+    // Replaces the palette with the one of kind (light or dark) and emits
+    // ribbonStyleChanged(); every widget then repaints. The palettes already handed out
+    // stay valid until the program ends. Does nothing for the current kind or for
+    // RibbonStyleNone.
+    void setRibbonStyle(eRibbonStyle kind);
+
     // Horizontal and vertical screen resolution divided by 96, measured at start.
     QPair<double, double> dpiFactor() const;
 
@@ -44,6 +53,9 @@ signals:
 private:
     eRibbonStyle m_ribbonStyleKind;
     QPair<double, double> m_dpiFactor;
+    // The widget palette from before the first switch, restored with the light look.
+    QPalette m_lightWidgetPalette;
+    bool m_widgetPaletteSaved = false;
 };
 
 } // namespace zel

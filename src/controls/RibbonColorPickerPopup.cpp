@@ -228,8 +228,13 @@ void RibbonColorPickerPopup::setGradientEnabled(bool enabled)
     }
     if (!d->gradientBox) {
         d->gradientBox = new QCheckBox(tr("Gradient"), this);
-        const QColor text = RibbonApplication::theApp().ribbonStyle().normalCategoryTextColor();
-        d->gradientBox->setStyleSheet(QStringLiteral("QCheckBox { color: %1; }").arg(text.name()));
+        QCheckBox *box = d->gradientBox;
+        const auto applyTextColor = [box] {
+            const QColor text = RibbonApplication::theApp().ribbonStyle().normalCategoryTextColor();
+            box->setStyleSheet(QStringLiteral("QCheckBox { color: %1; }").arg(text.name()));
+        };
+        applyTextColor();
+        connect(&RibbonApplication::theApp(), &RibbonApplication::ribbonStyleChanged, box, applyTextColor);
         d->gradientBox->setChecked(d->gradient);
         connect(d->gradientBox, &QCheckBox::stateChanged, this, &RibbonColorPickerPopup::onGradientChecked);
     }
