@@ -5,11 +5,15 @@
 #include "RibbonPlatform.h"
 #include "RibbonStyles.h"
 
+#include <QLocale>
 #include <QWidget>
+#include <QTranslator>
 
 namespace zel {
 
 namespace {
+
+bool s_autoLoadTranslations = true;
 
 // Each palette is built on first use and lives until the program ends: widgets and
 // painters may hold references to the one they were given, also after a switch and
@@ -67,6 +71,9 @@ RibbonApplication::RibbonApplication(int &argc, char **argv)
     int dpiY = 96;
     systemDpi(&dpiX, &dpiY);
     m_dpiFactor = qMakePair(dpiX / 96.0, dpiY / 96.0);
+
+    if (s_autoLoadTranslations)
+        loadTranslation(QLocale::system());
 }
 
 RibbonApplication::~RibbonApplication() = default;
@@ -104,6 +111,33 @@ void RibbonApplication::setRibbonStyle(eRibbonStyle kind)
     const QWidgetList widgets = QApplication::allWidgets();
     for (QWidget *widget : widgets)
         widget->update();
+}
+
+void RibbonApplication::setAutoLoadTranslations(bool on)
+{
+    s_autoLoadTranslations = on;
+}
+
+bool RibbonApplication::autoLoadTranslations()
+{
+    return s_autoLoadTranslations;
+}
+
+bool RibbonApplication::loadTranslation(const QLocale &locale)
+{
+    if (m_translator) {
+        QCoreApplication::removeTranslator(m_translator);
+        delete m_translator;
+        m_translator = nullptr;
+    }
+    auto *translator = new QTranslator(this);
+    if (!translator->load(locale, QStringLiteral("zelRibbon"), QStringLiteral("_"), QStringLiteral(":/zel/translations"))) {
+        delete translator;
+        return false;
+    }
+    QCoreApplication::installTranslator(translator);
+    m_translator = translator;
+    return true;
 }
 
 QPair<double, double> RibbonApplication::dpiFactor() const

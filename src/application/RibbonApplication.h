@@ -6,6 +6,7 @@
 #include <QPair>
 #include <QPalette>
 
+class QTranslator;
 
 namespace zel {
 
@@ -41,6 +42,17 @@ public:
     // RibbonStyleNone.
     void setRibbonStyle(eRibbonStyle kind);
 
+    // Whether the constructor installs the library's translation for the system locale
+    // (the default). A host with its own choice of language turns it off before it
+    // constructs the application and calls loadTranslation() itself, or not at all.
+    static void setAutoLoadTranslations(bool on);
+    static bool autoLoadTranslations();
+
+    // Installs the library's translation for locale in place of the one installed
+    // before; false, leaving the library's texts in English, when there is none.
+    // Widgets that exist already keep the texts they were given.
+    bool loadTranslation(const QLocale &locale);
+
     // Horizontal and vertical screen resolution divided by 96, measured at start.
     QPair<double, double> dpiFactor() const;
 
@@ -56,6 +68,7 @@ private:
     // The widget palette from before the first switch, restored with the light look.
     QPalette m_lightWidgetPalette;
     bool m_widgetPaletteSaved = false;
+    QTranslator *m_translator = nullptr;
 };
 
 } // namespace zel

@@ -6,6 +6,7 @@
 #include "RibbonStyle.h"
 
 #include <QCheckBox>
+#include <QCoreApplication>
 #include <QColorDialog>
 #include <QPainter>
 #include <QPointer>
@@ -114,7 +115,9 @@ RibbonColorPickerPopup::RibbonColorPickerPopup(QWidget *parent)
     setMouseTracking(true);
 
     d->colorItems = new ColorItems(this);
-    d->moreAction = makeEntry(tr("More colors..."), false, this);
+    // Translated under the class name without its namespace, the context this entry's
+    // text has always had in catalogues.
+    d->moreAction = makeEntry(QCoreApplication::translate("RibbonColorPickerPopup", "More colors..."), false, this);
     d->moreButton = new RibbonCatSimpleButton(*d->moreAction, this);
     connect(d->colorItems, &ColorItems::colorSelected, this, &RibbonColorPickerPopup::colorClicked);
     connect(d->moreAction, &QAction::triggered, this, &RibbonColorPickerPopup::moreColorsClicked);
