@@ -216,6 +216,7 @@ private slots:
         QVERIFY(QTest::qWaitForWindowExposed(window.get()));
         auto popup = std::make_unique<RibbonColorPickerPopup>();
         popup->setGradientEnabled(true);
+        popup->setNoneColorEnabled(true);
         popup->move(900, 50);
         popup->show();
         QVERIFY(zelPopupShown(popup.get()));
@@ -238,6 +239,15 @@ private slots:
         QVERIFY(ruler->styleSheet().contains(dark.normalCategoryTextColor().name()));
         QVERIFY(gradient->styleSheet().contains(dark.normalCategoryTextColor().name()));
         QCOMPARE(QApplication::palette().color(QPalette::Base), dark.categoryColorUnderButton());
+        // The "None" swatch, drawn on the button colour, was drawn again.
+        QAction *none = nullptr;
+        for (QAction *action : popup->findChildren<QAction *>()) {
+            if (action->text() == QLatin1String("None"))
+                none = action;
+        }
+        QVERIFY(none);
+        QCOMPARE(QColor(none->icon().pixmap(16).toImage().pixel(0, 0)),
+                 QApplication::palette().color(QPalette::Button));
         const QImage darkWindow = window->grab().toImage();
         QCOMPARE(darkWindow.size(), lightWindow.size());
         QVERIFY(meanLightness(darkWindow) < meanLightness(lightWindow) - 60);

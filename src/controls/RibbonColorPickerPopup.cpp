@@ -55,6 +55,7 @@ struct RibbonColorPickerPopup::Priv
     ColorItems *colorItems = nullptr;
     QColor selectedColor;
     QColor automaticColor;
+    QColor moreSwatchColor; // the colour "More colors..." shows, invalid for none
     RibbonCatSimpleAction *moreAction = nullptr;
     RibbonCatSimpleButton *moreButton = nullptr;
     RibbonCatSimpleAction *automaticAction = nullptr;
@@ -78,15 +79,16 @@ struct RibbonColorPickerPopup::Priv
     }
 
     // Makes a special entry the choice: no cell and no swatch stand for a colour then.
-    void chooseSpecial(const QWidget &popup, const RibbonCatSimpleAction *entry) const
+    void chooseSpecial(const QWidget &popup, const RibbonCatSimpleAction *entry)
     {
         checkOnly(entry);
         colorItems->selectColor(QColor());
         setMoreColorsSwatch(popup, QColor());
     }
 
-    void setMoreColorsSwatch(const QWidget &popup, const QColor &color) const
+    void setMoreColorsSwatch(const QWidget &popup, const QColor &color)
     {
+        moreSwatchColor = color;
         moreAction->setIcon(color.isValid() ? swatch(popup, color) : QIcon());
     }
 
@@ -123,6 +125,16 @@ RibbonColorPickerPopup::RibbonColorPickerPopup(QWidget *parent)
     connect(d->moreAction, &QAction::triggered, this, &RibbonColorPickerPopup::moreColorsClicked);
     d->layout->addWidget(d->colorItems);
     d->layout->addWidget(d->moreButton);
+
+    // The swatches are drawn on the widget palette's button colour, which a change of
+    // the ribbon's palette changes as well.
+    connect(&RibbonApplication::theApp(), &RibbonApplication::ribbonStyleChanged, this, [this] {
+        if (d->automaticAction)
+            d->automaticAction->setIcon(swatch(*this, d->automaticColor));
+        if (d->noneAction)
+            d->noneAction->setIcon(swatch(*this, QColor()));
+        d->setMoreColorsSwatch(*this, d->moreSwatchColor);
+    });
 }
 
 RibbonColorPickerPopup::~RibbonColorPickerPopup() = default;
