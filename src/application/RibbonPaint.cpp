@@ -101,6 +101,13 @@ void drawThreeSlice(QPainter &painter, const QRect &target, const QPixmap &pixma
     slices.draw(painter, pixmap);
 }
 
+QColor paneFill(const QColor &defaultLookFill)
+{
+    RibbonApplication &app = RibbonApplication::theApp();
+    return app.getRibbonStyle() == RibbonApplication::RibbonStyleDefault ? defaultLookFill
+                                                                          : app.ribbonStyle().mainMenuBgColor();
+}
+
 QColor textColor(bool enabled)
 {
     const RibbonStyle &style = RibbonApplication::theApp().ribbonStyle();

@@ -67,6 +67,11 @@ void drawThreeSlice(QPainter &painter, const QRect &target, const QPixmap &pixma
 // The pen colour of a control's text and symbols by its enabled state.
 QColor textColor(bool enabled);
 
+// The fill of a pane that the default look paints in a tone of its own, not a palette
+// entry (the white options pages, the view popup): that tone under the default
+// palette, the palette's menu background under any other, so that a dark look is dark.
+QColor paneFill(const QColor &defaultLookFill);
+
 // The drop-down mark of a button, a 5 x 3 triangle with its top-left corner at (x, y).
 void drawDropDownArrow(QPainter &painter, int x, int y, const QColor &color);
 

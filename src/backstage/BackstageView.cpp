@@ -3,6 +3,7 @@
 #include "BackstageViewListWidgetDelegate.h"
 #include "RibbonApplication.h"
 #include "RibbonMainWindow.h"
+#include "RibbonPaint_p.h"
 #include "RibbonStyle.h"
 
 #include <QFile>
@@ -130,6 +131,9 @@ BackstageView::BackstageView(RibbonMainWindow *mainWindow)
     d->list->setFocusPolicy(Qt::NoFocus);
     d->list->setFrameShape(QFrame::NoFrame);
     d->list->setStyleSheet(RibbonApplication::theApp().ribbonStyle().backstageMainLeftListWidget());
+    connect(&RibbonApplication::theApp(), &RibbonApplication::ribbonStyleChanged, d->list, [this] {
+        d->list->setStyleSheet(RibbonApplication::theApp().ribbonStyle().backstageMainLeftListWidget());
+    });
 
     d->navigationColumn->addSpacerItem(new QSpacerItem(5, 5, QSizePolicy::Fixed, QSizePolicy::Fixed));
     auto *backRow = new QHBoxLayout;
@@ -255,7 +259,7 @@ void BackstageView::hideEvent(QHideEvent *event)
 void BackstageView::paintEvent(QPaintEvent *)
 {
     QPainter p(this);
-    p.fillRect(rect(), Qt::white);
+    p.fillRect(rect(), RibbonPaint::paneFill(Qt::white));
     p.fillRect(d->navigationColumn->geometry(),
                RibbonApplication::theApp().ribbonStyle().frameBorderColor());
 }

@@ -3,6 +3,7 @@
 #include "RibbonApplication.h"
 #include "RibbonPaint_p.h"
 #include "RibbonImageRows_p.h"
+#include "RibbonPaint_p.h"
 #include "RibbonStyle.h"
 
 #include <QAbstractButton>
@@ -121,7 +122,7 @@ void RibbonPanelPages::paintButton(QPainter &painter, const QAbstractButton &but
 void RibbonPanelPages::paintFrames(QPainter &painter, const QRect &buttonsArea, const QRect &stackArea)
 {
     painter.setPen(Qt::gray);
-    painter.setBrush(QBrush(Qt::white, Qt::SolidPattern));
+    painter.setBrush(QBrush(RibbonPaint::paneFill(Qt::white), Qt::SolidPattern));
     painter.drawRect(buttonsArea.adjusted(-1, -1, 1, 1));
     painter.drawRect(stackArea.adjusted(-1, -1, 0, 0));
 }

@@ -9,6 +9,18 @@
 
 namespace zel {
 
+namespace {
+
+// The box's text in the palette's category text colour; read again when the palette changes.
+void applyTextColor(QCheckBox &box)
+{
+    const QColor textColor = RibbonApplication::theApp().ribbonStyle().normalCategoryTextColor();
+    box.setStyleSheet(QStringLiteral("QCheckBox {") + QLatin1Char(' ') + QStringLiteral("color: ")
+                      + textColor.name() + QStringLiteral("; }"));
+}
+
+} // namespace
+
 RibbonCatCheckBox::RibbonCatCheckBox(RibbonCatCheckBoxAction &action, QWidget *parent)
     : QCheckBox(parent)
     , m_action(&action)
@@ -17,9 +29,9 @@ RibbonCatCheckBox::RibbonCatCheckBox(RibbonCatCheckBoxAction &action, QWidget *p
     setToolTip(action.toolTip());
     setChecked(action.isChecked());
     setEnabled(action.isEnabled());
-    const QColor textColor = RibbonApplication::theApp().ribbonStyle().normalCategoryTextColor();
-    setStyleSheet(QStringLiteral("QCheckBox {") + QLatin1Char(' ') + QStringLiteral("color: ")
-                  + textColor.name() + QStringLiteral("; }"));
+    applyTextColor(*this);
+    connect(&RibbonApplication::theApp(), &RibbonApplication::ribbonStyleChanged, this,
+            [this] { applyTextColor(*this); });
 
     // The action takes the new state first so that every box shown for it follows,
     // then announces the click.

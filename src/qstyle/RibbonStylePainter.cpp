@@ -8,6 +8,7 @@
 #include <QStyleOption>
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace zel {
 namespace stylepainter {
@@ -43,6 +44,11 @@ bool drawStateRow(QPainter *painter, const QRect &target, const QPixmap &sheet, 
     slices.set(target, source, QMargins(border, border, border, border));
     slices.draw(*painter, sheet, offset);
     return true;
+}
+
+QColor legibleOn(const QColor &background, const QColor &preferred, const QColor &fallback)
+{
+    return std::abs(preferred.lightness() - background.lightness()) >= 64 ? preferred : fallback;
 }
 
 void drawFlatPanel(QPainter *painter, const QRect &rect, const QColor &fill, const QColor &outline)

@@ -2,6 +2,7 @@
 
 #include "RibbonApplication.h"
 #include "RibbonMainWindow.h"
+#include "RibbonPaint_p.h"
 #include "RibbonQuickAccessBar.h"
 #include "RibbonStyle.h"
 #include "RibbonSysButton.h"
@@ -117,7 +118,7 @@ void RibbonTitleRow::paintOverPage(QPainter &painter, int leftWidth, int rightWi
     preparePainter(painter);
     const RibbonStyle &style = RibbonApplication::theApp().ribbonStyle();
     const QRect t = m_layout->geometry().adjusted(0, -extraTop, 0, 0);
-    painter.fillRect(t, Qt::white);
+    painter.fillRect(t, RibbonPaint::paneFill(Qt::white));
     painter.fillRect(QRect(t.left(), t.top(), leftWidth, t.height()), style.frameBorderColor());
     if (!m_showTitleBar)
         return;

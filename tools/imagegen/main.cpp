@@ -11,6 +11,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QHash>
 #include <QImage>
 #include <QImageReader>
 #include <QImageWriter>
@@ -63,14 +64,26 @@ public:
             }
             value = next;
         }
-        return value;
+        return remapped(value);
     }
+
+    // Colours of a variant image set (see Generator::variantImages).
+    void setRemap(const QHash<QString, QString> *remap) { m_remap = remap; }
 
     // A misspelt variable would silently draw nothing; the run fails instead.
     bool failed() const { return m_failed; }
 
 private:
+    QJsonValue remapped(const QJsonValue &value) const
+    {
+        if (!m_remap || !value.isString())
+            return value;
+        const auto it = m_remap->constFind(value.toString().toUpper());
+        return it == m_remap->constEnd() ? value : QJsonValue(it.value());
+    }
+
     QList<QJsonObject> m_layers;
+    const QHash<QString, QString> *m_remap = nullptr;
     mutable bool m_failed = false;
 };
 
@@ -439,6 +452,7 @@ struct Generator
     QJsonObject root;
     QString outDir;
     QMap<QString, QStringList> filesByDir;
+    QMap<QString, QHash<QString, QString>> variantRemaps;
 
     // The image's own keys over those of its template; "vars" are kept apart so that
     // both layers stay visible.
@@ -467,6 +481,54 @@ struct Generator
     {
         const QString high = QStringLiteral("highResolutionDraw");
         return scale > 1 && image.contains(high) ? high : QStringLiteral("draw");
+    }
+
+    // A variant ("variants" in the description) redraws every image of one directory into
+    // another with its own colour table: "colors" replaces named colours, "literals" maps
+    // colours written out in the images (upper-case keys), except in the images listed
+    // in "keepLiterals". The copies carry the variant's name under "variant".
+    bool addVariantImages(QJsonArray &images)
+    {
+        const QJsonObject variants = root.value(QStringLiteral("variants")).toObject();
+        const QJsonArray base = images;
+        for (auto v = variants.constBegin(); v != variants.constEnd(); ++v) {
+            const QJsonObject variant = v.value().toObject();
+            const QString from = variant.value(QStringLiteral("from")).toString();
+            const QString into = variant.value(QStringLiteral("dir")).toString();
+            if (from.isEmpty() || into.isEmpty()) {
+                err() << "variant " << v.key() << " needs 'from' and 'dir'\n";
+                return false;
+            }
+            QHash<QString, QString> &remap = variantRemaps[v.key()];
+            const QJsonObject literals = variant.value(QStringLiteral("literals")).toObject();
+            for (auto l = literals.constBegin(); l != literals.constEnd(); ++l)
+                remap.insert(l.key().toUpper(), l.value().toString());
+            for (const QJsonValue &i : base) {
+                QJsonObject image, templateVars;
+                if (!withTemplate(i.toObject(), image, templateVars))
+                    return false;
+                if (image.value(QStringLiteral("dir")).toString() != from)
+                    continue;
+                QJsonObject copy = i.toObject();
+                copy.insert(QStringLiteral("dir"), into);
+                copy.insert(QStringLiteral("variant"), v.key());
+                images.append(copy);
+            }
+        }
+        return true;
+    }
+
+    void applyVariant(const QJsonObject &image, Scope &scope) const
+    {
+        const QString name = image.value(QStringLiteral("variant")).toString();
+        if (name.isEmpty())
+            return;
+        const QJsonObject variant = root.value(QStringLiteral("variants")).toObject().value(name).toObject();
+        scope.push(variant.value(QStringLiteral("colors")).toObject());
+        const QJsonArray keep = variant.value(QStringLiteral("keepLiterals")).toArray();
+        const auto remap = variantRemaps.constFind(name);
+        if (remap != variantRemaps.constEnd() && !keep.contains(image.value(QStringLiteral("file"))))
+            scope.setRemap(&remap.value());
     }
 
     // Draws the image at scale times its described size: the description stays in
@@ -504,6 +566,7 @@ struct Generator
             const QJsonObject state = states.at(i).toObject();
             Scope scope;
             scope.push(root.value(QStringLiteral("colors")).toObject());
+            applyVariant(image, scope);
             scope.push(root.value(QStringLiteral("shapes")).toObject());
             scope.push(templateVars);
             scope.push(image.value(QStringLiteral("vars")).toObject());
@@ -540,7 +603,9 @@ struct Generator
 
     bool run()
     {
-        const QJsonArray images = root.value(QStringLiteral("images")).toArray();
+        QJsonArray images = root.value(QStringLiteral("images")).toArray();
+        if (!addVariantImages(images))
+            return false;
         const QJsonObject dirs = root.value(QStringLiteral("directories")).toObject();
         int written = 0;
         for (const QJsonValue &v : images) {
