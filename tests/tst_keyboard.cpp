@@ -11,6 +11,10 @@
 #include "RibbonCategoryWrapper.h"
 #include "RibbonContextCategoryPanel.h"
 #include "RibbonContextCategoryPanelAction.h"
+#include "RibbonCategoryWrapperPopup.h"
+#include "RibbonKeyTips_p.h"
+#include "RibbonButtonMain.h"
+#include "RibbonMenuBarButton.h"
 #include "RibbonMainWindow.h"
 #include "RibbonMenuBar.h"
 #include "RibbonQuickAccessBar.h"
@@ -126,6 +130,16 @@ private slots:
     void shortcutLeavesWithItsPlace_data();
     void shortcutLeavesWithItsPlace();
     void contextualShortcutOnlyWhileShown();
+
+    void assignKeyTips_data();
+    void assignKeyTips();
+    void wantedKeyTip_data();
+    void wantedKeyTip();
+    void keyTipsShowAndHide_data();
+    void keyTipsShowAndHide();
+    void keyTipsThroughTabToCommand();
+    void keyTipsInFoldedCategory();
+    void keyTipsDoNotOverlap();
 
 private:
     int m_widgets = 0;
@@ -305,6 +319,308 @@ void tst_Keyboard::contextualShortcutOnlyWhileShown()
     f.bar().hideContextPanelAction(set);
     f.press();
     QCOMPARE(triggered.count(), 1);
+}
+
+namespace {
+
+RibbonKeyTips &keyTipsOf(const Fixture &f)
+{
+    return *f.window->findChild<RibbonKeyTips *>();
+}
+
+// The letters of the badges shown, by the caption of their command.
+QHash<QString, QString> keysByCaption(const RibbonKeyTips &keyTips)
+{
+    QHash<QString, QString> keys;
+    for (const RibbonKeyTip &tip : keyTips.tips())
+        keys.insert(tip.caption, tip.keys);
+    return keys;
+}
+
+void typeKeys(QWidget *receiver, const QString &keys)
+{
+    for (const QChar c : keys)
+        QTest::keyClick(receiver, c.toLower().toLatin1());
+}
+
+// The widget that receives typed keys: the open popup, else the focus widget.
+QWidget *keyReceiver(const Fixture &f)
+{
+    if (QWidget *popup = QApplication::activePopupWidget())
+        return popup->focusWidget() ? popup->focusWidget() : popup;
+    return f.edit;
+}
+
+// Alt pressed and released alone, as the window system reports it (the press does not
+// carry the modifier yet).
+void pressAlt(QWidget *receiver)
+{
+    QTest::keyPress(receiver, Qt::Key_Alt, Qt::NoModifier);
+    QTest::keyRelease(receiver, Qt::Key_Alt, Qt::NoModifier);
+}
+
+} // namespace
+
+void tst_Keyboard::assignKeyTips_data()
+{
+    QTest::addColumn<QStringList>("captions");
+    QTest::addColumn<QStringList>("wanted");
+    QTest::addColumn<QStringList>("expected");
+    QTest::newRow("first letters") << QStringList{"Home", "Insert", "View"} << QStringList{"", "", ""}
+                                   << QStringList{"H", "I", "V"};
+    QTest::newRow("a shared first letter takes two") << QStringList{"Paste", "Print", "Copy"}
+                                                     << QStringList{"", "", ""}
+                                                     << QStringList{"PA", "PR", "C"};
+    QTest::newRow("wanted letters first") << QStringList{"Format", "File"} << QStringList{"", "F"}
+                                          << QStringList{"OR", "F"};
+    QTest::newRow("second wanted duplicate falls back") << QStringList{"Bold", "Bullets"}
+                                                        << QStringList{"B", "B"} << QStringList{"B", "UL"};
+    QTest::newRow("a wanted prefix of another") << QStringList{"Bold", "Border"} << QStringList{"B", "BO"}
+                                                << QStringList{"B", "OR"};
+    QTest::newRow("a wanted digit; no caption") << QStringList{"", "Undo", ""} << QStringList{"1", "", ""}
+                                                << QStringList{"1", "U", "AA"};
+    QTest::newRow("same caption twice") << QStringList{"Style", "Style", "Style"} << QStringList{"", "", ""}
+                                        << QStringList{"ST", "SY", "SL"};
+}
+
+void tst_Keyboard::assignKeyTips()
+{
+    QFETCH(QStringList, captions);
+    QFETCH(QStringList, wanted);
+    QFETCH(QStringList, expected);
+    QList<RibbonKeyTip> tips;
+    for (int i = 0; i < captions.size(); ++i) {
+        RibbonKeyTip tip;
+        tip.caption = captions.at(i);
+        tip.wanted = wanted.at(i);
+        tips.append(tip);
+    }
+    zel::assignKeyTips(tips);
+    QStringList keys;
+    for (const RibbonKeyTip &tip : tips)
+        keys << tip.keys;
+    QCOMPARE(keys, expected);
+}
+
+void tst_Keyboard::wantedKeyTip_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QVariant>("keyTip");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("mnemonic") << "&Bold" << QVariant() << "B";
+    QTest::newRow("mnemonic inside, lower case") << "Un&derline" << QVariant() << "D";
+    QTest::newRow("a literal ampersand is none") << "Save && Close" << QVariant() << "";
+    QTest::newRow("after a literal ampersand") << "A && &Z" << QVariant() << "Z";
+    QTest::newRow("plain text") << "Bold" << QVariant() << "";
+    QTest::newRow("the host's letters win") << "&Bold" << QVariant(QStringLiteral("fb")) << "FB";
+    QTest::newRow("a blank key tip is none") << "Bold" << QVariant(QStringLiteral(" ")) << "";
+}
+
+void tst_Keyboard::wantedKeyTip()
+{
+    QFETCH(QString, text);
+    QFETCH(QVariant, keyTip);
+    QFETCH(QString, expected);
+    QAction action(text, nullptr);
+    if (keyTip.isValid())
+        action.setProperty("keyTip", keyTip);
+    QCOMPARE(zel::wantedKeyTip(&action), expected);
+}
+
+void tst_Keyboard::keyTipsShowAndHide_data()
+{
+    QTest::addColumn<int>("how");
+    QTest::newRow("Escape") << 0;
+    QTest::newRow("Alt again") << 1;
+    QTest::newRow("F10 again") << 2;
+    QTest::newRow("a click") << 3;
+    QTest::newRow("another key") << 4;
+}
+
+void tst_Keyboard::keyTipsShowAndHide()
+{
+    QFETCH(int, how);
+    Fixture f;
+    auto *undo = new RibbonSimpleAction(QStringLiteral("Undo"), f.window.get());
+    f.window->quickAccessBar().addAction(undo);
+    QVERIFY(f.show());
+    RibbonKeyTips &keyTips = keyTipsOf(f);
+
+    // Alt held with another key is a chord, not a request for key tips.
+    QTest::keyPress(f.edit, Qt::Key_Alt, Qt::AltModifier);
+    QTest::keyClick(f.edit, Qt::Key_Left, Qt::AltModifier);
+    QTest::keyRelease(f.edit, Qt::Key_Alt, Qt::NoModifier);
+    QVERIFY(!keyTips.isShown());
+
+    if (how == 2)
+        QTest::keyClick(f.edit, Qt::Key_F10);
+    else
+        pressAlt(f.edit);
+    QVERIFY(keyTips.isShown());
+    QCOMPARE(keyTips.depth(), 1);
+    const QHash<QString, QString> keys = keysByCaption(keyTips);
+    QCOMPARE(keys.value(f.bar().mainMenuButton()->text()), QStringLiteral("F"));
+    QCOMPARE(keys.value(QStringLiteral("HOME")), QStringLiteral("H"));
+    QCOMPARE(keys.value(QStringLiteral("INSERT")), QStringLiteral("I"));
+    QCOMPARE(keys.value(QStringLiteral("Undo")), QStringLiteral("1"));
+    QVERIFY(f.window->findChild<QWidget *>(QStringLiteral("keyTipOverlay")));
+
+    // While shown, the keys belong to the badges: nothing reaches the line edit.
+    QTest::keyClick(f.edit, Qt::Key_Q);
+    QVERIFY(f.edit->text().isEmpty());
+    QVERIFY(keyTips.isShown());
+
+    switch (how) {
+    case 0:
+        QTest::keyClick(f.edit, Qt::Key_Escape);
+        break;
+    case 1:
+        pressAlt(f.edit);
+        break;
+    case 2:
+        QTest::keyClick(f.edit, Qt::Key_F10);
+        break;
+    case 3:
+        QTest::mouseClick(f.edit, Qt::LeftButton);
+        break;
+    case 4:
+        QTest::keyClick(f.edit, Qt::Key_End);
+        break;
+    }
+    QVERIFY(!keyTips.isShown());
+    QVERIFY(!f.window->findChild<QWidget *>(QStringLiteral("keyTipOverlay")));
+    // Typing works as before.
+    QTest::keyClick(f.edit, Qt::Key_X);
+    QCOMPARE(f.edit->text(), QStringLiteral("x"));
+}
+
+void tst_Keyboard::keyTipsThroughTabToCommand()
+{
+    Fixture f;
+    auto *strip = new RibbonCatActionGroup(f.window.get());
+    auto *bold = f.command(QStringLiteral("&Bold"), RibbonCatSimpleAction::SizeSmall);
+    auto *italic = f.command(QStringLiteral("Italic"), RibbonCatSimpleAction::SizeSmall);
+    strip->addAction(bold, false);
+    strip->addAction(italic, false);
+    f.tables->addAction(strip, 1);
+    auto *chart = f.command(QStringLiteral("Chart"));
+    chart->setProperty("keyTip", QStringLiteral("ZC"));
+    f.tables->addAction(chart, -1);
+    QVERIFY(f.show());
+    RibbonKeyTips &keyTips = keyTipsOf(f);
+    QSignalSpy boldTriggered(bold, &QAction::triggered);
+    QSignalSpy chartTriggered(chart, &QAction::triggered);
+
+    pressAlt(f.edit);
+    QTest::keyClick(f.edit, Qt::Key_I);
+    QVERIFY(f.insert->isChecked());
+    QCOMPARE(keyTips.depth(), 2);
+    QHash<QString, QString> keys = keysByCaption(keyTips);
+    QCOMPARE(keys.value(QStringLiteral("&Bold")), QStringLiteral("B"));
+    QCOMPARE(keys.value(QStringLiteral("Chart")), QStringLiteral("ZC"));
+    QCOMPARE(keys.value(QStringLiteral("Table")), QStringLiteral("T"));
+    QCOMPARE(keys.value(QStringLiteral("Italic")), QStringLiteral("I"));
+
+    // Half of a two-letter tip narrows the badges to those that match.
+    QTest::keyClick(f.edit, Qt::Key_Z);
+    QCOMPARE(keysByCaption(keyTips).keys(), QStringList{QStringLiteral("Chart")});
+    QTest::keyClick(f.edit, Qt::Key_Escape); // forgets the half typed
+    QCOMPARE(keyTips.depth(), 2);
+    QCOMPARE(keyTips.tips().size(), keys.size());
+    QTest::keyClick(f.edit, Qt::Key_Escape); // back to the tab row
+    QCOMPARE(keyTips.depth(), 1);
+
+    // A tab's letters with Alt held go straight to its commands.
+    QTest::keyClick(f.edit, Qt::Key_Escape);
+    QVERIFY(!keyTips.isShown());
+    QTest::keyClick(f.edit, Qt::Key_Home); // the Home tab is still current
+    QTest::keyPress(f.edit, Qt::Key_Alt, Qt::AltModifier);
+    QTest::keyClick(f.edit, Qt::Key_I, Qt::AltModifier);
+    QTest::keyRelease(f.edit, Qt::Key_Alt, Qt::NoModifier);
+    QCOMPARE(keyTips.depth(), 2);
+    typeKeys(f.edit, QStringLiteral("B"));
+    QCOMPARE(boldTriggered.count(), 1);
+    QVERIFY(!keyTips.isShown());
+
+    pressAlt(f.edit);
+    typeKeys(f.edit, QStringLiteral("IZC"));
+    QCOMPARE(chartTriggered.count(), 1);
+    QCOMPARE(boldTriggered.count(), 1);
+
+    // A disabled command keeps its badge and does nothing.
+    chart->setEnabled(false);
+    pressAlt(f.edit);
+    typeKeys(f.edit, QStringLiteral("IZC"));
+    QCOMPARE(chartTriggered.count(), 1);
+    QVERIFY(keyTips.isShown());
+    QCOMPARE(keyTips.tips().size(), 4); // the letters typed are forgotten
+    QTest::keyClick(f.edit, Qt::Key_Escape);
+    QTest::keyClick(f.edit, Qt::Key_Escape);
+    QVERIFY(!keyTips.isShown());
+}
+
+void tst_Keyboard::keyTipsInFoldedCategory()
+{
+    Fixture f;
+    QVERIFY(f.show(true));
+    RibbonKeyTips &keyTips = keyTipsOf(f);
+    RibbonCategoryWrapper *folded = f.wrapper(f.home, f.styles);
+    QSignalSpy triggered(f.styles->actions().at(3), &QAction::triggered);
+
+    pressAlt(f.edit);
+    QTest::keyClick(f.edit, Qt::Key_H);
+    const QString styles = keysByCaption(keyTips).value(QStringLiteral("Styles"));
+    QCOMPARE(styles, QStringLiteral("S"));
+    QTest::keyClick(f.edit, Qt::Key_S);
+    QCOMPARE(keyTips.depth(), 3);
+    QVERIFY(folded->popup());
+    QVERIFY(zelPopupShown(folded->popup()));
+    for (const RibbonKeyTip &tip : keyTips.tips())
+        QCOMPARE(tip.widget->window(), folded->popup());
+
+    // Escape closes the popup and returns to the tab's badges.
+    QTest::keyClick(keyReceiver(f), Qt::Key_Escape);
+    QCOMPARE(keyTips.depth(), 2);
+    QTRY_VERIFY(!folded->popup());
+
+    QTest::keyClick(f.edit, Qt::Key_S);
+    QVERIFY(zelPopupShown(folded->popup()));
+    const QString third = keysByCaption(keyTips).value(QStringLiteral("Style 3"));
+    QCOMPARE(third.size(), 2);
+    typeKeys(keyReceiver(f), third);
+    QCOMPARE(triggered.count(), 1);
+    QVERIFY(!keyTips.isShown());
+    QTRY_VERIFY(!folded->popup());
+}
+
+void tst_Keyboard::keyTipsDoNotOverlap()
+{
+    Fixture f;
+    auto *strip = new RibbonCatActionGroup(f.window.get());
+    for (const char *text : {"Bold", "Italic", "Underline", "Strike", "Sub", "Super"})
+        strip->addAction(f.command(QLatin1String(text), RibbonCatSimpleAction::SizeSmall), false);
+    f.clipboard->addAction(strip, 0);
+    for (const char *text : {"Cut", "Copy", "Format Painter"})
+        f.clipboard->addAction(f.command(QLatin1String(text), RibbonCatSimpleAction::SizeMedium), -1);
+    for (int i = 0; i < 4; ++i)
+        f.window->quickAccessBar().addAction(new RibbonSimpleAction(QStringLiteral("Q%1").arg(i), f.window.get()));
+    QVERIFY(f.show());
+    RibbonKeyTips &keyTips = keyTipsOf(f);
+
+    pressAlt(f.edit);
+    for (int level = 1; level <= 2; ++level) {
+        QCOMPARE(keyTips.depth(), level);
+        const QVector<QRect> rects = keyTips.badgeRects(f.window.get());
+        QVERIFY(rects.size() >= (level == 1 ? 7 : 20));
+        for (int i = 0; i < rects.size(); ++i) {
+            QVERIFY(!rects.at(i).isEmpty());
+            QVERIFY(f.window->rect().contains(rects.at(i)));
+            for (int j = i + 1; j < rects.size(); ++j)
+                QVERIFY2(!rects.at(i).intersects(rects.at(j)),
+                         qPrintable(keyTips.tips().at(i).keys + QLatin1Char('/') + keyTips.tips().at(j).keys));
+        }
+        QTest::keyClick(f.edit, Qt::Key_H);
+    }
 }
 
 ZEL_TEST_MAIN(tst_Keyboard)

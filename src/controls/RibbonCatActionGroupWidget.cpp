@@ -79,6 +79,13 @@ int RibbonCatActionGroupWidget::cellAt(const QPoint &pos) const
     return index < group()->actions().size() ? index : -1;
 }
 
+QRect RibbonCatActionGroupWidget::cellRect(int index) const
+{
+    if (!group() || index < 0 || index >= group()->actions().size())
+        return QRect();
+    return QRect(index * cellWidth(), 0, cellWidth(), kStripHeight);
+}
+
 QSize RibbonCatActionGroupWidget::sizeHint() const
 {
     const int count = group() ? group()->actions().size() : 0;
@@ -162,7 +169,7 @@ void RibbonCatActionGroupWidget::mousePressEvent(QMouseEvent *event)
             if (IRibbonGroupWidget *groupWidget = IRibbonGroupWidget::groupWidget(button)) {
                 // The hidden button stands on its cell, so that its popup opens below
                 // the cell, and receives the press in its own coordinates.
-                const QRect cell(index * kWideCell, 0, kWideCell, kStripHeight);
+                const QRect cell = cellRect(index);
                 button->setGeometry(cell);
                 QMouseEvent press(event->type(), event->localPos() - cell.topLeft(), event->windowPos(),
                                   event->screenPos(), event->button(), event->buttons(), event->modifiers());
