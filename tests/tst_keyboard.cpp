@@ -13,15 +13,26 @@
 #include "RibbonContextCategoryPanelAction.h"
 #include "RibbonCategoryWrapperPopup.h"
 #include "RibbonKeyTips_p.h"
+#include "RibbonScreenTip_p.h"
+#include "RibbonCatSimpleButton.h"
+#include "RibbonCatActionGroupWidget.h"
+#include "RibbonCategory.h"
 #include "RibbonButtonMain.h"
 #include "RibbonMenuBarButton.h"
 #include "RibbonMainWindow.h"
 #include "RibbonMenuBar.h"
 #include "RibbonQuickAccessBar.h"
+#include "RibbonPercAction.h"
+#include "RibbonPercWidget.h"
+#include "RibbonStatusBar.h"
+#include "BackstageView.h"
 #include "RibbonSimpleAction.h"
 
 #include <QLineEdit>
 #include <QPointer>
+#include <QAccessible>
+#include <QListWidget>
+#include <QMenu>
 #include <QSignalSpy>
 
 #include <memory>
@@ -140,6 +151,13 @@ private slots:
     void keyTipsThroughTabToCommand();
     void keyTipsInFoldedCategory();
     void keyTipsDoNotOverlap();
+
+    void arrowNavigation();
+    void accessibleNames();
+    void backstageByKeyboard();
+    void screenTip_data();
+    void screenTip();
+    void screenTipOnControls();
 
 private:
     int m_widgets = 0;
@@ -621,6 +639,224 @@ void tst_Keyboard::keyTipsDoNotOverlap()
         }
         QTest::keyClick(f.edit, Qt::Key_H);
     }
+}
+
+void tst_Keyboard::arrowNavigation()
+{
+    Fixture f;
+    auto *charts = new RibbonCategoryAction(QStringLiteral("Charts"), f.window.get());
+    auto *bars = f.command(QStringLiteral("Bars"), RibbonCatSimpleAction::SizeMedium);
+    auto *more = new RibbonCatMenuAction(QStringLiteral("More"), RibbonCatMenuAction::MenuTypeButton,
+                                         RibbonCatMenuAction::MenuSizeLarge, RibbonCatMenuAction::PopupMenu,
+                                         f.window.get());
+    more->addAction(new RibbonSimpleAction(QStringLiteral("Pie"), f.window.get()), false);
+    charts->addAction(f.command(QStringLiteral("Chart")), -1);
+    charts->addAction(f.command(QStringLiteral("Lines"), RibbonCatSimpleAction::SizeMedium), -1);
+    charts->addAction(bars, -1);
+    charts->addAction(more, -1);
+    f.insert->addCategory(charts);
+    QVERIFY(f.show());
+    RibbonKeyTips &keyTips = keyTipsOf(f);
+    QSignalSpy barsTriggered(bars, &QAction::triggered);
+
+    // F6 enters the ribbon on the current tab.
+    QTest::keyClick(f.edit, Qt::Key_F6);
+    QCOMPARE(keyTips.highlighted().caption, QStringLiteral("HOME"));
+    QTest::keyClick(f.edit, Qt::Key_Right);
+    QCOMPARE(keyTips.highlighted().caption, QStringLiteral("INSERT"));
+    QVERIFY(!keyTips.highlightRect(f.window.get()).isNull());
+    QTest::keyClick(f.edit, Qt::Key_Down);
+    QVERIFY(f.insert->isChecked());
+    QCOMPARE(keyTips.depth(), 2);
+
+    // Category by category, in the order of their commands; round at the ends.
+    QStringList order;
+    for (int i = 0; i < 6; ++i) {
+        order << keyTips.highlighted().caption;
+        QTest::keyClick(f.edit, i % 2 ? Qt::Key_Down : Qt::Key_Right);
+    }
+    QCOMPARE(order, (QStringList{"Table", "Chart", "Lines", "Bars", "More", "Table"}));
+    QCOMPARE(keyTips.highlighted().caption, QStringLiteral("Chart"));
+    QTest::keyClick(f.edit, Qt::Key_Up);
+    QTest::keyClick(f.edit, Qt::Key_Left);
+    QCOMPARE(keyTips.highlighted().caption, QStringLiteral("More"));
+    QTest::keyClick(f.edit, Qt::Key_Left);
+    QCOMPARE(keyTips.highlighted().caption, QStringLiteral("Bars"));
+    QTest::keyClick(f.edit, Qt::Key_Return);
+    QCOMPARE(barsTriggered.count(), 1);
+    QVERIFY(!keyTips.isShown());
+    QVERIFY(f.edit->hasFocus());
+
+    // Down opens a menu button's menu.
+    QTest::keyClick(f.edit, Qt::Key_F6);
+    QCOMPARE(keyTips.highlighted().caption, QStringLiteral("INSERT"));
+    QTest::keyClick(f.edit, Qt::Key_Space);
+    QCOMPARE(keyTips.depth(), 2);
+    QTest::keyClick(f.edit, Qt::Key_Left);
+    QCOMPARE(keyTips.highlighted().caption, QStringLiteral("More"));
+    QTest::keyClick(f.edit, Qt::Key_Down);
+    QVERIFY(!keyTips.isShown());
+    auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+    QVERIFY(menu);
+    QCOMPARE(menu->actions().size(), 1);
+    menu->close();
+
+    // F6 again leaves the ribbon.
+    QTest::keyClick(f.edit, Qt::Key_F6);
+    QVERIFY(keyTips.isShown());
+    QTest::keyClick(f.edit, Qt::Key_F6);
+    QVERIFY(!keyTips.isShown());
+    QVERIFY(f.edit->hasFocus());
+}
+
+void tst_Keyboard::accessibleNames()
+{
+    Fixture f;
+    auto *format = new RibbonCatMenuAction(QStringLiteral("&Format"), RibbonCatMenuAction::MenuTypeButton,
+                                           RibbonCatMenuAction::MenuSizeMedium, RibbonCatMenuAction::PopupMenu,
+                                           f.window.get());
+    format->setStatusTip(QStringLiteral("Formats the text."));
+    auto *painter = f.command(QStringLiteral("Format Painter"), RibbonCatSimpleAction::SizeSmall);
+    format->addAction(painter, true);
+    f.clipboard->addAction(format, -1);
+    f.window->ribbonStatusBar().addAction(new RibbonPercAction(10, 400, 100, f.window.get()));
+    QVERIFY(f.show(true));
+
+    RibbonCategory *clipboard = f.wrapper(f.home, f.clipboard)->category();
+    const QList<QPair<QWidget *, QString>> expected = {
+        {f.bar().mainMenuButton(), QStringLiteral("File")},
+        {f.wrapper(f.home, f.styles), QStringLiteral("Styles")},
+        {clipboard->widget(format), QStringLiteral("Format")},
+        {f.window->findChild<QWidget *>(QStringLiteral("sysMenuButton")), QStringLiteral("System menu")},
+        {f.window->findChild<QWidget *>(QStringLiteral("minimizeButton")), QStringLiteral("Minimize")},
+        {f.window->findChild<QWidget *>(QStringLiteral("maximizeButton")), QStringLiteral("Maximize")},
+        {f.window->findChild<QWidget *>(QStringLiteral("closeButton")), QStringLiteral("Close")},
+        {f.window->findChild<QWidget *>(QStringLiteral("backstageBackButton")), QStringLiteral("Back")},
+        {f.window->findChild<RibbonPercWidget *>(), QStringLiteral("Zoom")},
+        {f.bar().collapseRibbonAction()->associatedWidgets().value(0), QStringLiteral("Collapse the Ribbon")},
+    };
+    for (const auto &entry : expected) {
+        QVERIFY(entry.first);
+        QAccessibleInterface *iface = QAccessible::queryAccessibleInterface(entry.first);
+        QVERIFY(iface);
+        QCOMPARE(iface->text(QAccessible::Name), entry.second);
+    }
+    QCOMPARE(QAccessible::queryAccessibleInterface(clipboard->widget(format))->text(QAccessible::Description),
+             QStringLiteral("Formats the text."));
+
+    // Names follow the window's state and the category's caption.
+    f.window->showMaximized();
+    QTRY_COMPARE(f.window->findChild<QWidget *>(QStringLiteral("maximizeButton"))->accessibleName(),
+                 QStringLiteral("Restore"));
+    f.styles->setText(QStringLiteral("&Quick Styles"));
+    QCOMPARE(f.wrapper(f.home, f.styles)->accessibleName(), QStringLiteral("Quick Styles"));
+}
+
+void tst_Keyboard::backstageByKeyboard()
+{
+    Fixture f;
+    auto *info = new QLineEdit;
+    auto *recent = new QLineEdit;
+    f.window->backstageView().addItem(QStringLiteral("Info"), info);
+    f.window->backstageView().addItem(QStringLiteral("Recent"), recent);
+    QVERIFY(f.show());
+    f.window->setActiveView(RibbonMainWindow::BackstagePanel);
+    QWidget *back = f.window->findChild<QWidget *>(QStringLiteral("backstageBackButton"));
+    auto *list = f.window->findChild<QListWidget *>(QStringLiteral("backstageNavigationList"));
+    back->setFocus(Qt::TabFocusReason);
+    QVERIFY(back->hasFocus());
+
+    // Tab goes from the back button to the navigation column, the arrows to the panes.
+    QTest::keyClick(back, Qt::Key_Tab);
+    QVERIFY(list->hasFocus());
+    QCOMPARE(list->currentRow(), 0);
+    QTest::keyClick(list, Qt::Key_Down);
+    QCOMPARE(list->currentRow(), 1);
+    QTRY_VERIFY(recent->isVisible());
+    QVERIFY(!info->isVisible());
+}
+
+void tst_Keyboard::screenTip_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("toolTip");
+    QTest::addColumn<QString>("statusTip");
+    QTest::addColumn<QString>("whatsThis");
+    QTest::addColumn<QString>("reason");
+    QTest::addColumn<bool>("enabled");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("no description: the plain tip") << "&Bold" << "" << "" << "" << "" << true << "Bold";
+    QTest::newRow("no description: the host's tip") << "Bold" << "Make it bold" << "" << "" << "" << true
+                                                    << "Make it bold";
+    QTest::newRow("a reason while enabled is no description") << "Bold" << "" << "" << "" << "No text" << true
+                                                                << "Bold";
+    QTest::newRow("status tip") << "&Bold" << "" << "Makes the text bold." << "" << "" << true
+                                << "<p style='white-space:pre'><b>Bold</b> (Ctrl+F5)</p><p>Makes the text bold.</p>";
+    QTest::newRow("what's this when no status tip") << "Bold" << "" << "" << "Bold <i>text</i>" << "" << true
+                                                     << "<p style='white-space:pre'><b>Bold</b> (Ctrl+F5)</p>"
+                                                        "<p>Bold <i>text</i></p>";
+    QTest::newRow("escaped") << "Save && <Close>" << "" << "a < b" << "" << "" << true
+                             << "<p style='white-space:pre'><b>Save &amp; &lt;Close&gt;</b> (Ctrl+F5)</p>"
+                                "<p>a &lt; b</p>";
+    QTest::newRow("disabled with a reason") << "Bold" << "" << "" << "" << "Select some text first." << false
+                                            << "<p style='white-space:pre'><b>Bold</b> (Ctrl+F5)</p>"
+                                               "<p><i>Select some text first.</i></p>";
+    QTest::newRow("disabled with reason and description") << "Bold" << "" << "Bolder." << "" << "None selected."
+                                                          << false
+                                                          << "<p style='white-space:pre'><b>Bold</b> (Ctrl+F5)</p>"
+                                                             "<p>Bolder.</p><p><i>None selected.</i></p>";
+}
+
+void tst_Keyboard::screenTip()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, toolTip);
+    QFETCH(QString, statusTip);
+    QFETCH(QString, whatsThis);
+    QFETCH(QString, reason);
+    QFETCH(bool, enabled);
+    QFETCH(QString, expected);
+    QAction action(text, nullptr);
+    action.setShortcut(kShortcut);
+    action.setToolTip(toolTip);
+    action.setStatusTip(statusTip);
+    action.setWhatsThis(whatsThis);
+    if (!reason.isEmpty())
+        action.setProperty("disabledReason", reason);
+    action.setEnabled(enabled);
+    QCOMPARE(ribbonScreenTip(&action), expected);
+    QCOMPARE(ribbonScreenTip(nullptr), QString());
+}
+
+void tst_Keyboard::screenTipOnControls()
+{
+    Fixture f;
+    auto *paste = f.clipboard->actions().first();
+    auto *strip = new RibbonCatActionGroup(f.window.get());
+    auto *bold = f.command(QStringLiteral("Bold"), RibbonCatSimpleAction::SizeSmall);
+    strip->addAction(f.command(QStringLiteral("Italic"), RibbonCatSimpleAction::SizeSmall), false);
+    strip->addAction(bold, false);
+    f.clipboard->addAction(strip, 0);
+    QVERIFY(f.show());
+    RibbonCategory *category = f.wrapper(f.home, f.clipboard)->category();
+    QWidget *pasteButton = category->widget(paste);
+    auto *stripWidget = qobject_cast<RibbonCatActionGroupWidget *>(category->widget(strip));
+    QVERIFY(pasteButton && stripWidget);
+
+    QCOMPARE(pasteButton->toolTip(), QStringLiteral("Paste"));
+    paste->setStatusTip(QStringLiteral("Adds what was copied."));
+    QVERIFY(pasteButton->toolTip().contains(QLatin1String("<b>Paste</b>")));
+    QVERIFY(pasteButton->toolTip().contains(QLatin1String("Adds what was copied.")));
+    paste->setProperty("disabledReason", QStringLiteral("The clipboard is empty."));
+    paste->setEnabled(false);
+    QVERIFY(pasteButton->toolTip().contains(QLatin1String("The clipboard is empty.")));
+
+    // A strip shows the tip of the member under the mouse.
+    bold->setStatusTip(QStringLiteral("Makes the text bold."));
+    QTest::mouseMove(stripWidget, stripWidget->cellRect(1).center());
+    QCOMPARE(stripWidget->toolTip(), ribbonScreenTip(bold));
+    QTest::mouseMove(stripWidget, stripWidget->cellRect(0).center());
+    QCOMPARE(stripWidget->toolTip(), QStringLiteral("Italic"));
 }
 
 ZEL_TEST_MAIN(tst_Keyboard)

@@ -10,6 +10,7 @@
 #include "RibbonCatMenuButton.h"
 #include "RibbonImageRows_p.h"
 #include "RibbonPaint_p.h"
+#include "RibbonScreenTip_p.h"
 #include "RibbonStyle.h"
 
 #include <QActionEvent>
@@ -189,7 +190,7 @@ void RibbonCatActionGroupWidget::mouseMoveEvent(QMouseEvent *event)
     QWidget::mouseMoveEvent(event);
     const int index = cellAt(event->pos());
     if (index >= 0)
-        setToolTip(group()->actions().at(index)->toolTip());
+        setToolTip(ribbonScreenTip(group()->actions().at(index)));
     update();
 }
 

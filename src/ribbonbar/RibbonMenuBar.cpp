@@ -133,6 +133,7 @@ RibbonMenuBar::RibbonMenuBar(RibbonMainWindow &window)
 
     d->mainButton = new RibbonButtonMain(*this);
     d->mainButton->setText(QCoreApplication::translate("RibbonMenuBar", "File").toUpper());
+    d->mainButton->setAccessibleName(QCoreApplication::translate("RibbonMenuBar", "File"));
     d->tabStrip->addWidget(d->mainButton);
     d->mainButton->hide(); // until the first tab arrives
 

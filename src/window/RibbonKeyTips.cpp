@@ -146,6 +146,7 @@ QList<RibbonKeyTip> tabKeyTips(RibbonMenuBar &bar, RibbonCategoriesPanelAction *
         tip.caption = category->text();
         tip.widget = wrapper;
         tip.below = true;
+        tip.dropDown = true;
         tip.activate = [folded] {
             if (folded)
                 folded->setMyChecked(true);
@@ -197,6 +198,12 @@ protected:
             painter.drawRoundedRect(badge, 2, 2);
             painter.setPen(enabled ? style.normalCategoryTextColor() : style.disabledCategoryTextColor());
             painter.drawText(rects.at(i), Qt::AlignCenter, tips.at(i).keys);
+        }
+        const QRect highlight = m_keyTips.highlightRect(window());
+        if (!highlight.isNull()) {
+            painter.setPen(style.frameBorderColor());
+            painter.setBrush(Qt::NoBrush);
+            painter.drawRect(QRectF(highlight).adjusted(0.5, 0.5, -0.5, -0.5));
         }
     }
 
@@ -305,6 +312,7 @@ QList<RibbonKeyTip> categoryKeyTips(RibbonCategory *category)
         tip.caption = action->text();
         tip.widget = control;
         tip.below = control->height() > kTallControl;
+        tip.dropDown = IRibbonGroupWidget::groupWidget(control) != nullptr;
         tip.activate = activation(control, action);
         tips.append(tip);
     }
@@ -385,6 +393,53 @@ QVector<QRect> RibbonKeyTips::badgeRects(const QWidget *window) const
         rects[i] = badge;
     }
     return rects;
+}
+
+RibbonKeyTip RibbonKeyTips::highlighted() const
+{
+    if (m_levels.isEmpty())
+        return RibbonKeyTip();
+    const Level &level = m_levels.last();
+    const RibbonKeyTip tip = level.tips.value(level.highlighted);
+    return tip.widget && tip.widget->isVisible() ? tip : RibbonKeyTip();
+}
+
+QRect RibbonKeyTips::highlightRect(const QWidget *window) const
+{
+    const RibbonKeyTip tip = highlighted();
+    if (!tip.widget || tip.widget->window() != window)
+        return QRect();
+    const QRect local = tip.rect.isNull() ? tip.widget->rect() : tip.rect;
+    return local.translated(tip.widget->mapTo(window, QPoint(0, 0)));
+}
+
+void RibbonKeyTips::move(int step)
+{
+    Level &level = m_levels.last();
+    m_typed.clear();
+    const int count = level.tips.size();
+    for (int tries = 0, at = level.highlighted; tries < count; ++tries) {
+        // From no highlight, forwards starts at the first badge and backwards at the last.
+        at = at < 0 ? (step > 0 ? 0 : count - 1) : (at + step + count) % count;
+        const RibbonKeyTip &tip = level.tips.at(at);
+        if (tip.widget && tip.widget->isVisible()) {
+            level.highlighted = at;
+            break;
+        }
+    }
+    refresh();
+}
+
+void RibbonKeyTips::enterHighlighted()
+{
+    const RibbonKeyTip tip = highlighted();
+    if (!tip.widget)
+        return;
+    const int depth = m_levels.size();
+    enter(tip);
+    // A level entered from the keyboard goes on with the keyboard.
+    if (m_levels.size() > depth)
+        move(1);
 }
 
 QList<RibbonKeyTip> RibbonKeyTips::topLevel() const
@@ -592,6 +647,20 @@ bool RibbonKeyTips::filterKey(QWidget *receiver, QKeyEvent *event)
             show();
             return true;
         }
+        if (key == Qt::Key_F6 && modifiers == Qt::NoModifier) {
+            // Into the ribbon, on the current tab.
+            show();
+            if (isShown()) {
+                Level &top = m_levels.last();
+                for (int i = 0; i < top.tips.size(); ++i) {
+                    auto *button = qobject_cast<RibbonMenuBarButton *>(top.tips.at(i).widget);
+                    if (button && button->isChecked())
+                        top.highlighted = i;
+                }
+                refresh();
+            }
+            return true;
+        }
         // Alt with a tab's letter goes straight to the tab (a host's own Alt shortcuts
         // have had their turn before the key reaches here).
         const bool letter = (key >= Qt::Key_A && key <= Qt::Key_Z) || (key >= Qt::Key_0 && key <= Qt::Key_9);
@@ -622,6 +691,31 @@ bool RibbonKeyTips::filterKey(QWidget *receiver, QKeyEvent *event)
     case Qt::Key_Backspace:
         m_typed.chop(1);
         refresh();
+        return true;
+    case Qt::Key_Left:
+    case Qt::Key_Up:
+    case Qt::Key_Backtab:
+        move(-1);
+        return true;
+    case Qt::Key_Down: {
+        const RibbonKeyTip tip = highlighted();
+        if (tip.dropDown || (tip.open && m_levels.size() == 1))
+            enterHighlighted();
+        else
+            move(1);
+        return true;
+    }
+    case Qt::Key_Right:
+    case Qt::Key_Tab:
+        move(1);
+        return true;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Space:
+        enterHighlighted();
+        return true;
+    case Qt::Key_F6:
+        hide();
         return true;
     default:
         break;

@@ -9,6 +9,11 @@
 // (a menu button opens its menu) and the badges go. Escape steps back one level; a
 // mouse click, Alt or F10 again, or the window losing the focus hides them.
 //
+// While they are shown (F6 shows them with the current tab highlighted), the arrow
+// keys move a highlight over the badges of the level in reading order, Enter or Space
+// activates the highlighted one and Down opens a tab or a drop-down. The keyboard focus
+// stays with the widget that had it, so Escape leaves the user where they were.
+//
 // The letters come from the host when it gives them (the "keyTip" property of an
 // action, or the mnemonic "&" of its text); the others are chosen per level, unique
 // and such that no tip's letters begin another's.
@@ -42,6 +47,7 @@ struct RibbonKeyTip
     QPointer<QWidget> widget; // the control the badge labels
     QRect rect;      // the part of widget it labels (a cell of a strip); null for all of it
     bool below = false; // centred on the target's lower edge (tabs, title row, tall controls)
+    bool dropDown = false; // opens a menu or popup: Down activates it
     std::function<void()> activate;
     // For a target that leads to a level of its own (a tab, a folded category): builds
     // that level once activate() has run; empty for a command.
@@ -78,6 +84,10 @@ public:
     // Where the badges of those tips stand in the top-level widget window, in its
     // coordinates, in the order of tips().
     QVector<QRect> badgeRects(const QWidget *window) const;
+    // The tip the arrow keys have highlighted; one without a widget when none.
+    RibbonKeyTip highlighted() const;
+    // Where the highlighted control stands in window, null when elsewhere or none.
+    QRect highlightRect(const QWidget *window) const;
 
 public slots:
     void show();
@@ -91,11 +101,14 @@ private:
     {
         QList<RibbonKeyTip> tips;
         std::function<void()> close;
+        int highlighted = -1; // index into tips
     };
 
     bool filterKey(QWidget *receiver, QKeyEvent *event);
     bool type(QChar letter);
     void back();
+    void move(int step);
+    void enterHighlighted();
     void enter(const RibbonKeyTip &tip);
     void refresh();
     QList<RibbonKeyTip> topLevel() const;
