@@ -94,26 +94,29 @@ void RibbonCommandShortcuts::onMemberRemoved()
 void RibbonCommandShortcuts::sync()
 {
     m_syncPending = false;
-    QSet<QAction *> wanted;
     QSet<QObject *> containers;
+    QSet<const QObject *> tabs;
     for (const QPointer<QAction> &guarded : qAsConst(m_tabs)) {
         auto *tab = qobject_cast<RibbonCategoriesPanelAction *>(guarded);
         if (!tab)
             continue;
+        tabs.insert(tab);
         containers.insert(tab);
+        QSet<QAction *> wanted;
         for (RibbonCategoryAction *category : tab->categories()) {
             containers.insert(category);
             collectCommands(*category, wanted, containers);
         }
+        carry(tab, wanted);
     }
-
-    const QList<QAction *> carried = actions();
-    for (QAction *action : carried) {
-        if (!wanted.remove(action))
-            removeAction(action);
+    for (auto it = m_carriers.begin(); it != m_carriers.end();) {
+        if (!tabs.contains(it.key())) {
+            delete it.value(); // and with it the shortcuts it carried
+            it = m_carriers.erase(it);
+        } else {
+            ++it;
+        }
     }
-    for (QAction *action : qAsConst(wanted))
-        addAction(action);
 
     for (auto it = m_watched.begin(); it != m_watched.end();) {
         if (!it.value() || !containers.contains(it.value())) {
@@ -126,6 +129,23 @@ void RibbonCommandShortcuts::sync()
     }
     for (QObject *container : qAsConst(containers))
         watch(container);
+}
+
+void RibbonCommandShortcuts::carry(const QObject *tab, QSet<QAction *> &commands)
+{
+    QPointer<QWidget> &carrier = m_carriers[tab];
+    if (!carrier) {
+        carrier = new QWidget(this);
+        carrier->setGeometry(0, 0, 0, 0);
+        carrier->show();
+    }
+    const QList<QAction *> carried = carrier->actions();
+    for (QAction *action : carried) {
+        if (!commands.remove(action))
+            carrier->removeAction(action);
+    }
+    for (QAction *action : qAsConst(commands))
+        carrier->addAction(action);
 }
 
 void RibbonCommandShortcuts::watch(QObject *container)
