@@ -719,6 +719,12 @@ void tst_Keyboard::accessibleNames()
     auto *painter = f.command(QStringLiteral("Format Painter"), RibbonCatSimpleAction::SizeSmall);
     format->addAction(painter, true);
     f.clipboard->addAction(format, -1);
+    auto *strip = new RibbonCatActionGroup(f.window.get());
+    auto *bold = f.command(QStringLiteral("&Bold"), RibbonCatSimpleAction::SizeSmall);
+    bold->setCheckable(true);
+    strip->addAction(f.command(QStringLiteral("Italic"), RibbonCatSimpleAction::SizeSmall), false);
+    strip->addAction(bold, false);
+    f.clipboard->addAction(strip, 0);
     f.window->ribbonStatusBar().addAction(new RibbonPercAction(10, 400, 100, f.window.get()));
     QVERIFY(f.show(true));
 
@@ -743,6 +749,24 @@ void tst_Keyboard::accessibleNames()
     }
     QCOMPARE(QAccessible::queryAccessibleInterface(clipboard->widget(format))->text(QAccessible::Description),
              QStringLiteral("Formats the text."));
+
+    // The members of a button group are buttons of a tool bar.
+    QAccessibleInterface *stripInterface = QAccessible::queryAccessibleInterface(clipboard->widget(strip));
+    QCOMPARE(stripInterface->role(), QAccessible::ToolBar);
+    QCOMPARE(stripInterface->childCount(), 2);
+    QAccessibleInterface *cell = stripInterface->child(1);
+    QVERIFY(cell && cell->isValid());
+    QCOMPARE(cell->text(QAccessible::Name), QStringLiteral("Bold"));
+    QCOMPARE(cell->role(), QAccessible::CheckBox);
+    QCOMPARE(cell->parent(), stripInterface);
+    QCOMPARE(stripInterface->indexOfChild(cell), 1);
+    QCOMPARE(stripInterface->childAt(cell->rect().center().x(), cell->rect().center().y()), cell);
+    QCOMPARE(stripInterface->child(0)->role(), QAccessible::Button);
+    QVERIFY(!cell->state().checked);
+    cell->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QVERIFY(bold->isChecked());
+    QVERIFY(cell->state().checked);
+    QVERIFY(!stripInterface->child(2));
 
     // Names follow the window's state and the category's caption.
     f.window->showMaximized();
