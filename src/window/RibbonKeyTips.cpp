@@ -164,6 +164,23 @@ QList<RibbonKeyTip> tabKeyTips(RibbonMenuBar &bar, RibbonCategoriesPanelAction *
     return tips;
 }
 
+// The badge of a button of the tab row or the title row, centred under it; typing its
+// letters clicks it.
+RibbonKeyTip titleRowTip(QAbstractButton *button, const QString &wanted, const QString &caption)
+{
+    QPointer<QAbstractButton> guard(button);
+    RibbonKeyTip tip;
+    tip.wanted = wanted;
+    tip.caption = caption;
+    tip.widget = button;
+    tip.below = true;
+    tip.activate = [guard] {
+        if (guard)
+            guard->click();
+    };
+    return tip;
+}
+
 // Paints the badges that stand in one top-level window, above its widgets.
 class KeyTipOverlay : public QWidget
 {
@@ -447,19 +464,8 @@ QList<RibbonKeyTip> RibbonKeyTips::topLevel() const
     QList<RibbonKeyTip> tips;
     RibbonMenuBar &bar = m_window.ribbonMenuBar();
 
-    if (RibbonButtonMain *file = bar.mainMenuButton()) {
-        QPointer<RibbonButtonMain> guard(file);
-        RibbonKeyTip tip;
-        tip.wanted = QStringLiteral("F");
-        tip.caption = file->text();
-        tip.widget = file;
-        tip.below = true;
-        tip.activate = [guard] {
-            if (guard)
-                guard->click();
-        };
-        tips.append(tip);
-    }
+    if (RibbonButtonMain *file = bar.mainMenuButton())
+        tips.append(titleRowTip(file, QStringLiteral("F"), file->text()));
 
     for (QAction *action : bar.actions()) {
         auto *tab = qobject_cast<RibbonCategoriesPanelAction *>(action);
@@ -469,11 +475,7 @@ QList<RibbonKeyTip> RibbonKeyTips::topLevel() const
         QPointer<RibbonMenuBarButton> guard(button);
         QPointer<RibbonCategoriesPanelAction> guardedTab(tab);
         RibbonMenuBar *barPtr = &bar;
-        RibbonKeyTip tip;
-        tip.wanted = wantedKeyTip(tab);
-        tip.caption = tab->text();
-        tip.widget = button;
-        tip.below = true;
+        RibbonKeyTip tip = titleRowTip(button, wantedKeyTip(tab), tab->text());
         // What a single click does, in a pinned and in a minimised ribbon alike.
         tip.activate = [guard] {
             if (guard)
@@ -493,19 +495,10 @@ QList<RibbonKeyTip> RibbonKeyTips::topLevel() const
         if (!command || !quickAccess.actions().contains(command))
             continue;
         ++number;
-        QPointer<QAbstractButton> guard(button);
-        RibbonKeyTip tip;
-        tip.wanted = wantedKeyTip(command);
-        if (tip.wanted.isEmpty() && number <= 9)
-            tip.wanted = QString::number(number);
-        tip.caption = command->text();
-        tip.widget = button;
-        tip.below = true;
-        tip.activate = [guard] {
-            if (guard)
-                guard->click();
-        };
-        tips.append(tip);
+        QString wanted = wantedKeyTip(command);
+        if (wanted.isEmpty() && number <= 9)
+            wanted = QString::number(number);
+        tips.append(titleRowTip(button, wanted, command->text()));
     }
     return tips;
 }
