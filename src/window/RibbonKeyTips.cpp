@@ -351,6 +351,9 @@ RibbonKeyTips::RibbonKeyTips(RibbonMainWindow &window)
 RibbonKeyTips::~RibbonKeyTips()
 {
     qApp->removeEventFilter(this);
+    // An overlay on a popup may outlive this object by a moment; it reads the badges here.
+    for (const QPointer<QWidget> &overlay : qAsConst(m_overlays))
+        delete overlay.data();
 }
 
 bool RibbonKeyTips::isShown() const
