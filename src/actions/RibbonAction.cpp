@@ -5,6 +5,7 @@
 #include "RibbonCategoriesPanelAction.h"
 #include "RibbonCategoryAction.h"
 #include "RibbonContextCategoryPanelAction.h"
+#include "RibbonMembers_p.h"
 
 #include <QActionEvent>
 #include <QCoreApplication>
@@ -132,10 +133,11 @@ void RibbonAction::connectWithAlieas()
     if (!alias)
         return;
     // Unique: setting the same alias again must not make one trigger run the host's
-    // handlers twice.
-    connect(this, SIGNAL(changed()), alias, SIGNAL(changed()), Qt::UniqueConnection);
+    // handlers twice. A change reaches the alias through announceChangeOnAlias(), a
+    // toggle through onToogled(), which announces it on the alias when the alias cannot
+    // follow it; both read the alias when they run.
+    connect(this, SIGNAL(changed()), this, SLOT(announceChangeOnAlias()), Qt::UniqueConnection);
     connect(this, SIGNAL(hovered()), alias, SIGNAL(hovered()), Qt::UniqueConnection);
-    connect(this, SIGNAL(toggled(bool)), alias, SIGNAL(toggled(bool)), Qt::UniqueConnection);
     connect(this, SIGNAL(triggered()), alias, SIGNAL(triggered()), Qt::UniqueConnection);
     connect(this, SIGNAL(toggled(bool)), this, SLOT(onToogled(bool)), Qt::UniqueConnection);
     connect(alias, SIGNAL(toggled(bool)), this, SLOT(onAliasToogled(bool)), Qt::UniqueConnection);
@@ -146,12 +148,34 @@ void RibbonAction::disconnectFromAlias(QAction *alias)
 {
     if (!alias)
         return;
-    disconnect(this, nullptr, alias, nullptr);
-    disconnect(alias, nullptr, this, nullptr);
+    // Only the alias connections: the alias may also be a container of this action, or a
+    // member of it, with connections of its own between the two.
+    disconnect(this, SIGNAL(hovered()), alias, SIGNAL(hovered()));
+    disconnect(this, SIGNAL(triggered()), alias, SIGNAL(triggered()));
+    disconnect(alias, SIGNAL(toggled(bool)), this, SLOT(onAliasToogled(bool)));
+    disconnect(alias, SIGNAL(changed()), this, SLOT(aliasChanged()));
+}
+
+bool RibbonAction::aliasLeadsBack(const QAction *alias) const
+{
+    // Aliases never form a circle (this refuses the one that would close it), so the
+    // chain ends; the count only bounds the walk.
+    const QAction *next = alias;
+    for (int steps = 0; next && steps < 10000; ++steps) {
+        if (next == this)
+            return true;
+        const auto *ribbonAlias = qobject_cast<const RibbonAction *>(next);
+        next = ribbonAlias ? ribbonAlias->m_alias.data() : nullptr;
+    }
+    return next != nullptr;
 }
 
 void RibbonAction::setAliasAction(QPointer<QAction> alias)
 {
+    // An action standing for itself, directly or through other ribbon actions, would
+    // pass every change and trigger round the circle without end.
+    if (aliasLeadsBack(alias.data()))
+        return;
     if (m_alias != alias) {
         // A replaced alias must stop receiving this action's triggers and changes.
         disconnectFromAlias(m_alias.data());
@@ -212,18 +236,42 @@ void RibbonAction::aliasChanged()
         setEnabled(alias->isEnabled());
 }
 
+void RibbonAction::announceChangeOnAlias()
+{
+    QAction *alias = m_alias.data();
+    // Once per change: the alias may hold this action, or relay to something that does
+    // (a button group standing for a command of a group it holds), and then the change
+    // comes back round to this action while the alias announces it; several actions
+    // may also stand for one alias.
+    if (!alias)
+        return;
+    RibbonMembers::relayOnce(alias, [alias] { emit alias->changed(); });
+}
+
 void RibbonAction::onToogled(bool isToogled)
 {
-    if (m_alias && m_alias->isCheckable())
-        m_alias->setChecked(isToogled);
+    QAction *alias = m_alias.data();
+    // A toggle announced after the state has moved on (a receiver of the change set it
+    // back, as the minimised ribbon does with a tab it keeps closed) is stale: passed
+    // on, it would set the alias, and through the alias this action, to a state both
+    // have left.
+    if (!alias || isToogled != isChecked())
+        return;
+    if (alias->isCheckable())
+        alias->setChecked(isToogled); // the alias announces its own toggle
+    else
+        emit alias->toggled(isToogled);
 }
 
 void RibbonAction::onAliasToogled(bool isToogled)
 {
-    // setChecked() with the current state emits nothing, so the pair of slots stops
-    // after one round.
-    if (isCheckable())
-        setChecked(isToogled);
+    QAction *alias = m_alias.data();
+    // Only a current toggle of the alias's own state is followed: not a stale one, and
+    // not the announcement the alias makes for this action. setChecked() with the
+    // current state emits nothing, so the pair of slots stops after one round.
+    if (!isCheckable() || !alias || !alias->isCheckable() || alias->isChecked() != isToogled)
+        return;
+    setChecked(isToogled);
 }
 
 void RibbonAction::sendActionChangedEvt()

@@ -52,6 +52,9 @@ protected slots:
     void onToogled(bool isToogled);
     void onAliasToogled(bool isToogled);
 
+private slots:
+    void announceChangeOnAlias();
+
 protected:
     // Sends an ActionChanged event synchronously to every associated widget and then
     // to the action itself, for state QAction does not know about.
@@ -66,6 +69,8 @@ private:
     void disconnectFromAlias(QAction *alias);
     void connectToListener();
     bool isForbidden() const;
+    // Whether alias is this action or stands for it, directly or through other aliases.
+    bool aliasLeadsBack(const QAction *alias) const;
 
     QPointer<QAction> m_alias;
     bool m_syncing = false;

@@ -19,7 +19,7 @@ RibbonCatActionGroup::~RibbonCatActionGroup() = default;
 
 void RibbonCatActionGroup::addAction(RibbonAction *action, bool wide)
 {
-    if (!action || m_actions.contains(action))
+    if (!action || m_actions.contains(action) || RibbonMembers::closesCycle(this, action))
         return;
     m_actions.append(action);
     if (m_exclusive && action->isCheckable() && action->isChecked()) {
@@ -90,8 +90,10 @@ void RibbonCatActionGroup::actionChanged()
         if (previous && previous->isChecked())
             previous->setChecked(false);
     }
-    sendActionChangedEvt();
-    emit changed();
+    RibbonMembers::relayOnce(this, [this] {
+        sendActionChangedEvt();
+        emit changed();
+    });
 }
 
 void RibbonCatActionGroup::actionActivated()

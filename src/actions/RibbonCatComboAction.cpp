@@ -113,7 +113,10 @@ int RibbonCatComboAction::width() const
 
 void RibbonCatComboAction::setWidth(int width)
 {
-    m_width = width;
+    // A negative width has no meaning for a box; it is refused rather than handed to
+    // the widgets, which could only warn about it.
+    if (width >= 0)
+        m_width = width;
 }
 
 int RibbonCatComboAction::iconWidth() const
@@ -123,7 +126,8 @@ int RibbonCatComboAction::iconWidth() const
 
 void RibbonCatComboAction::setIconWidth(int width)
 {
-    m_iconWidth = width;
+    if (width >= 0)
+        m_iconWidth = width;
 }
 
 QString RibbonCatComboAction::comboInputMask() const

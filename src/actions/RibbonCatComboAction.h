@@ -39,9 +39,10 @@ public:
     bool isSearchable() const;
     void setSearchable(bool searchable);
 
-    // Fixed width of the combo box, in pixels.
+    // Fixed width of the combo box, in pixels; a negative width is ignored.
     int width() const;
     void setWidth(int width);
+    // Width of the item icons, in pixels; a negative width is ignored.
     int iconWidth() const;
     void setIconWidth(int width);
 

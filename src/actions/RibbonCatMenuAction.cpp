@@ -154,14 +154,12 @@ QList<RibbonSimpleAction *> RibbonCatMenuAction::bottomActions() const
 
 void RibbonCatMenuAction::fillMenu(QMenu &menu)
 {
-    QList<const RibbonMenuAction *> path{this};
-    fillItems(menu, menuActions(), path);
+    fillItems(menu, menuActions());
 }
 
 void RibbonCatMenuAction::fillMenu(QMenu &menu, QPointer<RibbonMenuAction> sub)
 {
-    QList<const RibbonMenuAction *> path;
-    fillSubMenu(menu, sub.data(), path);
+    fillSubMenu(menu, sub.data());
 }
 
 RibbonViewPopup *RibbonCatMenuAction::fillMenu()
@@ -169,31 +167,36 @@ RibbonViewPopup *RibbonCatMenuAction::fillMenu()
     return new RibbonViewPopup(topActions(), bottomActions(), iconActionGroup(), this);
 }
 
-void RibbonCatMenuAction::fillItems(QMenu &menu, const QList<RibbonAction *> &items,
-                                   QList<const RibbonMenuAction *> &path)
+// Menus never hold themselves, not even further down (they refuse such an item), so
+// the submenus end.
+void RibbonCatMenuAction::fillItems(QMenu &menu, const QList<RibbonAction *> &items)
 {
     for (RibbonAction *item : items) {
         if (RibbonSimpleAction *simple = qobject_cast<RibbonSimpleAction *>(item))
             menu.addAction(simple);
         else if (RibbonMenuAction *sub = qobject_cast<RibbonMenuAction *>(item))
-            fillSubMenu(menu, sub, path);
+            fillSubMenu(menu, sub);
     }
 }
 
-void RibbonCatMenuAction::fillSubMenu(QMenu &menu, RibbonMenuAction *sub,
-                                     QList<const RibbonMenuAction *> &path)
+void RibbonCatMenuAction::fillSubMenu(QMenu &menu, RibbonMenuAction *sub)
 {
-    // A menu that contains itself, directly or further down, is shown once.
-    if (!sub || path.contains(sub))
+    if (!sub)
         return;
     QMenu *subMenu = menu.addMenu(sub->icon(), sub->text());
-    path.append(sub);
-    fillItems(*subMenu, sub->menuActions(), path);
-    path.removeLast();
+    fillItems(*subMenu, sub->menuActions());
 }
 
 void RibbonCatMenuAction::actionChanged()
 {
+    // As for the items: the menu's announcements of item changes push nothing (a popup
+    // command that is also an item, has an alias or belongs to another menu would have
+    // its state pushed back), and neither does a change caused by the push itself.
+    if (isEmittingChange() || m_pushingEnabled)
+        return;
+    QPointer<RibbonCatMenuAction> self(this);
+    m_pushingEnabled = true;
+
     // Guarded copies: a receiver of an action's changed() may destroy another one.
     QList<QPointer<QAction>> top, bottom;
     for (RibbonSimpleAction *action : qAsConst(m_topActions))
@@ -203,15 +206,17 @@ void RibbonCatMenuAction::actionChanged()
 
     const bool enabled = isEnabled();
     for (const QPointer<QAction> &action : qAsConst(top)) {
-        if (action)
+        if (action && self)
             action->setEnabled(enabled);
     }
-    if (m_iconActionGroup)
+    if (self && m_iconActionGroup)
         m_iconActionGroup->setEnabled(enabled);
     for (const QPointer<QAction> &action : qAsConst(bottom)) {
-        if (action)
+        if (action && self)
             action->setEnabled(enabled);
     }
+    if (self)
+        m_pushingEnabled = false;
 }
 
 void RibbonCatMenuAction::forgetListed(QObject *action)

@@ -90,9 +90,8 @@ private slots:
 private:
     void init(eMenuType type, eMenuSize size, ePopupType popup);
     void announceLookChanged();
-    void fillItems(QMenu &menu, const QList<RibbonAction*> &items,
-                   QList<const RibbonMenuAction*> &path);
-    void fillSubMenu(QMenu &menu, RibbonMenuAction *sub, QList<const RibbonMenuAction*> &path);
+    void fillItems(QMenu &menu, const QList<RibbonAction*> &items);
+    void fillSubMenu(QMenu &menu, RibbonMenuAction *sub);
     void forgetListed(QObject *action);
 
     eMenuType m_menuType = MenuTypeButton;
@@ -104,6 +103,8 @@ private:
     int m_menuMarkerOffset = 0;
     int m_listPreviewVisibleIconsCount = 4;
     bool m_drawCheckedMarker = true;
+    // Set while the menu's enabled state goes to its popup commands.
+    bool m_pushingEnabled = false;
 };
 
 } // namespace zel

@@ -30,7 +30,8 @@ void RibbonCategoriesPanelAction::addCategory(RibbonCategoryAction *category)
 {
     // An empty category would make an empty box in the tab; the host adds its
     // commands first.
-    if (!category || m_categories.contains(category) || category->actions().isEmpty())
+    if (!category || m_categories.contains(category) || category->actions().isEmpty()
+        || RibbonMembers::closesCycle(this, category))
         return;
     m_categories.append(category);
     connect(category, SIGNAL(changed()), this, SLOT(categoryChanged()));
@@ -66,7 +67,7 @@ RibbonCategoryAction *RibbonCategoriesPanelAction::category(const QString &text)
 
 void RibbonCategoriesPanelAction::categoryChanged()
 {
-    emit changed();
+    RibbonMembers::relayOnce(this, [this] { emit changed(); });
 }
 
 void RibbonCategoriesPanelAction::forgetCategory(QObject *category)

@@ -23,7 +23,7 @@ RibbonCategoryAction::~RibbonCategoryAction() = default;
 
 void RibbonCategoryAction::addAction(RibbonAction *action, int row)
 {
-    if (!action || m_actions.contains(action))
+    if (!action || m_actions.contains(action) || RibbonMembers::closesCycle(this, action))
         return;
     m_actions.append(action);
     m_rows.insert(action, row);
@@ -61,7 +61,7 @@ int RibbonCategoryAction::actionRow(RibbonAction *action) const
 
 void RibbonCategoryAction::actionChanged()
 {
-    emit changed();
+    RibbonMembers::relayOnce(this, [this] { emit changed(); });
 }
 
 void RibbonCategoryAction::actionActivated()

@@ -35,7 +35,7 @@ QColor RibbonContextCategoryPanelAction::textColor() const
 
 void RibbonContextCategoryPanelAction::addPanelAction(RibbonCategoriesPanelAction *action)
 {
-    if (!action || m_panelActions.contains(action))
+    if (!action || m_panelActions.contains(action) || RibbonMembers::closesCycle(this, action))
         return;
     m_panelActions.append(action);
     connect(action, &QObject::destroyed, this,

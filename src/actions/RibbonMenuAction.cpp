@@ -57,7 +57,7 @@ void RibbonMenuAction::connectAliasMenu()
 
 void RibbonMenuAction::addAction(RibbonAction *action, bool isDefault)
 {
-    if (!action || m_menuActions.contains(action))
+    if (!action || m_menuActions.contains(action) || RibbonMembers::closesCycle(this, action))
         return;
     m_menuActions.append(action);
     if (isDefault)
@@ -71,7 +71,7 @@ void RibbonMenuAction::addAction(RibbonAction *action, bool isDefault)
 
 void RibbonMenuAction::insertAction(int index, RibbonAction *action)
 {
-    if (!action)
+    if (!action || RibbonMembers::closesCycle(this, action))
         return;
     m_menuActions.removeAll(action);
     m_menuActions.insert(qBound(0, index, m_menuActions.size()), action);
@@ -104,7 +104,7 @@ const QList<RibbonAction *> &RibbonMenuAction::menuActions() const
 
 void RibbonMenuAction::setDefaultAction(RibbonAction *action)
 {
-    if (m_defaultAction == action)
+    if (m_defaultAction == action || RibbonMembers::closesCycle(this, action))
         return;
     m_defaultAction = action;
     if (action)
@@ -188,15 +188,25 @@ void RibbonMenuAction::setShowToggledIndicator(bool show)
 
 void RibbonMenuAction::actionChanged(RibbonMenuAction *menu)
 {
-    if (!menu || m_emittingChange || !m_autoChangeEnable)
+    // Only a change of the menu itself is pushed to its items. Its announcements of item
+    // changes are not: they would push its state back onto the item that just changed,
+    // which an alias, or another menu sharing the item, may have set otherwise. Nor is a
+    // change that this very push causes while it runs: each push settles in one pass.
+    if (!menu || !m_autoChangeEnable || menu->m_emittingChange || m_pushing.contains(menu))
         return;
+    m_pushing.append(menu);
+    QPointer<RibbonMenuAction> self(this), guardedMenu(menu);
     const bool enabled = menu->isEnabled();
-    // Copy: an item's change handler may remove items from the menu.
+    // Copy: an item's change handler may remove items from the menu, or destroy them.
     const QList<RibbonAction *> items = menu->menuActions();
     for (RibbonAction *item : items) {
-        if (menu->menuActions().contains(item))
+        if (!self || !guardedMenu)
+            break;
+        if (guardedMenu->menuActions().contains(item))
             item->setEnabled(enabled);
     }
+    if (self)
+        m_pushing.removeOne(menu);
 }
 
 void RibbonMenuAction::actionChanged(RibbonAction *item)
@@ -213,8 +223,10 @@ void RibbonMenuAction::actionChanged(RibbonAction *item)
             m_checkedItem = nullptr;
         }
     }
-    sendActionChangedEvt();
-    emitChanged();
+    RibbonMembers::relayOnce(this, [this] {
+        sendActionChangedEvt();
+        emitChanged();
+    });
 }
 
 void RibbonMenuAction::actionChanged()
@@ -242,11 +254,21 @@ void RibbonMenuAction::actionTriggered()
     emit triggered(qobject_cast<RibbonAction *>(sender()));
 }
 
+bool RibbonMenuAction::isEmittingChange() const
+{
+    return m_emittingChange;
+}
+
 void RibbonMenuAction::emitChanged()
 {
+    // Nested announcements leave the flag as the outer one needs it; a receiver may
+    // destroy the menu.
+    QPointer<RibbonMenuAction> self(this);
+    const bool outer = m_emittingChange;
     m_emittingChange = true;
     emit changed();
-    m_emittingChange = false;
+    if (self)
+        m_emittingChange = outer;
 }
 
 void RibbonMenuAction::disconnectItem(RibbonAction *action)

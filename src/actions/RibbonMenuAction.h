@@ -62,6 +62,8 @@ protected:
     // Emits changed() as a change of the menu's own look: its enabled state is not
     // pushed to the items for it.
     void emitChanged();
+    // Whether the changed() now being emitted comes from emitChanged().
+    bool isEmittingChange() const;
 
 private slots:
     void actionChanged();
@@ -83,6 +85,8 @@ private:
     bool m_emittingChange = false;
     bool m_autoChangeEnable = false;
     bool m_showToggledIndicator = true;
+    // Menus whose enabled state this menu is pushing to their items right now.
+    QList<const RibbonMenuAction *> m_pushing;
 };
 
 } // namespace zel

@@ -134,6 +134,9 @@ void RibbonQuickAccessBar::actionEvent(QActionEvent *event)
         d->entries.drop(command);
         break;
     case QEvent::ActionAdded: {
+        // The customise command has its own button at the end, and no menu entry.
+        if (command == d->customizeAction)
+            return;
         QWidget *button = makeWidget(buttonMakers, command, this).widget;
         if (!button)
             return;

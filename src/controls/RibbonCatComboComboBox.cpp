@@ -15,6 +15,8 @@ RibbonCatComboComboBox::RibbonCatComboComboBox(RibbonCatComboAction &action, QWi
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     setIconSize(QSize(action.iconWidth(), 22));
     setFixedWidth(action.width());
+    // Entered texts are added by the action (onReturnPressed), at the end as Qt would.
+    setInsertPolicy(QComboBox::NoInsert);
     onEditableChanged();
 
     const QStringList items = action.items();
@@ -26,10 +28,8 @@ RibbonCatComboComboBox::RibbonCatComboComboBox(RibbonCatComboAction &action, QWi
             addItem(icons.at(i), items.at(i));
     }
 
-    connect(this, SIGNAL(currentIndexChanged(const QString &)), &action,
-            SLOT(setSelectionText(const QString &)));
-    connect(this, QOverload<int>::of(&QComboBox::currentIndexChanged), &action,
-            &RibbonCatComboAction::setSelectionIndex);
+    connect(this, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+            &RibbonCatComboComboBox::relaySelection);
     connect(&action, &RibbonCatComboAction::itemAdded, this, &RibbonCatComboComboBox::onItemAdded);
     connect(&action, &RibbonCatComboAction::editableChanged, this, &RibbonCatComboComboBox::onEditableChanged);
     addAction(&action);
@@ -57,13 +57,39 @@ void RibbonCatComboComboBox::onEditableChanged()
             lineEdit()->setInputMask(action->comboInputMask());
         if (action->validator())
             setValidator(action->validator());
+        connect(lineEdit(), &QLineEdit::returnPressed, this, &RibbonCatComboComboBox::onReturnPressed);
     }
 }
 
 void RibbonCatComboComboBox::updateActionSelection(const QString &item)
 {
+    const bool outer = m_showingSelection;
+    m_showingSelection = true;
     setCurrentIndex(findText(item, Qt::MatchCaseSensitive));
     setEditText(item);
+    m_showingSelection = outer;
+}
+
+void RibbonCatComboComboBox::relaySelection(int index)
+{
+    // The user's choice goes to the action; the action's own selection, shown here, does
+    // not go back (should the items ever differ, box and action would correct each
+    // other without end). The text is handed over, not the index, for the same reason.
+    auto *action = qobject_cast<RibbonCatComboAction *>(m_action);
+    if (!action || m_showingSelection || index < 0)
+        return;
+    action->setSelectionText(itemText(index));
+}
+
+void RibbonCatComboComboBox::onReturnPressed()
+{
+    auto *action = qobject_cast<RibbonCatComboAction *>(m_action);
+    const QString text = lineEdit() ? lineEdit()->text() : QString();
+    if (!action || text.isEmpty())
+        return;
+    if (!action->items().contains(text))
+        action->addItem(text);
+    action->setSelectionText(text);
 }
 
 void RibbonCatComboComboBox::keyPressEvent(QKeyEvent *event)

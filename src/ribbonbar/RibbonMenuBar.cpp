@@ -307,6 +307,9 @@ void RibbonMenuBar::replaceCommandAction(QAction *oldAction, RibbonAction *newAc
 
 void RibbonMenuBar::setHelpAction(RibbonAction *action)
 {
+    // The bar's own collapse command has its button already.
+    if (action && action == d->collapseAction)
+        return;
     QPointer<QAction> old = d->helpAction;
     d->helpAction = action;
     replaceCommandAction(old.data(), action);
@@ -319,6 +322,8 @@ RibbonAction *RibbonMenuBar::helpAction() const
 
 void RibbonMenuBar::setFindComboAction(RibbonAction *action)
 {
+    if (action && action == d->collapseAction)
+        return;
     QPointer<QAction> old = d->findComboAction;
     d->findComboAction = action;
     replaceCommandAction(old.data(), action);
@@ -338,6 +343,8 @@ RibbonAction *RibbonMenuBar::findComboAction() const
 
 void RibbonMenuBar::setFindAction(RibbonAction *action)
 {
+    if (action && action == d->collapseAction)
+        return;
     QPointer<QAction> old = d->findAction;
     d->findAction = action;
     if (old && old != action)
