@@ -141,6 +141,7 @@ private slots:
     void shortcutLeavesWithItsPlace_data();
     void shortcutLeavesWithItsPlace();
     void contextualShortcutOnlyWhileShown();
+    void tabDestroyedWhileAlsoACommand();
 
     void assignKeyTips_data();
     void assignKeyTips();
@@ -378,6 +379,24 @@ void pressAlt(QWidget *receiver)
 }
 
 } // namespace
+
+void tst_Keyboard::tabDestroyedWhileAlsoACommand()
+{
+    // Taking a tab out of the bar settles the shortcuts at once, while the tab, also a
+    // command of another tab, is still listed there in the middle of its destruction.
+    Fixture f;
+    auto *nested = new RibbonCategoriesPanelAction(QStringLiteral("Nested"), f.window.get());
+    nested->setShortcut(kShortcut);
+    f.bar().addAction(nested);
+    f.tables->addAction(nested, -1);
+    f.clipboard->addAction(nested, -1);
+    QVERIFY(f.show());
+    QCoreApplication::processEvents();
+    delete nested;
+    QCoreApplication::processEvents();
+    f.press();
+    f.window.reset();
+}
 
 void tst_Keyboard::assignKeyTips_data()
 {

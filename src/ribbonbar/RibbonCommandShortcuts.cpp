@@ -12,23 +12,32 @@ namespace zel {
 
 namespace {
 
+// Adds action unless it is being destroyed: a container lists a dying member until
+// its destroyed() arrives, and a widget given an action in the middle of the action's
+// destruction would keep it after it is gone.
+void insertLive(QSet<QAction *> &commands, RibbonAction *action)
+{
+    if (qobject_cast<RibbonAction *>(static_cast<QObject *>(action)))
+        commands.insert(action);
+}
+
 // The commands a category shows, button-strip members and the default command of a
 // split button included.
 void collectCommands(const RibbonCategoryAction &category, QSet<QAction *> &commands,
                      QSet<QObject *> &containers)
 {
     for (RibbonAction *action : category.actions()) {
-        if (auto *group = qobject_cast<RibbonCatActionGroup *>(action)) {
+        if (auto *group = qobject_cast<RibbonCatActionGroup *>(static_cast<QObject *>(action))) {
             containers.insert(group);
             for (RibbonAction *member : group->actions())
-                commands.insert(member);
+                insertLive(commands, member);
             continue;
         }
-        commands.insert(action);
-        if (auto *menu = qobject_cast<RibbonMenuAction *>(action)) {
+        insertLive(commands, action);
+        if (auto *menu = qobject_cast<RibbonMenuAction *>(static_cast<QObject *>(action))) {
             containers.insert(menu);
             if (RibbonAction *defaultAction = menu->defaultAction())
-                commands.insert(defaultAction);
+                insertLive(commands, defaultAction);
         }
     }
 }
@@ -104,6 +113,8 @@ void RibbonCommandShortcuts::sync()
         containers.insert(tab);
         QSet<QAction *> wanted;
         for (RibbonCategoryAction *category : tab->categories()) {
+            if (!qobject_cast<RibbonCategoryAction *>(static_cast<QObject *>(category)))
+                continue; // being destroyed
             containers.insert(category);
             collectCommands(*category, wanted, containers);
         }
