@@ -1,6 +1,7 @@
 #include "DefaultRibbonStyle.h"
 
 #include "RibbonApplication.h"
+#include "RibbonPaint_p.h"
 
 #include <initializer_list>
 
@@ -248,7 +249,7 @@ DefaultRibbonStyle::DefaultRibbonStyle(const QString &imagePath)
     m_statusBarTextColor = QColor(Qt::white);
 
     // A file missing from imagePath leaves a null pixmap, which painting code skips.
-    const auto image = [&imagePath](const QString &fileName) { return QPixmap(imagePath + fileName); };
+    const auto image = [&imagePath](const QString &fileName) { return RibbonPaint::loadImage(imagePath + fileName); };
     m_mainBorder = image(QStringLiteral("MainBorder.png"));
     m_mainBorderCaption = image(QStringLiteral("MainBorderCaption.png"));
     m_statusBar = image(QStringLiteral("StatusBar.png"));

@@ -6,8 +6,25 @@
 
 namespace zel {
 
+namespace {
+
+// Runs before QApplication's constructor, the last moment Qt reads these attributes.
+// A host that set either scaling attribute itself has made its choice, and both stay
+// as it left them.
+int &withHighDpiDefaults(int &argc)
+{
+    if (!QCoreApplication::testAttribute(Qt::AA_EnableHighDpiScaling)
+        && !QCoreApplication::testAttribute(Qt::AA_DisableHighDpiScaling)) {
+        QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+        QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    }
+    return argc;
+}
+
+} // namespace
+
 RibbonApplication::RibbonApplication(int &argc, char **argv)
-    : QApplication(argc, argv)
+    : QApplication(withHighDpiDefaults(argc), argv)
     , m_ribbonStyleKind(RibbonStyleDefault)
     , m_dpiFactor(0.0, 0.0)
 {

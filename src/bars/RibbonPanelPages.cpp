@@ -1,6 +1,7 @@
 #include "RibbonPanelPages_p.h"
 
 #include "RibbonApplication.h"
+#include "RibbonPaint_p.h"
 #include "RibbonImageRows_p.h"
 #include "RibbonStyle.h"
 
@@ -107,7 +108,7 @@ void RibbonPanelPages::paintButton(QPainter &painter, const QAbstractButton &but
 {
     if (frame != RibbonImageRows::NoRow) {
         const QPixmap &sheet = RibbonApplication::theApp().ribbonStyle().mainPanelButton();
-        slices.set(button.rect(), QRect(0, 0, sheet.width(), FrameHeight),
+        slices.set(button.rect(), QRect(0, 0, RibbonPaint::logicalSize(sheet).width(), FrameHeight),
                    QMargins(FrameBorder, FrameBorder, FrameBorder, FrameBorder));
         slices.draw(painter, sheet, frame * FrameHeight);
     }

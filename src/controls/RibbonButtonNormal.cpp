@@ -76,7 +76,7 @@ void RibbonButtonNormal::paintEvent(QPaintEvent *)
     const int extent = qMin(width() - 4, height() - 4);
     if (extent <= 0)
         return;
-    const QPixmap pixmap = RibbonPaint::iconPixmap(icon(), extent, isEnabled());
+    const QPixmap pixmap = RibbonPaint::iconPixmap(icon(), extent, isEnabled(), *this);
     const QSize ps = pixmap.size() / pixmap.devicePixelRatio();
     painter.drawPixmap((width() - 4 - ps.width()) / 2 + 2, (height() - 4 - ps.height()) / 2 + 2, pixmap);
 }

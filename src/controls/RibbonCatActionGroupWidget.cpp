@@ -396,25 +396,25 @@ void RibbonCatActionGroupWidget::paintEvent(QPaintEvent *)
         if (!wide) {
             // A cell alone is a small tool button, read with the strip's row numbers.
             const QPixmap &image = count == 1 ? style.normalButtonSmall() : segment;
-            painter.drawPixmap(cell, image, QRect(0, row * state, kPlainCell, row));
+            RibbonPaint::drawPart(painter, cell, image, QRect(0, row * state, kPlainCell, row));
         } else {
             // The first cell opens the strip with the first segment's left edge; later
             // cells begin with a middle segment, whose left edge separates them from
             // their neighbour. Only the last cell closes the strip.
             const QPixmap &mainImage = i == 0 ? style.btnGroupFirst() : style.btnGroupMidle();
-            painter.drawPixmap(main, mainImage, QRect(0, row * state, 20, row));
-            painter.drawPixmap(kWideArrow.translated(cell.topLeft()), style.btnGroupMidle(),
-                               QRect(2, row * state, 10, row));
+            RibbonPaint::drawPart(painter, main, mainImage, QRect(0, row * state, 20, row));
+            RibbonPaint::drawPart(painter, kWideArrow.translated(cell.topLeft()), style.btnGroupMidle(),
+                                  QRect(2, row * state, 10, row));
             const QPixmap &edgeImage = i == count - 1 ? style.btnGroupLast() : style.btnGroupMidle();
-            painter.drawPixmap(kWideRightEdge.translated(cell.topLeft()), edgeImage,
-                               QRect(20, row * state, 2, row));
+            RibbonPaint::drawPart(painter, kWideRightEdge.translated(cell.topLeft()), edgeImage,
+                                  QRect(20, row * state, 2, row));
             const QColor color = RibbonPaint::textColor(groupEnabled);
             painter.setPen(color);
             painter.setBrush(color);
             RibbonStyle::drawSymbol(painter, QRect(cell.x() + 20, height() / 2, 5, 3), SymbolDropDown);
         }
 
-        const QPixmap pixmap = RibbonPaint::iconPixmap(action->icon(), kIconExtent, enabled);
+        const QPixmap pixmap = RibbonPaint::iconPixmap(action->icon(), kIconExtent, enabled, *this);
         if (!pixmap.isNull()) {
             const QSize ps = pixmap.size() / pixmap.devicePixelRatio();
             painter.drawPixmap(main.x() + (main.width() - ps.width()) / 2,

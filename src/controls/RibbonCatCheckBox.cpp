@@ -37,7 +37,8 @@ QSize RibbonCatCheckBox::sizeHint() const
 {
     const QString label = text();
     const int textWidth = label.isEmpty() ? 0 : fontMetrics().horizontalAdvance(label);
-    return QSize(textWidth + 20, scaled(22));
+    // The indicator and its gap grow with the resolution like the text beside them.
+    return QSize(textWidth + scaledX(20), scaled(22));
 }
 
 void RibbonCatCheckBox::onActionChanged()

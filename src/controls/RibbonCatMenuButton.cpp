@@ -545,8 +545,8 @@ void RibbonCatMenuButtonBPriv::paintRow(QPainter &painter)
                 RibbonPaint::drawThreeSlice(painter, QRect(0, 0, w - 11, rowHeight), captionImage,
                                             QRect(0, RowHeight * captionState, 22, RowHeight), 2, 1);
             if (arrowState != NoRow)
-                painter.drawPixmap(QRect(w - ArrowWidth, 0, ArrowWidth, rowHeight), arrowImage,
-                                   QRect(0, RowHeight * arrowState, ArrowWidth, RowHeight));
+                RibbonPaint::drawPart(painter, QRect(w - ArrowWidth, 0, ArrowWidth, rowHeight), arrowImage,
+                                      QRect(0, RowHeight * arrowState, ArrowWidth, RowHeight));
         }
     } else {
         if (drawBorder) {
@@ -568,7 +568,7 @@ void RibbonCatMenuButtonBPriv::paintRow(QPainter &painter)
     if (icon.isNull() && defaultAction)
         icon = defaultAction->icon();
     const bool iconEnabled = defaultAction ? defaultAction->isEnabled() : enabled;
-    const QPixmap pixmap = RibbonPaint::iconPixmap(icon, 16, iconEnabled);
+    const QPixmap pixmap = RibbonPaint::iconPixmap(icon, 16, iconEnabled, *painter.device());
     const QColor textColor = RibbonPaint::textColor(enabled);
     if (!pixmap.isNull()) {
         const QSize ps = pixmap.size() / pixmap.devicePixelRatio();
@@ -635,7 +635,7 @@ void RibbonCatMenuButtonBPriv::paintLarge(QPainter &painter)
     if (icon.isNull() && defaultAction)
         icon = defaultAction->icon();
     const bool iconEnabled = defaultAction ? defaultAction->isEnabled() : enabled;
-    const QPixmap pixmap = RibbonPaint::iconPixmap(icon, 32, iconEnabled);
+    const QPixmap pixmap = RibbonPaint::iconPixmap(icon, 32, iconEnabled, *painter.device());
     if (!pixmap.isNull()) {
         const QSize ps = pixmap.size() / pixmap.devicePixelRatio();
         painter.drawPixmap((w - ps.width()) / 2, scaled((32 - ps.height()) / 2 + 2), pixmap);

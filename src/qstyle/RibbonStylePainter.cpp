@@ -32,10 +32,10 @@ bool drawStateRow(QPainter *painter, const QRect &target, const QPixmap &sheet, 
     if (sheet.isNull() || !target.isValid())
         return false;
 
-    QRect source(0, 0, sheet.width(), sheet.height());
+    QRect source(QPoint(0, 0), RibbonPaint::logicalSize(sheet));
     int offset = 0;
-    if (rowHeight > 0 && sheet.height() >= rowHeight) {
-        const int rows = sheet.height() / rowHeight;
+    if (rowHeight > 0 && source.height() >= rowHeight) {
+        const int rows = source.height() / rowHeight;
         source.setHeight(rowHeight);
         offset = std::clamp(row, 0, rows - 1) * rowHeight;
     }

@@ -204,8 +204,8 @@ void RibbonCategoryWrapper::paintEvent(QPaintEvent *)
     RibbonPaint::drawThreeSlice(painter, QRect(0, 0, width(), h), style.categoryWrapperBack(),
                                 QRect(0, row * 85, 52, 85), 3, 3);
 
-    painter.drawPixmap(QRect(width() / 2 - 3, height() - 10, 5, 3), style.categoryWrapperIcon(),
-                       QRect(0, 0, 5, 3));
+    RibbonPaint::drawPart(painter, QRect(width() / 2 - 3, height() - 10, 5, 3), style.categoryWrapperIcon(),
+                          QRect(0, 0, 5, 3));
 
     const QIcon icon = d->action.icon();
     if (!icon.isNull()) {

@@ -10,6 +10,8 @@
 #include <QPainter>
 #include <QSpacerItem>
 
+#include <algorithm>
+
 namespace zel {
 
 namespace {
@@ -149,6 +151,15 @@ void RibbonTitleRow::paintOverMainView(QPainter &painter, const RibbonMenuBar::C
     band.adjust(2, 0, -2, 0);
     if (m_quickAccessBar->isVisible() && m_quickAccessBar->geometry().intersects(band))
         return;
+    // In a narrow window the set's tabs may sit below the window buttons; the band ends
+    // where the free part of the title row does, and is left out when none of it is free.
+    if (m_minimizeButton->isVisible()) {
+        band.setRight(std::min(band.right(), m_minimizeButton->mapTo(m_window, QPoint(0, 0)).x() - 1));
+        if (band.width() <= 0) {
+            drawCentred();
+            return;
+        }
+    }
 
     // A centred title that would run into the band moves to its right.
     QRect full(0, 0, metrics.horizontalAdvance(title), spacer.height());

@@ -460,7 +460,18 @@ struct Generator
         return true;
     }
 
-    bool drawImage(const QJsonObject &image, const QJsonObject &templateVars, QImage &result) const
+    // Pixel-art shapes (a triangle built of 5-, 3- and 1-pixel rows) would only be
+    // doubled at a higher scale; such an image names a smooth outline of the same shape
+    // for them in "highResolutionDraw".
+    static QString drawKey(const QJsonObject &image, int scale)
+    {
+        const QString high = QStringLiteral("highResolutionDraw");
+        return scale > 1 && image.contains(high) ? high : QStringLiteral("draw");
+    }
+
+    // Draws the image at scale times its described size: the description stays in
+    // logical pixels, so a 2x image is the same drawing with twice the detail.
+    bool drawImage(const QJsonObject &image, const QJsonObject &templateVars, QImage &result, int scale = 1) const
     {
         const QJsonArray sizeArray = image.value(QStringLiteral("size")).toArray();
         const QSize size(sizeArray.at(0).toInt(), sizeArray.at(1).toInt());
@@ -484,9 +495,10 @@ struct Generator
             return false;
         }
 
-        QImage canvas(size, QImage::Format_ARGB32_Premultiplied);
+        QImage canvas(size * scale, QImage::Format_ARGB32_Premultiplied);
         canvas.fill(Qt::transparent);
         QPainter painter(&canvas);
+        painter.scale(scale, scale);
         const QJsonObject styles = root.value(QStringLiteral("styles")).toObject();
         for (int i = 0; i < states.size(); ++i) {
             const QJsonObject state = states.at(i).toObject();
@@ -510,7 +522,7 @@ struct Generator
             if (state.value(QStringLiteral("empty")).toBool())
                 continue;
             const QJsonArray ops = state.contains(QStringLiteral("draw")) ? state.value(QStringLiteral("draw")).toArray()
-                                                                          : image.value(QStringLiteral("draw")).toArray();
+                                                                          : image.value(drawKey(image, scale)).toArray();
             painter.save();
             const QPoint origin = alongX ? QPoint(i * step, 0) : QPoint(0, i * step);
             painter.translate(origin);
@@ -550,33 +562,72 @@ struct Generator
                 err() << "  while drawing " << file << '\n';
                 return false;
             }
-            QDir().mkpath(outDir + QLatin1Char('/') + dir);
-            const QString path = outDir + QLatin1Char('/') + dir + QLatin1Char('/') + file;
-            const QByteArray format = QFileInfo(file).suffix().toLower().toLatin1();
-            QBuffer buffer;
-            buffer.open(QIODevice::WriteOnly);
-            QImageWriter writer(&buffer, format);
-            if (!writer.write(img)) {
-                err() << "cannot write " << path << ": " << writer.errorString() << '\n';
+            if (!writeImage(dir, file, img))
                 return false;
-            }
-            QByteArray bytes = buffer.data();
-            if (format == "ico")
-                clearIcoMaskPadding(bytes);
-            if (!writeIfChanged(path, bytes))
+            if (!writeHighResolution(image, templateVars, dir, file))
                 return false;
-            // Read it back: what the library loads must be what was drawn.
-            const QImage back(path);
-            if (back.isNull() || back.size() != img.size()) {
-                err() << "written " << path << " does not read back\n";
-                return false;
-            }
             filesByDir[dir] << file;
             ++written;
         }
         if (!writeQrc(dirs))
             return false;
         QTextStream(stdout) << written << " images written to " << QDir::toNativeSeparators(outDir) << '\n';
+        return true;
+    }
+
+    bool writeImage(const QString &dir, const QString &file, const QImage &img) const
+    {
+        QDir().mkpath(outDir + QLatin1Char('/') + dir);
+        const QString path = outDir + QLatin1Char('/') + dir + QLatin1Char('/') + file;
+        const QByteArray format = QFileInfo(file).suffix().toLower().toLatin1();
+        QBuffer buffer;
+        buffer.open(QIODevice::WriteOnly);
+        QImageWriter writer(&buffer, format);
+        if (!writer.write(img)) {
+            err() << "cannot write " << path << ": " << writer.errorString() << '\n';
+            return false;
+        }
+        QByteArray bytes = buffer.data();
+        if (format == "ico")
+            clearIcoMaskPadding(bytes);
+        if (!writeIfChanged(path, bytes))
+            return false;
+        // Read it back: what the library loads must be what was drawn.
+        const QImage back(path);
+        if (back.isNull() || back.size() != img.size()) {
+            err() << "written " << path << " does not read back\n";
+            return false;
+        }
+        return true;
+    }
+
+    // Each image is drawn again at every factor of "highResolutionScales" (an image may
+    // narrow the list with its own key) and written as "name@<factor>x.ext", the name
+    // Qt's loaders look for on high-resolution screens. Only the files are added to the
+    // resource list: the 1x file keeps its alias.
+    bool writeHighResolution(const QJsonObject &image, const QJsonObject &templateVars, const QString &dir,
+                             const QString &file)
+    {
+        const QString key = QStringLiteral("highResolutionScales");
+        const QJsonArray scales = image.contains(key) ? image.value(key).toArray() : root.value(key).toArray();
+        const QFileInfo info(file);
+        for (const QJsonValue &v : scales) {
+            const int scale = v.toInt();
+            if (scale < 2) {
+                err() << "image '" << file << "': a high-resolution scale must be an integer of 2 or more\n";
+                return false;
+            }
+            const QString scaledFile = info.completeBaseName() + QLatin1Char('@') + QString::number(scale)
+                + QStringLiteral("x.") + info.suffix();
+            QImage img;
+            if (!drawImage(image, templateVars, img, scale)) {
+                err() << "  while drawing " << scaledFile << '\n';
+                return false;
+            }
+            if (!writeImage(dir, scaledFile, img))
+                return false;
+            filesByDir[dir] << scaledFile;
+        }
         return true;
     }
 
