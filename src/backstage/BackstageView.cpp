@@ -117,6 +117,7 @@ BackstageView::BackstageView(RibbonMainWindow *mainWindow)
 
     d->backButton = new BackButton(this);
     d->backButton->setObjectName(QStringLiteral("backstageBackButton"));
+    d->backButton->setAccessibleName(tr("Back"));
     d->backButton->setFixedSize(40, 40);
     d->backButton->setStyleSheet(QStringLiteral(
         "QPushButton { border: none; margin: 0px; padding: 0px; "
@@ -128,7 +129,9 @@ BackstageView::BackstageView(RibbonMainWindow *mainWindow)
     d->list->setObjectName(QStringLiteral("backstageNavigationList"));
     d->list->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Minimum);
     d->list->setAttribute(Qt::WA_MacShowFocusRect, false);
-    d->list->setFocusPolicy(Qt::NoFocus);
+    // Reachable with Tab after the back button; the arrows then move between the entries
+    // (and so between the panes).
+    d->list->setFocusPolicy(Qt::StrongFocus);
     d->list->setFrameShape(QFrame::NoFrame);
     d->list->setStyleSheet(RibbonApplication::theApp().ribbonStyle().backstageMainLeftListWidget());
     connect(&RibbonApplication::theApp(), &RibbonApplication::ribbonStyleChanged, d->list, [this] {

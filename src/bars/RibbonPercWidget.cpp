@@ -59,6 +59,7 @@ RibbonPercWidget::RibbonPercWidget(RibbonPercAction &action, QWidget *parent)
     setMouseTracking(true);
     setCursor(Qt::ArrowCursor);
     addAction(&action);
+    setAccessibleName(tr("Zoom"));
     connect(&action, SIGNAL(percentageChanged(int)), this, SLOT(displayPercentage(int)));
     // Held buttons step at a steady pace, not a coarse one.
     repeatTimer.setTimerType(Qt::PreciseTimer);

@@ -3,6 +3,7 @@
 #include "RibbonApplication.h"
 #include "RibbonImageRows_p.h"
 #include "RibbonPaint_p.h"
+#include "RibbonScreenTip_p.h"
 #include "RibbonSimpleAction.h"
 #include "RibbonStyle.h"
 
@@ -45,7 +46,7 @@ void RibbonStatusBarWidget::syncFromAction()
     if (!action)
         return;
     m_pressed = action->isCheckable() && action->isChecked();
-    setToolTip(action->toolTip());
+    setToolTip(ribbonScreenTip(action));
     setEnabled(action->isEnabled());
 }
 

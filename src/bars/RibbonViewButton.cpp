@@ -4,6 +4,7 @@
 #include "RibbonImageRows_p.h"
 #include "RibbonPaint_p.h"
 #include "RibbonScale_p.h"
+#include "RibbonScreenTip_p.h"
 #include "RibbonSimpleAction.h"
 #include "RibbonStyle.h"
 
@@ -111,7 +112,7 @@ void RibbonViewButton::actionEvent(QActionEvent *event)
     setFont(font);
     setIcon(action->icon());
     setText(action->text());
-    setToolTip(action->toolTip());
+    setToolTip(ribbonScreenTip(action));
     setEnabled(action->isEnabled());
     d->sizeHint = QSize();
     updateGeometry();

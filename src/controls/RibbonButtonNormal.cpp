@@ -2,6 +2,7 @@
 
 #include "RibbonAction.h"
 #include "RibbonPaint_p.h"
+#include "RibbonScreenTip_p.h"
 
 #include <QActionEvent>
 #include <QPainter>
@@ -35,7 +36,8 @@ void RibbonButtonNormal::actionEvent(QActionEvent *event)
             setCheckable(action->isCheckable());
             setIcon(action->icon());
             setText(action->text());
-            setToolTip(action->toolTip());
+            setToolTip(ribbonScreenTip(action));
+            setAccessibleName(ribbonAccessibleName(action));
             setEnabled(action->isEnabled());
             if (added) {
                 connect(this, SIGNAL(clicked()), action, SLOT(trigger()));

@@ -3,6 +3,7 @@
 #include "RibbonApplication.h"
 #include "RibbonCatCheckBoxAction.h"
 #include "RibbonScale_p.h"
+#include "RibbonScreenTip_p.h"
 #include "RibbonStyle.h"
 
 #include <QFontMetrics>
@@ -26,7 +27,7 @@ RibbonCatCheckBox::RibbonCatCheckBox(RibbonCatCheckBoxAction &action, QWidget *p
     , m_action(&action)
 {
     setText(action.textLabel());
-    setToolTip(action.toolTip());
+    setToolTip(ribbonScreenTip(&action));
     setChecked(action.isChecked());
     setEnabled(action.isEnabled());
     applyTextColor(*this);
@@ -61,7 +62,7 @@ void RibbonCatCheckBox::onActionChanged()
         setText(action->textLabel());
         updateGeometry();
     }
-    setToolTip(action->toolTip());
+    setToolTip(ribbonScreenTip(action));
 }
 
 } // namespace zel

@@ -8,6 +8,7 @@
 #include "RibbonPlatform.h"
 #include "RibbonPopupReplay_p.h"
 #include "RibbonScale_p.h"
+#include "RibbonScreenTip_p.h"
 #include "RibbonStyle.h"
 #include "RibbonTextFit_p.h"
 
@@ -147,7 +148,8 @@ void RibbonCatColorMenuButton::actionEvent(QActionEvent *event)
         return;
     calculateLineCount();
     setEnabled(action->isEnabled());
-    setToolTip(action->toolTip());
+    setToolTip(ribbonScreenTip(action));
+    setAccessibleName(ribbonAccessibleName(action));
 
     RibbonColorPickerPopup &popup = d->popup;
     popup.setKeepSelection(action->keepsSelection());

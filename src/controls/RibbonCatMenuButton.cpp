@@ -9,6 +9,7 @@
 #include "RibbonPlatform.h"
 #include "RibbonPopupReplay_p.h"
 #include "RibbonScale_p.h"
+#include "RibbonScreenTip_p.h"
 #include "RibbonStyle.h"
 #include "RibbonTextFit_p.h"
 #include "RibbonViewPopup.h"
@@ -128,7 +129,9 @@ void RibbonCatMenuButton::refreshFromAction(QActionEvent *event)
     }
     setEnabled(action->isEnabled());
     const RibbonAction *defaultAction = action->defaultAction();
-    setToolTip(defaultAction ? defaultAction->toolTip() : action->toolTip());
+    setToolTip(ribbonScreenTip(defaultAction ? static_cast<const QAction *>(defaultAction) : action));
+    setAccessibleName(ribbonAccessibleName(action));
+    setAccessibleDescription(action->statusTip());
     if (d)
         d->actionEvent(event);
     updateGeometry();

@@ -5,6 +5,7 @@
 #include "RibbonImageRows_p.h"
 #include "RibbonPaint_p.h"
 #include "RibbonScale_p.h"
+#include "RibbonScreenTip_p.h"
 #include "RibbonStyle.h"
 #include "RibbonTextFit_p.h"
 
@@ -96,7 +97,7 @@ void RibbonCatSimpleButton::actionEvent(QActionEvent *event)
             setEnabled(own->isEnabled());
             setIcon(own->icon());
             setText(own->text());
-            setToolTip(own->toolTip());
+            setToolTip(ribbonScreenTip(own));
             setCheckable(own->isCheckable());
             setChecked(own->isChecked());
             d->sizeHint = QSize();

@@ -8,6 +8,7 @@
 #include "RibbonImageRows_p.h"
 #include "RibbonPaint_p.h"
 #include "RibbonScale_p.h"
+#include "RibbonScreenTip_p.h"
 #include "RibbonStyle.h"
 #include "RibbonTextFit_p.h"
 
@@ -54,6 +55,15 @@ RibbonCategoryWrapper::RibbonCategoryWrapper(RibbonCategoryPanel &panel, RibbonC
     d->category->move(0, 0);
     // The group takes its size when the wrapper is shown (see event()): measuring it
     // now would measure every control of pages that may never be shown.
+
+    // Folded, the wrapper is the button a screen reader meets: named by its caption.
+    const auto nameFromCaption = [this] {
+        const QString name = ribbonShownText(d->action.text());
+        if (accessibleName() != name)
+            setAccessibleName(name);
+    };
+    nameFromCaption();
+    connect(&action, &QAction::changed, this, nameFromCaption);
 }
 
 RibbonCategoryWrapper::~RibbonCategoryWrapper()

@@ -31,6 +31,7 @@ RibbonTitleRow::RibbonTitleRow(RibbonMainWindow *window)
 
     m_sysMenuButton = new RibbonSysButton(window, RibbonSysButton::SystemMenu);
     m_sysMenuButton->setObjectName(QStringLiteral("sysMenuButton"));
+    m_sysMenuButton->setAccessibleName(RibbonMainWindow::tr("System menu"));
     QObject::connect(m_sysMenuButton, SIGNAL(clicked()), window, SLOT(onShowSysMenu()));
     m_layout->addWidget(m_sysMenuButton);
 
@@ -46,6 +47,7 @@ RibbonTitleRow::RibbonTitleRow(RibbonMainWindow *window)
         auto *button = new RibbonSysButton(window, type);
         button->setObjectName(QLatin1String(name));
         button->setToolTip(toolTip);
+        button->setAccessibleName(toolTip);
         QObject::connect(button, SIGNAL(clicked()), window, slot, Qt::QueuedConnection);
         m_layout->addWidget(button);
         return button;
@@ -93,8 +95,9 @@ void RibbonTitleRow::windowActivationChanged()
 
 void RibbonTitleRow::windowStateChanged()
 {
-    m_maximizeButton->setToolTip(m_window->isMaximized() ? RibbonMainWindow::tr("Restore")
-                                                         : RibbonMainWindow::tr("Maximize"));
+    const QString name = m_window->isMaximized() ? RibbonMainWindow::tr("Restore") : RibbonMainWindow::tr("Maximize");
+    m_maximizeButton->setToolTip(name);
+    m_maximizeButton->setAccessibleName(name);
 }
 
 QString RibbonTitleRow::titleText() const
