@@ -31,8 +31,14 @@ RibbonCatCheckBox::RibbonCatCheckBox(RibbonCatCheckBoxAction &action, QWidget *p
     setChecked(action.isChecked());
     setEnabled(action.isEnabled());
     applyTextColor(*this);
-    connect(&RibbonApplication::theApp(), &RibbonApplication::ribbonStyleChanged, this,
-            [this] { applyTextColor(*this); });
+    // A style sheet set again on a placed box resolves its font anew from the
+    // application's; the box keeps the font of the group it stands in.
+    connect(&RibbonApplication::theApp(), &RibbonApplication::ribbonStyleChanged, this, [this] {
+        const QFont inherited = font();
+        applyTextColor(*this);
+        if (font() != inherited)
+            setFont(inherited);
+    });
 
     // The action takes the new state first so that every box shown for it follows,
     // then announces the click.
