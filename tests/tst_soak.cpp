@@ -372,10 +372,14 @@ public:
         });
     }
 
+    // Also a modal dialog a click opened (the colour picker's "More colors..."), which
+    // would wait for a user as well.
     void closePopups()
     {
         for (int guard = 0; guard < 20 && QApplication::activePopupWidget(); ++guard)
             QApplication::activePopupWidget()->close();
+        if (QWidget *modal = QApplication::activeModalWidget())
+            modal->close();
     }
 
     void settle()
