@@ -226,8 +226,7 @@ public:
         m_window->resize(w.showWidth, 800);
         for (const FloorTab &t : qAsConst(m_tabs))
             m_tabWidget->addTab(page(t), t.caption);
-        m_window->show();
-        settle();
+        showAndSettle(m_window);
     }
 
     QWidget *window() const override { return m_window; }

@@ -125,8 +125,7 @@ public:
         RibbonMenuBar &bar = m_window->ribbonMenuBar();
         for (RibbonCategoriesPanelAction *tab : qAsConst(m_tabs))
             bar.addAction(tab);
-        m_window->show();
-        settle();
+        showAndSettle(m_window);
         if (qEnvironmentVariableIsSet("BENCH_DEBUG")) {
             qWarning("window min %d, bar min %d, panels min %d, panels hint %d", m_window->minimumSizeHint().width(),
                      bar.minimumSizeHint().width(), bar.categoryPanels()->minimumSizeHint().width(),

@@ -1,9 +1,14 @@
 #include "Workload.h"
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QPainter>
 #include <QPixmap>
+#include <QResizeEvent>
+#include <QTimer>
 #include <QVector>
+#include <QWidget>
+#include <QWindow>
 
 namespace bench {
 
@@ -97,6 +102,79 @@ void settle()
         QCoreApplication::processEvents();
     }
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+bool waitFor(const std::function<bool()> &done, int timeoutMs)
+{
+    QElapsedTimer t;
+    t.start();
+    // Waits without spinning; the ticks bring the wait back to look at the clock.
+    QTimer tick;
+    tick.start(5);
+    while (!done()) {
+        if (t.elapsed() > timeoutMs)
+            return false;
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
+    return true;
+}
+
+namespace {
+
+// Remembers the last size the window system reported for a window.
+class ReportedSize : public QObject
+{
+public:
+    QSize size;
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::Resize)
+            size = static_cast<QResizeEvent *>(event)->size();
+        return false;
+    }
+};
+
+int timeOuts = 0;
+
+} // namespace
+
+void showAndSettle(QWidget *window)
+{
+    QElapsedTimer t;
+    t.start();
+    window->show();
+    const qint64 shown = t.nsecsElapsed();
+    QWindow *handle = window->windowHandle();
+    if (!waitFor([handle] { return handle->isExposed(); }, 5000))
+        ++timeOuts;
+    const qint64 exposed = t.nsecsElapsed();
+    settle();
+    if (qEnvironmentVariableIsSet("BENCH_DEBUG"))
+        qWarning("show %.2f ms, exposed after %.2f ms, settled after %.2f ms", shown / 1e6, exposed / 1e6,
+                 t.nsecsElapsed() / 1e6);
+}
+
+void resizeAndSettle(QWidget *window, int width)
+{
+    QWindow *handle = window->windowHandle();
+    ReportedSize reported;
+    handle->installEventFilter(&reported);
+    const int before = window->width();
+    window->resize(width, window->height());
+    // The window system confirms the new size (under a window manager after a round
+    // trip through it); the paint that follows it is part of the step. The window may
+    // have kept another width than asked, within its minimum and maximum.
+    const int taken = window->width();
+    if (taken != before
+        && !waitFor([&reported, taken] { return reported.size.width() == taken; }, 500))
+        ++timeOuts;
+    handle->removeEventFilter(&reported);
+    settle();
+}
+
+int waitTimeOuts()
+{
+    return timeOuts;
 }
 
 } // namespace bench

@@ -8,6 +8,7 @@
 #include <QString>
 #include <QVector>
 
+#include <functional>
 #include <memory>
 
 class QWidget;
@@ -48,6 +49,14 @@ const QIcon &icon(int index);
 
 // Pending layouts, resizes and paints processed to the end.
 void settle();
+// Processes events until done() holds, without spinning; false when the time ran out.
+bool waitFor(const std::function<bool()> &done, int timeoutMs);
+// Shows a window and settles once the window system exposed it.
+void showAndSettle(QWidget *window);
+// Resizes a shown window to a width and settles once the window system reported it.
+void resizeAndSettle(QWidget *window, int width);
+// How many of the waits above ran out of time (the window system never answered).
+int waitTimeOuts();
 
 class Kind
 {

@@ -8,6 +8,7 @@
 #include "Workload.h"
 
 #include "RibbonApplication.h"
+#include "RibbonWindowBorder.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -17,10 +18,13 @@
 #include <QProcess>
 #include <QTextStream>
 #include <QWidget>
+#include <QWindow>
 
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <ctime>
+#include <numeric>
 
 namespace {
 
@@ -44,6 +48,23 @@ double ms(const QElapsedTimer &t)
     return t.nsecsElapsed() / 1e6;
 }
 
+// Processor time of this thread so far: unlike the wall clock it leaves out the time the
+// process waited for a processor, which dominates on a loaded machine (and the time the
+// window system takes, which the wall clock is there for).
+double cpuMs()
+{
+    timespec ts{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &ts);
+    return ts.tv_sec * 1e3 + ts.tv_nsec / 1e6;
+}
+
+// Wall-clock and processor times of a series of steps.
+struct Steps
+{
+    QVector<double> wall;
+    QVector<double> cpu;
+};
+
 double median(QVector<double> v)
 {
     if (v.isEmpty())
@@ -51,6 +72,19 @@ double median(QVector<double> v)
     std::sort(v.begin(), v.end());
     const int n = v.size();
     return n % 2 ? v.at(n / 2) : (v.at(n / 2 - 1) + v.at(n / 2)) / 2;
+}
+
+// Median, mean and worst of a series of steps, as key_ms, key_mean_ms, key_worst_ms, and
+// the median processor time as key_cpu_ms.
+void putSteps(QMap<QString, double> &out, const QString &key, const Steps &steps)
+{
+    const QVector<double> &v = steps.wall;
+    if (v.isEmpty())
+        return;
+    out[key + QLatin1String("_cpu_ms")] = median(steps.cpu);
+    out[key + QLatin1String("_ms")] = median(v);
+    out[key + QLatin1String("_mean_ms")] = std::accumulate(v.cbegin(), v.cend(), 0.0) / v.size();
+    out[key + QLatin1String("_worst_ms")] = *std::max_element(v.cbegin(), v.cend());
 }
 
 // Counts paint events while debugging the measures (BENCH_DEBUG set): every measured
@@ -69,31 +103,34 @@ public:
 
 // Kept out of line so a profiler can collect exactly these two phases
 // (valgrind --toggle-collect='*benchResizeSteps*').
-Q_NEVER_INLINE QVector<double> benchResizeSteps(Kind &kind, int repetitions, int narrow, int wide)
+Q_NEVER_INLINE Steps benchResizeSteps(Kind &kind, int repetitions, int narrow, int wide)
 {
-    QVector<double> times;
+    Steps steps;
     QWidget *w = kind.window();
     for (int i = 0; i < repetitions; ++i) {
         QElapsedTimer t;
         t.start();
-        w->resize(i % 2 ? wide : narrow, w->height());
-        settle();
-        times << ms(t);
+        const double cpu = cpuMs();
+        resizeAndSettle(w, i % 2 ? wide : narrow);
+        steps.cpu << cpuMs() - cpu;
+        steps.wall << ms(t);
     }
-    return times;
+    return steps;
 }
 
-Q_NEVER_INLINE QVector<double> benchTabSwitches(Kind &kind, int repetitions)
+Q_NEVER_INLINE Steps benchTabSwitches(Kind &kind, int repetitions)
 {
     // Cycle through four tabs: these pages have been shown before, as in a session.
-    QVector<double> times;
+    Steps steps;
     for (int i = 0; i < repetitions; ++i) {
         QElapsedTimer t;
         t.start();
+        const double cpu = cpuMs();
         kind.switchTab((i + 1) % 4);
-        times << ms(t);
+        steps.cpu << cpuMs() - cpu;
+        steps.wall << ms(t);
     }
-    return times;
+    return steps;
 }
 
 // The offscreen platform reports every window feature it lacks; that is noise here.
@@ -138,8 +175,10 @@ int child(const QString &workloadName, const QString &kindName, const QString &o
     out[QStringLiteral("rss_actions_per_button_kb")] = double(rssBuilt - rssStart) / buttons;
 
     t.start();
+    const double showCpu = cpuMs();
     kind->createAndShow(w);
     out[QStringLiteral("show_ms")] = ms(t);
+    out[QStringLiteral("show_cpu_ms")] = cpuMs() - showCpu;
 
     const qint64 rssShown = statusKb("VmRSS:");
     out[QStringLiteral("shown_px")] = kind->window()->width();
@@ -152,29 +191,29 @@ int child(const QString &workloadName, const QString &kindName, const QString &o
     // given the same pair by the parent.
     QWidget *win = kind->window();
     if (narrow <= 0) {
-        win->resize(600, win->height());
-        settle();
+        resizeAndSettle(win, 600);
         narrow = qMax(600, win->width());
         wide = qMax(1600, narrow + 1000);
     }
     out[QStringLiteral("narrow_px")] = narrow;
     out[QStringLiteral("wide_px")] = wide;
-    win->resize(narrow, win->height());
-    settle();
-    win->resize(wide, win->height());
-    settle();
+    resizeAndSettle(win, narrow);
+    resizeAndSettle(win, wide);
 
-    if (only.isEmpty() || only == QLatin1String("resize"))
-        out[QStringLiteral("resize_ms")] = median(benchResizeSteps(*kind, w.repetitions, narrow, wide));
-    if (only.isEmpty() || only == QLatin1String("switch")) {
+    const QStringList measures = only.split(QLatin1Char(','), Qt::SkipEmptyParts);
+    const auto measured = [&measures](const char *name) {
+        return measures.isEmpty() || measures.contains(QLatin1String(name));
+    };
+    if (measured("resize"))
+        putSteps(out, QStringLiteral("resize"), benchResizeSteps(*kind, w.repetitions, narrow, wide));
+    if (measured("switch")) {
         kind->switchTab(1); kind->switchTab(2); kind->switchTab(3); kind->switchTab(0);
-        out[QStringLiteral("switch_ms")] = median(benchTabSwitches(*kind, w.repetitions));
+        putSteps(out, QStringLiteral("switch"), benchTabSwitches(*kind, w.repetitions));
     }
 
-    if (only.isEmpty()) {
+    if (measured("popups")) {
         kind->switchTab(0);
-        kind->window()->resize(narrow, kind->window()->height());
-        settle();
+        resizeAndSettle(kind->window(), narrow);
         out[QStringLiteral("folded_at_narrow")] = kind->foldedCount();
         QVector<double> open, close;
         PaintCounter counter;
@@ -194,8 +233,7 @@ int child(const QString &workloadName, const QString &kindName, const QString &o
         out[QStringLiteral("folded_popup_open_ms")] = median(open);
         out[QStringLiteral("folded_popup_close_ms")] = median(close);
 
-        kind->window()->resize(wide, kind->window()->height());
-        settle();
+        resizeAndSettle(kind->window(), wide);
         kind->prepareMinimised();
         open.clear();
         close.clear();
@@ -212,8 +250,56 @@ int child(const QString &workloadName, const QString &kindName, const QString &o
     }
 
     out[QStringLiteral("peak_rss_mb")] = statusKb("VmHWM:") / 1024.0;
+    out[QStringLiteral("wait_timeouts")] = waitTimeOuts();
     for (auto it = out.cbegin(); it != out.cend(); ++it)
         std::printf("%s=%.4f\n", qPrintable(it.key()), it.value());
+    std::fflush(stdout);
+    return 0;
+}
+
+// Paints the shadow border of a window while another window of the application is
+// active, with that many more widgets in the application: "border_paint_ms" is the median
+// time of one paint of all its strips. The cost must not depend on the widget count.
+Q_NEVER_INLINE int borderChild(int widgets, int repetitions)
+{
+    QWidget filler; // never shown; its children only make the application bigger
+    for (int i = 0; i < widgets; ++i)
+        new QWidget(&filler);
+
+    QWidget window(nullptr, Qt::FramelessWindowHint);
+    window.setGeometry(200, 200, 800, 600);
+    new zel::RibbonWindowBorder(&window, false);
+    showAndSettle(&window);
+    QWidget other;
+    other.setGeometry(100, 100, 300, 200);
+    showAndSettle(&other);
+    QApplication::setActiveWindow(&other);
+    settle();
+
+    QWidgetList strips;
+    for (QWidget *w : QApplication::topLevelWidgets()) {
+        if (w->objectName() == QLatin1String("BorderItem") && w->isVisible())
+            strips << w;
+    }
+    // Under a window manager the strips appear a little after their window.
+    const auto exposed = [&strips] {
+        return int(std::count_if(strips.cbegin(), strips.cend(),
+                                 [](QWidget *w) { return w->windowHandle() && w->windowHandle()->isExposed(); }));
+    };
+    waitFor([&] { return exposed() == strips.size(); }, 3000);
+    settle();
+
+    QVector<double> times;
+    for (int i = 0; i < repetitions; ++i) {
+        QElapsedTimer t;
+        t.start();
+        for (QWidget *strip : qAsConst(strips))
+            strip->repaint();
+        times << ms(t);
+    }
+    std::printf("border_paint_ms=%.4f\nborder_strips=%d\nborder_strips_exposed=%d\nwidgets=%d\nwindow_active=%d\n",
+                median(times), int(strips.size()), exposed(), int(QApplication::allWidgets().size()),
+                int(window.isActiveWindow()));
     std::fflush(stdout);
     return 0;
 }
@@ -228,8 +314,15 @@ struct Metric
 const Metric metrics[] = {
     {"build_ms", "build action tree (ms)", true},
     {"show_ms", "create + add tabs + show to first paint (ms)", true},
+    {"show_cpu_ms", "  the same, processor time (ms)", true},
     {"resize_ms", "resize step wide<->narrow, median (ms)", true},
+    {"resize_mean_ms", "resize step, mean (ms)", true},
+    {"resize_worst_ms", "resize step, worst (ms)", true},
+    {"resize_cpu_ms", "resize step, processor time, median (ms)", true},
     {"switch_ms", "tab switch, median (ms)", true},
+    {"switch_mean_ms", "tab switch, mean (ms)", true},
+    {"switch_worst_ms", "tab switch, worst (ms)", true},
+    {"switch_cpu_ms", "tab switch, processor time, median (ms)", true},
     {"folded_popup_open_ms", "folded group popup open, median (ms)", true},
     {"folded_popup_close_ms", "folded group popup close, median (ms)", true},
     {"minimised_popup_open_ms", "minimised ribbon popup open, median (ms)", true},
@@ -244,16 +337,10 @@ const Metric metrics[] = {
     {"wide_px", "wide width of the resize step (px)", false},
 };
 
-QMap<QString, double> runChild(const QString &self, const QString &wl, const QString &kind, int narrow = 0,
-                               int wide = 0, int shown = 0)
+QMap<QString, double> runProcess(const QString &self, const QStringList &args)
 {
     QProcess p;
     p.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    QStringList args{QStringLiteral("--workload"), wl, QStringLiteral("--kind"), kind};
-    if (narrow > 0)
-        args << QStringLiteral("--narrow") << QString::number(narrow) << QStringLiteral("--wide") << QString::number(wide);
-    if (shown > 0)
-        args << QStringLiteral("--shown-width") << QString::number(shown);
     p.start(self, args);
     p.waitForFinished(-1);
     QMap<QString, double> r;
@@ -263,8 +350,21 @@ QMap<QString, double> runChild(const QString &self, const QString &wl, const QSt
             r[QString::fromLatin1(line.left(eq))] = line.mid(eq + 1).toDouble();
     }
     if (p.exitCode() != 0 || r.isEmpty())
-        std::fprintf(stderr, "child %s/%s failed (exit %d)\n", qPrintable(wl), qPrintable(kind), p.exitCode());
+        std::fprintf(stderr, "child %s failed (exit %d)\n", qPrintable(args.join(QLatin1Char(' '))), p.exitCode());
     return r;
+}
+
+QMap<QString, double> runChild(const QString &self, const QString &wl, const QString &kind, const QString &only,
+                               int narrow = 0, int wide = 0, int shown = 0)
+{
+    QStringList args{QStringLiteral("--workload"), wl, QStringLiteral("--kind"), kind};
+    if (!only.isEmpty())
+        args << QStringLiteral("--only") << only;
+    if (narrow > 0)
+        args << QStringLiteral("--narrow") << QString::number(narrow) << QStringLiteral("--wide") << QString::number(wide);
+    if (shown > 0)
+        args << QStringLiteral("--shown-width") << QString::number(shown);
+    return runProcess(self, args);
 }
 
 // Least-squares slope of log(value) against log(buttons).
@@ -300,7 +400,7 @@ QMap<QString, double> medianOf(const QList<QMap<QString, double>> &runs)
     return out;
 }
 
-int parent(const QStringList &workloads, const QString &csvPath, int runs)
+int parent(const QStringList &workloads, const QString &csvPath, int runs, const QString &only)
 {
     const QString self = QCoreApplication::applicationFilePath();
     QMap<QString, QMap<QString, double>> ribbon, floor;
@@ -309,8 +409,8 @@ int parent(const QStringList &workloads, const QString &csvPath, int runs)
         QList<QMap<QString, double>> r, f;
         // Alternate the kinds so that a burst of load hits both alike.
         for (int i = 0; i < runs; ++i) {
-            r << runChild(self, wl, QStringLiteral("ribbon"));
-            f << runChild(self, wl, QStringLiteral("floor"), int(r.last().value(QStringLiteral("narrow_px"))),
+            r << runChild(self, wl, QStringLiteral("ribbon"), only);
+            f << runChild(self, wl, QStringLiteral("floor"), only, int(r.last().value(QStringLiteral("narrow_px"))),
                           int(r.last().value(QStringLiteral("wide_px"))), int(r.last().value(QStringLiteral("shown_px"))));
         }
         ribbon[wl] = medianOf(r);
@@ -330,6 +430,8 @@ int parent(const QStringList &workloads, const QString &csvPath, int runs)
         std::printf("  %-46s %12s %12s %8s\n", "measure", "zelRibbon", "floor", "ratio");
         for (const Metric &m : metrics) {
             const QString key = QString::fromLatin1(m.key);
+            if (!ribbon[wl].contains(key) && !floor[wl].contains(key))
+                continue;
             const double a = ribbon[wl].value(key, -1), b = floor[wl].value(key, -1);
             const double ratio = b > 0 && a >= 0 ? a / b : NAN;
             std::printf("  %-46s %12.3f %12.3f %8.2f\n", m.label, a, b, ratio);
@@ -346,6 +448,8 @@ int parent(const QStringList &workloads, const QString &csvPath, int runs)
                 && QLatin1String(m.key) != QLatin1String("widgets"))
                 continue;
             const QString key = QString::fromLatin1(m.key);
+            if (!ribbon[workloads.first()].contains(key))
+                continue;
             QVector<double> x, yr, yf;
             for (const QString &wl : workloads) {
                 x << ribbon[wl].value(QStringLiteral("buttons"));
@@ -357,6 +461,28 @@ int parent(const QStringList &workloads, const QString &csvPath, int runs)
             cs << "growth,," << key << ',' << er << ',' << ef << ",\n";
         }
     }
+
+    // The shadow border painted while another window is active, in a small and a large
+    // application: the exponent must stay near 0.
+    const int borderWidgets[] = {1000, 10000};
+    QVector<double> bx, by;
+    std::printf("\nShadow border, all eight strips painted while another window is active (median of %d processes):\n",
+                runs);
+    std::printf("  %-46s %12s\n", "widgets in the application", "paint (ms)");
+    for (int n : borderWidgets) {
+        QList<QMap<QString, double>> b;
+        for (int i = 0; i < runs; ++i)
+            b << runProcess(self, {QStringLiteral("--border-widgets"), QString::number(n)});
+        const QMap<QString, double> m = medianOf(b);
+        bx << m.value(QStringLiteral("widgets"));
+        by << m.value(QStringLiteral("border_paint_ms"), -1);
+        std::printf("  %-46.0f %12.4f\n", bx.last(), by.last());
+        cs << "border," << bx.last() << ",border_paint_ms," << by.last() << ",,\n";
+    }
+    const double eb = exponent(bx, by);
+    std::printf("  %-46s %12.2f\n", "growth exponent over the widget count", eb);
+    cs << "growth,,border_paint_ms," << eb << ",,\n";
+
     std::fflush(stdout);
     if (writeCsv)
         std::fprintf(stderr, "\nwrote %s\n", qPrintable(csvPath));
@@ -373,8 +499,12 @@ int main(int argc, char *argv[])
     QCommandLineParser parser;
     parser.addOption({QStringLiteral("workload"), QStringLiteral("Child: workload S, M or L."), QStringLiteral("W")});
     parser.addOption({QStringLiteral("kind"), QStringLiteral("Child: ribbon or floor."), QStringLiteral("K")});
-    parser.addOption({QStringLiteral("only"), QStringLiteral("Child: only the resize or switch measure (profiling)."),
+    parser.addOption({QStringLiteral("only"),
+                      QStringLiteral("Only these measures besides build and show, comma separated: resize, switch, popups."),
                       QStringLiteral("M")});
+    parser.addOption({QStringLiteral("border-widgets"),
+                      QStringLiteral("Child: paint the shadow border with this many widgets in the application."),
+                      QStringLiteral("N")});
     parser.addOption({QStringLiteral("narrow"), QStringLiteral("Child: narrow width of the resize step."), QStringLiteral("PX")});
     parser.addOption({QStringLiteral("wide"), QStringLiteral("Child: wide width of the resize step."), QStringLiteral("PX")});
     parser.addOption({QStringLiteral("shown-width"), QStringLiteral("Child: width the window is shown at."), QStringLiteral("PX")});
@@ -387,6 +517,11 @@ int main(int argc, char *argv[])
     parser.addHelpOption();
     parser.process(args);
 
+    if (parser.isSet(QStringLiteral("border-widgets"))) {
+        qInstallMessageHandler(quietHandler);
+        zel::RibbonApplication app(argc, argv);
+        return borderChild(parser.value(QStringLiteral("border-widgets")).toInt(), 200);
+    }
     if (parser.isSet(QStringLiteral("workload"))) {
         qInstallMessageHandler(quietHandler);
         zel::RibbonApplication app(argc, argv);
@@ -396,5 +531,5 @@ int main(int argc, char *argv[])
     }
     QCoreApplication app(argc, argv);
     return parent(parser.value(QStringLiteral("workloads")).split(QLatin1Char(',')), parser.value(QStringLiteral("csv")),
-                  qMax(1, parser.value(QStringLiteral("runs")).toInt()));
+                  qMax(1, parser.value(QStringLiteral("runs")).toInt()), parser.value(QStringLiteral("only")));
 }

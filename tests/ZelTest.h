@@ -78,6 +78,8 @@ inline bool zelPopupShown(QWidget *popup)
 #define ZEL_TEST_MAIN(TestObject)                                   \
     int main(int argc, char *argv[])                                \
     {                                                               \
+        /* English whatever the locale the tests run in */       \
+        zel::RibbonApplication::setAutoLoadTranslations(false);     \
         zel::RibbonApplication app(argc, argv);                     \
         TestObject tc;                                              \
         QTEST_SET_MAIN_SOURCE_PATH                                  \

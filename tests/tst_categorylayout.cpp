@@ -55,6 +55,8 @@ private slots:
     void layoutBoundsAndOrigin();
     void stripWidthAndPlacement();
     void addAndRemoveOnLiveCategory();
+    void initialControlsArrangedOnFirstQuestion_data();
+    void initialControlsArrangedOnFirstQuestion();
     void deleteActionsFirst();
     void deleteCategoryOrStripFirst();
 
@@ -274,6 +276,56 @@ void tst_CategoryLayout::addAndRemoveOnLiveCategory()
     g->removeAction(b);
     category.removeRibbonAction(nullptr);
     QCOMPARE(category.categoryLayout()->count(), 1);
+}
+
+void tst_CategoryLayout::initialControlsArrangedOnFirstQuestion_data()
+{
+    QTest::addColumn<int>("first");
+    // What reaches the layout first: a question for its size, its minimum, a place, a
+    // geometry to lay out, or one more control.
+    QTest::newRow("size hint") << 0;
+    QTest::newRow("minimum size") << 1;
+    QTest::newRow("item rect") << 2;
+    QTest::newRow("geometry") << 3;
+    QTest::newRow("control added") << 4;
+}
+
+void tst_CategoryLayout::initialControlsArrangedOnFirstQuestion()
+{
+    QFETCH(int, first);
+    // Two small buttons 30 and 40 wide share a column of automatic rows.
+    RibbonCategoryAction *g = group();
+    RibbonCatSimpleAction *a = small(30);
+    RibbonCatSimpleAction *b = small(40);
+    g->addAction(a, -1);
+    g->addAction(b, -1);
+    RibbonCategory category(nullptr, *g);
+    RibbonCategoryLayout *layout = category.categoryLayout();
+    const int row = usable() / 3;
+    switch (first) {
+    case 0:
+        QCOMPARE(layout->sizeHint(), QSize(3 + 40 + 4, height()));
+        break;
+    case 1:
+        QCOMPARE(layout->minimumSize(), QSize(3 + 40 + 4, height()));
+        break;
+    case 2:
+        QCOMPARE(layout->itemRect(1), QRect(3, rowY(row, 1, S(22)), 40, S(22)));
+        break;
+    case 3:
+        layout->setGeometry(QRect(10, 20, 200, height()));
+        QCOMPARE(category.widget(b)->geometry(), QRect(13, 20 + rowY(row, 1, S(22)), 40, S(22)));
+        break;
+    case 4: {
+        // The third control fills the column's last row and the column keeps its width.
+        g->addAction(small(), -1);
+        QCOMPARE(layout->itemRect(2), QRect(3, rowY(row, 2, S(22)), 22, S(22)));
+        break;
+    }
+    }
+    QCOMPARE(layout->itemRect(0), QRect(3, rowY(row, 0, S(22)), 30, S(22)));
+    QCOMPARE(category.sizeHint(), QSize(50, height()));
+    QCOMPARE(rectOf(category, b), QRect(3, rowY(row, 1, S(22)), 40, S(22)));
 }
 
 void tst_CategoryLayout::deleteActionsFirst()

@@ -598,6 +598,38 @@ private slots:
         QVERIFY(title.isValid() && title.right() >= local.right() + 3);
     }
 
+    // However narrow the window, the band never runs under the window buttons: where the
+    // set's tab sits below them, the title row shows the band only left of them.
+    void contextualBandStopsBeforeWindowButtons()
+    {
+        buildWindow();
+        for (const char *name : {"Insert", "Design", "Layout", "References", "Mailings", "Review", "View"})
+            m_window->ribbonMenuBar().addAction(new RibbonCategoriesPanelAction(QLatin1String(name), m_owner.get()));
+        const QColor background(255, 200, 0);
+        auto *set = new RibbonContextCategoryPanelAction(background, QColor(200, 0, 0), QColor(0, 0, 120),
+                                                         m_owner.get());
+        set->setText(QStringLiteral("Table Tools"));
+        set->addPanelAction(new RibbonCategoriesPanelAction(QStringLiteral("Format"), m_owner.get()));
+        RibbonMenuBar &bar = m_window->ribbonMenuBar();
+        bar.ribbonContextCategoryPanel().addContextPanelAction(set);
+        bar.showContextPanelAction(set);
+        QWidget *minimize = m_window->findChild<QWidget *>(QStringLiteral("minimizeButton"));
+        QVERIFY(minimize);
+        for (const int width : {900, 700, 560, 420, 300}) {
+            m_window->resize(width, 400);
+            QTRY_VERIFY(minimize->mapTo(m_window.get(), QPoint()).x() < m_window->width() - 40);
+            const QImage image = grabbed();
+            // From the minimise button to the right edge, the height of the buttons.
+            const QPoint at = minimize->mapTo(m_window.get(), QPoint(0, 0));
+            const QRect buttons(at, QSize(m_window->width() - at.x(), minimize->height()));
+            for (int y = buttons.top(); y <= buttons.bottom(); ++y) {
+                for (int x = buttons.left(); x <= buttons.right() && x < image.width(); ++x)
+                    QVERIFY2(image.pixelColor(x, y) != background,
+                             qPrintable(QStringLiteral("width %1 at %2,%3").arg(width).arg(x).arg(y)));
+            }
+        }
+    }
+
     void lifetimes()
     {
         // The model belongs to the host and outlives the window; the central widget goes with it.

@@ -7,6 +7,7 @@
 #include <QMouseEvent>
 #include <QPointer>
 #include <QTimer>
+#include <QWindow>
 
 #include <algorithm>
 #include <memory>
@@ -152,6 +153,7 @@ private slots:
     void minimisingHidesAndRestoringShows();
     void closedWindowKeepsItemsHidden();
     void maskAndActivation();
+    void maskFollowsActivationWithoutGrab();
     void shadowFadesAwayFromWindow_data();
     void shadowFadesAwayFromWindow();
     void stayOnTopShadowNeedsActiveApplication();
@@ -444,6 +446,28 @@ void tst_RibbonWindowBorder::maskAndActivation()
     QCOMPARE(m_window->geometry(), kGeometry);
     left->grab();
     QVERIFY(left->mask().isEmpty());
+}
+
+void tst_RibbonWindowBorder::maskFollowsActivationWithoutGrab()
+{
+    // The items repaint, and so recompute their mask, by themselves when the activation
+    // goes elsewhere; a window that is not a widget covers them as much as one that is.
+    makeWindow();
+    QVERIFY(showWindow(true));
+    QWidget *left = item(0);
+    QVERIFY(left);
+    QTRY_VERIFY(left->mask().isEmpty());
+
+    const int s = RibbonPlatform::sizingFrameThickness();
+    const int cutFrom = 300 - (RibbonPlatform::captionHeight() + s) - left->y();
+    QWindow other;
+    other.setGeometry(50, 300, 100, 100);
+    other.show();
+    other.requestActivate();
+    QTRY_VERIFY(!m_window->isActiveWindow());
+    QTRY_VERIFY(left->mask().contains(QPoint(s - 1, cutFrom - 1)));
+    QVERIFY(!left->mask().contains(QPoint(s - 1, cutFrom)));
+    QVERIFY(!left->mask().contains(QPoint(s - 1, left->height() - 1)));
 }
 
 void tst_RibbonWindowBorder::shadowFadesAwayFromWindow_data()

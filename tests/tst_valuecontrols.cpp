@@ -25,6 +25,12 @@ using namespace zel;
 
 namespace {
 
+// The _144dpi run: widths that hold text are half as large again.
+bool highDpi()
+{
+    return RibbonApplication::theApp().dpiFactor().first > 1.4;
+}
+
 QStringList comboTexts(const QComboBox *combo)
 {
     QStringList texts;
@@ -91,9 +97,11 @@ private slots:
         const QString color = RibbonApplication::theApp().ribbonStyle().normalCategoryTextColor().name();
         QCOMPARE(first->styleSheet(), QStringLiteral("QCheckBox { color: ") + color + QStringLiteral("; }"));
         const int textWidth = first->fontMetrics().horizontalAdvance(first->text());
-        QCOMPARE(first->sizeHint(), QSize(textWidth + 20, scaled(22)));
+        // The indicator's 20 pixels grow with the horizontal resolution, as the text does.
+        const int indicator = highDpi() ? 30 : 20;
+        QCOMPARE(first->sizeHint(), QSize(textWidth + indicator, scaled(22)));
         RibbonCatCheckBoxAction unlabelled(nullptr);
-        QCOMPARE(RibbonCatCheckBox(unlabelled, nullptr).sizeHint(), QSize(20, scaled(22)));
+        QCOMPARE(RibbonCatCheckBox(unlabelled, nullptr).sizeHint(), QSize(indicator, scaled(22)));
 
         QSignalSpy triggered(&action, SIGNAL(triggered(bool)));
         QTest::mouseClick(first, Qt::LeftButton, Qt::NoModifier, QPoint(6, first->height() / 2));
@@ -172,7 +180,7 @@ private slots:
         action.setIconWidth(30);
         action.addItem(QStringLiteral("Left"));
         RibbonCatComboComboBox box(action, nullptr);
-        QCOMPARE(box.size(), QSize(48, 22));
+        QCOMPARE(box.size(), QSize(highDpi() ? 72 : 48, 22));
         QCOMPARE(box.iconSize(), QSize(30, 22));
         QCOMPARE(box.lineEdit()->inputMask(), QStringLiteral("99"));
         QCOMPARE(box.validator(), &validator);
@@ -196,7 +204,7 @@ private slots:
         RibbonCatComboComboBox late(action, nullptr);
         QCOMPARE(late.count(), 3);
         QVERIFY(late.itemIcon(0).isNull() && !late.itemIcon(1).isNull() && late.itemIcon(2).isNull());
-        QCOMPARE(late.width(), 80);
+        QCOMPARE(late.width(), highDpi() ? 120 : 80);
         QVERIFY(!late.isEditable());
         action.setEditable(true);
         QVERIFY(box.isEditable() && late.isEditable());
@@ -269,7 +277,7 @@ private slots:
         RibbonCatComboAction beside(QStringLiteral("Zoom:"), nullptr);
         RibbonCatComboWidget widget(beside, nullptr);
         const int labelWidth = widget.label()->fontMetrics().horizontalAdvance(QStringLiteral("Zoom:"));
-        QCOMPARE(widget.size(), QSize(labelWidth + 58, 22));
+        QCOMPARE(widget.size(), QSize(labelWidth + (highDpi() ? 82 : 58), 22));
         QCOMPARE(widget.minimumSize(), widget.maximumSize());
         QCOMPARE(widget.sizePolicy(), QSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed));
 
@@ -351,7 +359,7 @@ private slots:
         QWidget window;
         const auto [first, second] = showPair<RibbonCatFontFamilyComboBox>(window, action);
         QVERIFY(QTest::qWaitForWindowExposed(&window));
-        QCOMPARE(first->size(), QSize(140, 22));
+        QCOMPARE(first->size(), QSize(highDpi() ? 210 : 140, 22));
 
         QSignalSpy changed(&action, SIGNAL(fontFamilyChanged(QFont)));
         QSignalSpy activated(&action, SIGNAL(ribbonActionActivated()));

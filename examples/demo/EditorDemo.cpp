@@ -11,6 +11,7 @@
 #include "BackstageListModel.h"
 #include "BackstageView.h"
 #include "BackstageWelcomeScreen.h"
+#include "RibbonApplication.h"
 #include "RibbonCatActionGroup.h"
 #include "RibbonCatCheckBoxAction.h"
 #include "RibbonCatComboAction.h"
@@ -108,7 +109,9 @@ public:
         setFrameShape(QFrame::NoFrame);
         setAutoFillBackground(true);
         QPalette pal = palette();
+        // Paper and ink keep their colours in either palette of the ribbon.
         pal.setColor(QPalette::Base, Qt::white);
+        pal.setColor(QPalette::Text, Qt::black);
         pal.setColor(QPalette::Window, QColor(0xE6, 0xE6, 0xE6));
         setPalette(pal);
         viewport()->setAutoFillBackground(true);
@@ -1028,6 +1031,16 @@ RibbonCategoriesPanelAction *EditorDemo::buildViewTab()
     connect(d->showNavigation, &QAction::toggled, d->navigation, &NavigationPane::setShown);
     connect(d->navigation, &NavigationPane::shownChanged, d->showNavigation, &QAction::setChecked);
     show->addAction(d->showNavigation, 0);
+    // The library's two palettes, switched while the program runs.
+    auto *dark = new RibbonCatCheckBoxAction(tr("Dark"), this);
+    dark->setObjectName(QStringLiteral("darkPalette"));
+    dark->setToolTip(tr("Show the ribbon in its dark palette"));
+    dark->setChecked(RibbonApplication::theApp().getRibbonStyle() == RibbonApplication::RibbonStyleDark);
+    connect(dark, &QAction::toggled, this, [](bool on) {
+        RibbonApplication::theApp().setRibbonStyle(on ? RibbonApplication::RibbonStyleDark
+                                                      : RibbonApplication::RibbonStyleDefault);
+    });
+    show->addAction(dark, 1);
     viewTab->addCategory(show);
     connect(zoomIn, &QAction::triggered, this, [this] { zoomStep(1); });
     connect(zoomOut, &QAction::triggered, this, [this] { zoomStep(-1); });

@@ -6,6 +6,7 @@
 
 #include "BackstageView.h"
 #include "OfficePopupButton.h"
+#include "RibbonApplication.h"
 #include "RibbonButtonMain.h"
 #include "RibbonCatColorMenuAction.h"
 #include "RibbonCatColorMenuButton.h"
@@ -268,6 +269,13 @@ int writeEditorScreenshots(const QDir &dir)
              if (pages.size() > 1)
                  pages.at(1)->click();
          }, [](EditorDemo &w) -> QWidget * { return w.findChild<zel::RibbonOptionsDialog *>(); }},
+        // The dark palette, switched on as a user does: View, then Dark.
+        {QStringLiteral("editor-dark"), QSize(1280, 800), [](EditorDemo &w) {
+             w.showMainView();
+             showTab(w, QStringLiteral("View"));
+             if (auto *dark = w.findChild<QAction *>(QStringLiteral("darkPalette")))
+                 dark->trigger();
+         }},
         {QStringLiteral("editor-info"), QSize(1280, 800), [](EditorDemo &w) {
              w.showBackstagePage(QStringLiteral("Info"));
              for (zel::RibbonStackedButton *button : w.findChildren<zel::RibbonStackedButton *>()) {
@@ -308,6 +316,7 @@ int writeEditorScreenshots(const QDir &dir)
             popup->close();
         window->close();
         window.reset();
+        zel::RibbonApplication::theApp().setRibbonStyle(zel::RibbonApplication::RibbonStyleDefault);
         settle();
     }
     return 0;

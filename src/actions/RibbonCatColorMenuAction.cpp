@@ -193,20 +193,31 @@ void RibbonCatColorMenuAction::updateIcon()
     }
     const bool large = m_size == ColorSizeLarge;
     const int extent = large ? 32 : 16;
-    QImage image(extent, extent, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    painter.drawPixmap(0, 0, m_baseIcon.pixmap(extent, extent));
-
     QColor bar;
     if (isAutomatic())
         bar = m_automaticColor;
     else if (!isNone())
         bar = m_color;
-    if (bar.isValid())
-        painter.fillRect(large ? QRect(2, 26, 28, 4) : QRect(0, 12, 16, 4), bar);
-    painter.end();
-    setIcon(QIcon(QPixmap::fromImage(image)));
+    // Composed at 1x and 2x, so a high-resolution screen gets the base icon's finer
+    // drawing rather than the 1x one scaled up.
+    QIcon composed;
+    for (const int ratio : {1, 2}) {
+        QImage image(extent * ratio, extent * ratio, QImage::Format_ARGB32_Premultiplied);
+        image.setDevicePixelRatio(ratio);
+        image.fill(Qt::transparent);
+        QPainter painter(&image);
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        // A base icon without a drawing as large as asked keeps its own size (in
+        // pixels of the 1x image) at the top left.
+        const QPixmap base = m_baseIcon.pixmap(QSize(extent, extent) * ratio);
+        painter.drawPixmap(QRectF(QPointF(0, 0), QSizeF(base.size()) / (base.devicePixelRatio() * ratio)), base,
+                           QRectF(base.rect()));
+        if (bar.isValid())
+            painter.fillRect(large ? QRect(2, 26, 28, 4) : QRect(0, 12, 16, 4), bar);
+        painter.end();
+        composed.addPixmap(QPixmap::fromImage(image));
+    }
+    setIcon(composed);
 }
 
 } // namespace zel

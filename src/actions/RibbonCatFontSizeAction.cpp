@@ -1,5 +1,7 @@
 #include "RibbonCatFontSizeAction.h"
 
+#include "RibbonScale_p.h"
+
 #include <QComboBox>
 #include <QIntValidator>
 #include <QLineEdit>
@@ -8,6 +10,9 @@
 namespace zel {
 
 namespace {
+
+// Room the editable field keeps around a size at 96 DPI (its frame and text margins).
+const int FieldMargin = 8;
 
 // The first entry is a placeholder that always shows the current size.
 const char *const fontSizeEntries[] = {"", "8", "9", "10", "11", "12", "14", "16", "18",
@@ -68,6 +73,12 @@ QComboBox *RibbonCatFontSizeAction::createComboBox(QWidget *parent)
     combo->setValidator(new QIntValidator(1, 1638, combo));
     // One row of a ribbon group, like the family picker beside it.
     combo->setFixedHeight(22);
+    // The box measures its entries, but its frame and arrow keep their pixel widths, so
+    // at a higher resolution the field is left too narrow and scrolls the size; it gets
+    // the DPI factor's share of a field margin more (nothing at 96 DPI).
+    const int extra = scaledX(FieldMargin) - FieldMargin;
+    if (extra > 0)
+        combo->setMinimumWidth(combo->sizeHint().width() + extra);
     combo->show();
     connect(combo, SIGNAL(currentIndexChanged(int)), this, SLOT(setFontSize(const int)));
     connect(combo->lineEdit(), SIGNAL(editingFinished()), this, SLOT(onSizeTyped()));

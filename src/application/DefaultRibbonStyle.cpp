@@ -1,6 +1,7 @@
 #include "DefaultRibbonStyle.h"
 
 #include "RibbonApplication.h"
+#include "RibbonPaint_p.h"
 
 #include <initializer_list>
 
@@ -25,6 +26,7 @@ struct SheetColors
     QString separator;
     QString text;
     QString lightGray;
+    QString base;
 };
 
 // Height of a list row in logical pixels, scaled by the vertical resolution.
@@ -67,27 +69,27 @@ QString greyScrollBarSheet(const SheetColors &c)
 {
     QString sheet;
     sheet += QLatin1String("QScrollBar:horizontal { background-color: ") + c.groove + QLatin1String("; height: 15px; margin: 0px 15px 0px 15px; }");
-    sheet += QLatin1String("QScrollBar::handle:horizontal { border: 1px solid; border-color: ") + c.grayHover + QLatin1String("; background-color: white; min-width: 15px; }");
+    sheet += QLatin1String("QScrollBar::handle:horizontal { border: 1px solid; border-color: ") + c.grayHover + QLatin1String("; background-color: ") + c.base + QLatin1String("; min-width: 15px; }");
     sheet += QLatin1String("QScrollBar::handle:horizontal:hover { border-color: ") + c.grayHover + QLatin1String("; background-color: ") + c.handleHover + QLatin1String("; }");
     sheet += QLatin1String("QScrollBar::handle:horizontal:pressed { border-color: ") + c.grayPressed + QLatin1String("; background-color: ") + c.handleHover + QLatin1String("; }");
-    sheet += QLatin1String("QScrollBar::add-line:horizontal { border: 1px solid; border-color: ") + c.grayHover + QLatin1String("; background-color: white; width: 15px; subcontrol-position: right; subcontrol-origin: margin; }");
-    sheet += QLatin1String("QScrollBar::add-line:horizontal:hover { border-color: ") + c.grayPressed + QLatin1String("; background-color: white; }");
+    sheet += QLatin1String("QScrollBar::add-line:horizontal { border: 1px solid; border-color: ") + c.grayHover + QLatin1String("; background-color: ") + c.base + QLatin1String("; width: 15px; subcontrol-position: right; subcontrol-origin: margin; }");
+    sheet += QLatin1String("QScrollBar::add-line:horizontal:hover { border-color: ") + c.grayPressed + QLatin1String("; background-color: ") + c.base + QLatin1String("; }");
     sheet += QLatin1String("QScrollBar::add-line:horizontal:pressed { border-color: ") + c.grayPressed + QLatin1String("; background-color: ") + c.handleHover + QLatin1String("; }");
-    sheet += QLatin1String("QScrollBar::sub-line:horizontal { border: 1px solid; border-color: ") + c.grayHover + QLatin1String("; background-color: white; width: 15px; subcontrol-position: left; subcontrol-origin: margin; }");
-    sheet += QLatin1String("QScrollBar::sub-line:horizontal:hover { border-color: ") + c.grayPressed + QLatin1String("; background-color: white; }");
+    sheet += QLatin1String("QScrollBar::sub-line:horizontal { border: 1px solid; border-color: ") + c.grayHover + QLatin1String("; background-color: ") + c.base + QLatin1String("; width: 15px; subcontrol-position: left; subcontrol-origin: margin; }");
+    sheet += QLatin1String("QScrollBar::sub-line:horizontal:hover { border-color: ") + c.grayPressed + QLatin1String("; background-color: ") + c.base + QLatin1String("; }");
     sheet += QLatin1String("QScrollBar::sub-line:horizontal:pressed { border-color: ") + c.grayPressed + QLatin1String("; background-color: ") + c.handleHover + QLatin1String("; }");
     sheet += arrowRules("QScrollBar::left-arrow", ArrowLeft, c.grayPressed);
     sheet += arrowRules("QScrollBar::right-arrow", ArrowRight, c.grayPressed);
     sheet += QLatin1String("QScrollBar::add-page:horizontal, QScrollBar::sub-page:horizontal { background: none; }");
     sheet += QLatin1String("QScrollBar:vertical { background-color: ") + c.groove + QLatin1String("; width: 15px; margin: 15px 0px 15px 0px; }");
-    sheet += QLatin1String("QScrollBar::handle:vertical { border: 1px solid; border-color: ") + c.grayHover + QLatin1String("; background-color: white; min-height: 15px; }");
+    sheet += QLatin1String("QScrollBar::handle:vertical { border: 1px solid; border-color: ") + c.grayHover + QLatin1String("; background-color: ") + c.base + QLatin1String("; min-height: 15px; }");
     sheet += QLatin1String("QScrollBar::handle:vertical:hover { border-color: ") + c.grayHover + QLatin1String("; background-color: ") + c.handleHover + QLatin1String("; }");
     sheet += QLatin1String("QScrollBar::handle:vertical:pressed { border-color: ") + c.grayPressed + QLatin1String("; background-color: ") + c.handleHover + QLatin1String("; }");
-    sheet += QLatin1String("QScrollBar::add-line:vertical { border: 1px solid; border-color: ") + c.grayHover + QLatin1String("; background-color: white; height: 15px; subcontrol-position: bottom; subcontrol-origin: margin; }");
-    sheet += QLatin1String("QScrollBar::add-line:vertical:hover { border-color: ") + c.grayPressed + QLatin1String("; background-color: white; }");
+    sheet += QLatin1String("QScrollBar::add-line:vertical { border: 1px solid; border-color: ") + c.grayHover + QLatin1String("; background-color: ") + c.base + QLatin1String("; height: 15px; subcontrol-position: bottom; subcontrol-origin: margin; }");
+    sheet += QLatin1String("QScrollBar::add-line:vertical:hover { border-color: ") + c.grayPressed + QLatin1String("; background-color: ") + c.base + QLatin1String("; }");
     sheet += QLatin1String("QScrollBar::add-line:vertical:pressed { border-color: ") + c.grayPressed + QLatin1String("; background-color: ") + c.handleHover + QLatin1String("; }");
-    sheet += QLatin1String("QScrollBar::sub-line:vertical { border: 1px solid; border-color: ") + c.grayHover + QLatin1String("; background-color: white; height: 15px; subcontrol-position: top; subcontrol-origin: margin; }");
-    sheet += QLatin1String("QScrollBar::sub-line:vertical:hover { border-color: ") + c.grayPressed + QLatin1String("; background-color: white; }");
+    sheet += QLatin1String("QScrollBar::sub-line:vertical { border: 1px solid; border-color: ") + c.grayHover + QLatin1String("; background-color: ") + c.base + QLatin1String("; height: 15px; subcontrol-position: top; subcontrol-origin: margin; }");
+    sheet += QLatin1String("QScrollBar::sub-line:vertical:hover { border-color: ") + c.grayPressed + QLatin1String("; background-color: ") + c.base + QLatin1String("; }");
     sheet += QLatin1String("QScrollBar::sub-line:vertical:pressed { border-color: ") + c.grayPressed + QLatin1String("; background-color: ") + c.handleHover + QLatin1String("; }");
     sheet += arrowRules("QScrollBar::up-arrow", ArrowUp, c.grayPressed);
     sheet += arrowRules("QScrollBar::down-arrow", ArrowDown, c.grayPressed);
@@ -117,7 +119,7 @@ QString blueScrollBarSheet(const SheetColors &c)
 QString lineEditSheet(const SheetColors &c)
 {
     QString sheet;
-    sheet += QLatin1String("QLineEdit { border: 1px solid; border-color: ") + c.grayBorder + QLatin1String("; background-color: white; }");
+    sheet += QLatin1String("QLineEdit { border: 1px solid; border-color: ") + c.grayBorder + QLatin1String("; background-color: ") + c.base + QLatin1String("; }");
     sheet += QLatin1String("QLineEdit:focus { border-color: ") + c.blueBorder + QLatin1String("; }");
     return sheet;
 }
@@ -125,7 +127,7 @@ QString lineEditSheet(const SheetColors &c)
 QString toolButtonSheet(const SheetColors &c)
 {
     QString sheet;
-    sheet += QLatin1String("QToolButton { border: 1px solid; border-color: ") + c.grayBorder + QLatin1String("; background-color: white; }");
+    sheet += QLatin1String("QToolButton { border: 1px solid; border-color: ") + c.grayBorder + QLatin1String("; background-color: ") + c.base + QLatin1String("; }");
     sheet += QLatin1String("QToolButton:hover { border-left: 1px solid; border-bottom: 1px solid; border-color: ") + c.blueBorder + QLatin1String("; width: 15px; height: 10px; background-color: ") + c.blueHover + QLatin1String("; }");
     sheet += QLatin1String("QToolButton:pressed { border-left: 1px solid; border-bottom: 1px solid; border-color: ") + c.blueBorder + QLatin1String("; width: 15px; height: 10px; background-color: ") + c.bluePressed + QLatin1String("; }");
     return sheet;
@@ -134,14 +136,14 @@ QString toolButtonSheet(const SheetColors &c)
 QString spinBoxSheet(const SheetColors &c)
 {
     QString sheet;
-    sheet += QLatin1String("QSpinBox { border: 1px solid; border-color: ") + c.grayBorder + QLatin1String("; background-color: white; }");
+    sheet += QLatin1String("QSpinBox { border: 1px solid; border-color: ") + c.grayBorder + QLatin1String("; background-color: ") + c.base + QLatin1String("; }");
     sheet += QLatin1String("QSpinBox:hover { border-color: ") + c.blueBorder + QLatin1String("; }");
     sheet += arrowRules("QSpinBox::up-arrow", ArrowUp, c.grayPressed);
-    sheet += QLatin1String("QSpinBox::up-button { width: 16px; background-color: white; }");
+    sheet += QLatin1String("QSpinBox::up-button { width: 16px; background-color: ") + c.base + QLatin1String("; }");
     sheet += QLatin1String("QSpinBox::up-button:hover { border-left: 1px solid; border-bottom: 1px solid; border-color: ") + c.blueBorder + QLatin1String("; width: 15px; height: 10px; background-color: ") + c.blueHover + QLatin1String("; }");
     sheet += QLatin1String("QSpinBox::up-button:pressed { border-left: 1px solid; border-bottom: 1px solid; border-color: ") + c.blueBorder + QLatin1String("; width: 15px; height: 10px; background-color: ") + c.bluePressed + QLatin1String("; }");
     sheet += arrowRules("QSpinBox::down-arrow", ArrowDown, c.grayPressed);
-    sheet += QLatin1String("QSpinBox::down-button { width: 16px; background-color: white; }");
+    sheet += QLatin1String("QSpinBox::down-button { width: 16px; background-color: ") + c.base + QLatin1String("; }");
     sheet += QLatin1String("QSpinBox::down-button:hover { border-left: 1px solid; border-top: 1px solid; border-color: ") + c.blueBorder + QLatin1String("; width: 15px; height: 10px; background-color: ") + c.blueHover + QLatin1String("; }");
     sheet += QLatin1String("QSpinBox::down-button:pressed { border-left: 1px solid; border-top: 1px solid; border-color: ") + c.blueBorder + QLatin1String("; width: 15px; height: 10px; background-color: ") + c.bluePressed + QLatin1String("; }");
     return sheet;
@@ -150,10 +152,10 @@ QString spinBoxSheet(const SheetColors &c)
 QString dateEditSheet(const SheetColors &c)
 {
     QString sheet;
-    sheet += QLatin1String("QDateEdit { border: 1px solid; border-color: ") + c.grayBorder + QLatin1String("; background-color: white; }");
+    sheet += QLatin1String("QDateEdit { border: 1px solid; border-color: ") + c.grayBorder + QLatin1String("; background-color: ") + c.base + QLatin1String("; }");
     sheet += QLatin1String("QDateEdit:focus { border-color: ") + c.blueBorder + QLatin1String("; }");
     sheet += arrowRules("QDateEdit::down-arrow", ArrowDown, c.text, {"", ":focus"});
-    sheet += QLatin1String("QDateEdit::drop-down { background-color: white; }");
+    sheet += QLatin1String("QDateEdit::drop-down { background-color: ") + c.base + QLatin1String("; }");
     return sheet;
 }
 
@@ -178,13 +180,13 @@ QString listWidgetBorderRules(const SheetColors &c)
 QString comboBoxRules(const SheetColors &c)
 {
     QString sheet;
-    sheet += QLatin1String("QComboBox { font: 9pt \"Segoe UI\"; color: ") + c.text + QLatin1String("; border: 1px solid; border-color: ") + c.grayBorder + QLatin1String("; background-color: white; }");
+    sheet += QLatin1String("QComboBox { font: 9pt \"Segoe UI\"; color: ") + c.text + QLatin1String("; border: 1px solid; border-color: ") + c.grayBorder + QLatin1String("; background-color: ") + c.base + QLatin1String("; }");
     sheet += QLatin1String("QComboBox:hover { border-color: ") + c.blueBorder + QLatin1String("; background-color: ") + c.blueHover + QLatin1String("; }");
     sheet += QLatin1String("QComboBox:pressed { border-color: ") + c.blueBorder + QLatin1String("; background-color: ") + c.bluePressed + QLatin1String("; }");
     sheet += QLatin1String("QComboBox::drop-down { border-width: 0px; }");
     sheet += arrowRules("QComboBox::down-arrow", ArrowDown, c.text, {"", "::hover", "::pressed"});
     sheet += QLatin1String("QComboBox QAbstractItemView { font: 9pt \"Segoe UI\"; color: ") + c.text + QLatin1String("; outline: 0px; border: 1px solid ") + c.grayBorder + QLatin1String(";selection-color: ") + c.text + QLatin1String("; selection-background-color: ") + c.blueHover + QLatin1String("; }");
-    sheet += QLatin1String("QComboBox QAbstractItemView::item { border: 1px solid white; }");
+    sheet += QLatin1String("QComboBox QAbstractItemView::item { border: 1px solid ") + c.base + QLatin1String("; }");
     return sheet;
 }
 
@@ -203,7 +205,7 @@ QString welcomeRecentListSheet(const SheetColors &c)
 {
     QString sheet;
     sheet += QLatin1String("QListView { background-color: ") + c.accent + QLatin1String("; }");
-    sheet += QLatin1String("QListView { alternate-background-color: white; }");
+    sheet += QLatin1String("QListView { alternate-background-color: ") + c.base + QLatin1String("; }");
     sheet += QLatin1String("QListView::item:selected:!active { background: ") + c.blueSelected + QLatin1String("; }");
     sheet += QLatin1String("QListView::item:selected:active { background: ") + c.blueSelected + QLatin1String("; }");
     sheet += QLatin1String("QListView::item:hover { background: ") + c.blueDark + QLatin1String("; }");
@@ -213,7 +215,7 @@ QString welcomeRecentListSheet(const SheetColors &c)
 QString openRecentListSheet(const SheetColors &c)
 {
     QString sheet;
-    sheet += QLatin1String("QListView { background-color: white; }");
+    sheet += QLatin1String("QListView { background-color: ") + c.base + QLatin1String("; }");
     sheet += QLatin1String("QListView { alternate-background-color: ") + c.text + QLatin1String("; }");
     sheet += QLatin1String("QListView::item:selected:!active { background: ") + c.blueBorder + QLatin1String("; }");
     sheet += QLatin1String("QListView::item:selected:active { background: ") + c.blueBorder + QLatin1String("; }");
@@ -247,8 +249,36 @@ DefaultRibbonStyle::DefaultRibbonStyle(const QString &imagePath)
     m_mainMenuBgColor = QColor(QStringLiteral("#FAFAFA"));
     m_statusBarTextColor = QColor(Qt::white);
 
+    loadImages(imagePath);
+
+    m_backstageSimpleButtonColor = QColor(253, 253, 253);
+    m_backstageBlackTextColor = QColor(38, 38, 38);
+    m_backstageGrayBorderColor = QColor(181, 181, 181);
+    m_backstageGrayBorderHoverColor = QColor(171, 171, 171);
+    m_backstageGrayBorderPressedColor = QColor(118, 118, 118);
+    m_backstageBlueBorderHoverColor = QColor(122, 176, 231);
+    m_backstageBlueBorderPressedColor = QColor(122, 176, 231);
+    m_backstageBlueHoverColor = QColor(213, 225, 242);
+    m_backstageBluePressedColor = QColor(163, 189, 227);
+    m_backstageSeparatorColor = QColor(225, 225, 225);
+    m_backstageScrollHandleHoverColor = QColor(240, 240, 240);
+    m_backstageScrollGrooveColor = QColor(243, 243, 243);
+    m_backstageTextColor = QColor(68, 68, 68);
+    m_backstageLabelTextColor = QColor(68, 68, 68);
+    m_backstageLightGrayColor = QColor(238, 238, 238);
+    m_backstageBlueItemHoverColor = QColor(25, 71, 138);
+    m_backstageBlueItemSelectedColor = QColor(62, 109, 181);
+    m_backstagePrintPreviewBorderColor = QColor(192, 192, 192);
+
+    buildStyleSheets({QStringLiteral("white"), QStringLiteral("rgb(100, 100, 100)"), QStringLiteral("rgb(198, 198, 198)")});
+}
+
+DefaultRibbonStyle::DefaultRibbonStyle() = default;
+
+void DefaultRibbonStyle::loadImages(const QString &imagePath)
+{
     // A file missing from imagePath leaves a null pixmap, which painting code skips.
-    const auto image = [&imagePath](const QString &fileName) { return QPixmap(imagePath + fileName); };
+    const auto image = [&imagePath](const QString &fileName) { return RibbonPaint::loadImage(imagePath + fileName); };
     m_mainBorder = image(QStringLiteral("MainBorder.png"));
     m_mainBorderCaption = image(QStringLiteral("MainBorderCaption.png"));
     m_statusBar = image(QStringLiteral("StatusBar.png"));
@@ -300,26 +330,10 @@ DefaultRibbonStyle::DefaultRibbonStyle(const QString &imagePath)
     m_tabBarTabShape = image(QStringLiteral("MenuPaneBarButton.png"));
     m_tooltipBack = image(QStringLiteral("TooltipBack.png"));
     m_terminateButton = image(QStringLiteral("TerminateButton.png"));
+}
 
-    m_backstageSimpleButtonColor = QColor(253, 253, 253);
-    m_backstageBlackTextColor = QColor(38, 38, 38);
-    m_backstageGrayBorderColor = QColor(181, 181, 181);
-    m_backstageGrayBorderHoverColor = QColor(171, 171, 171);
-    m_backstageGrayBorderPressedColor = QColor(118, 118, 118);
-    m_backstageBlueBorderHoverColor = QColor(122, 176, 231);
-    m_backstageBlueBorderPressedColor = QColor(122, 176, 231);
-    m_backstageBlueHoverColor = QColor(213, 225, 242);
-    m_backstageBluePressedColor = QColor(163, 189, 227);
-    m_backstageSeparatorColor = QColor(225, 225, 225);
-    m_backstageScrollHandleHoverColor = QColor(240, 240, 240);
-    m_backstageScrollGrooveColor = QColor(243, 243, 243);
-    m_backstageTextColor = QColor(68, 68, 68);
-    m_backstageLabelTextColor = QColor(68, 68, 68);
-    m_backstageLightGrayColor = QColor(238, 238, 238);
-    m_backstageBlueItemHoverColor = QColor(25, 71, 138);
-    m_backstageBlueItemSelectedColor = QColor(62, 109, 181);
-    m_backstagePrintPreviewBorderColor = QColor(192, 192, 192);
-
+void DefaultRibbonStyle::buildStyleSheets(const SheetTones &tones)
+{
     SheetColors c;
     c.accent = m_frameBorderColor.name();
     c.groove = m_backstageScrollGrooveColor.name();
@@ -335,6 +349,7 @@ DefaultRibbonStyle::DefaultRibbonStyle(const QString &imagePath)
     c.separator = m_backstageSeparatorColor.name();
     c.text = m_backstageTextColor.name();
     c.lightGray = m_backstageLightGrayColor.name();
+    c.base = tones.base;
 
     const QString scrollBars = greyScrollBarSheet(c);
     m_backstageLineEditStyle = lineEditSheet(c);
@@ -346,7 +361,7 @@ DefaultRibbonStyle::DefaultRibbonStyle(const QString &imagePath)
     m_backstageListWidgetStyle = listWidgetRules(c, rowHeightText(55.0)) + scrollBars;
     m_backstageListWidgetWithBorderStyle = m_backstageListWidgetStyle + listWidgetBorderRules(c);
     m_backstageMenuStyle = comboBoxRules(c) + scrollBars;
-    m_backstageTextEditStyle = QLatin1String("border: 1px solid rgb(198, 198, 198); font: 11pt \"Segoe UI\"; color: rgb(100, 100, 100);");
+    m_backstageTextEditStyle = QLatin1String("border: 1px solid ") + tones.editBorder + QLatin1String("; font: 11pt \"Segoe UI\"; color: ") + tones.mutedText + QLatin1String(";");
     m_backstageLabelXLargeStyle = QLatin1String("font: 30pt \"Segoe UI Light\"; color: ") + c.text + QLatin1String(";");
     m_backstageLabelXLargeWhiteStyle = QLatin1String("font: 30pt \"Segoe UI Light\"; color: white;");
     m_backstageLabelLargeRecentWhiteStyle = QLatin1String("font: 16pt \"Segoe UI\"; color: white;");
@@ -356,10 +371,10 @@ DefaultRibbonStyle::DefaultRibbonStyle(const QString &imagePath)
     m_backstageLabelMediumStyle = QLatin1String("font: 13pt \"Segoe UI\"; color: ") + c.text + QLatin1String(";");
     m_backstageLabelSmallStyle = QLatin1String("font: 11pt \"Segoe UI\"; color: ") + c.text + QLatin1String(";");
     m_backstageLabelSmallWhiteStyle = QLatin1String("font: 11pt \"Segoe UI Semibold\"; color: white;");
-    m_backstageLabelSmallUnderlineStyle = QLatin1String("font: 11pt \"Segoe UI Semibold\"; color: rgb(100, 100, 100);border-left: 0px solid none; border-right: 0px solid none; border-top: 0px solid none; border-bottom: 1px solid rgb(100, 100, 100);");
-    m_backstageLabelSmallNotUnderlineStyle = QLatin1String("font: 11pt \"Segoe UI Semibold\"; color: rgb(100, 100, 100);border-left: 0px solid none; border-right: 0px solid none; border-top: 0px solid none; border-bottom: 0px solid rgb(100, 100, 100);");
+    m_backstageLabelSmallUnderlineStyle = QLatin1String("font: 11pt \"Segoe UI Semibold\"; color: ") + tones.mutedText + QLatin1String(";border-left: 0px solid none; border-right: 0px solid none; border-top: 0px solid none; border-bottom: 1px solid ") + tones.mutedText + QLatin1String(";");
+    m_backstageLabelSmallNotUnderlineStyle = QLatin1String("font: 11pt \"Segoe UI Semibold\"; color: ") + tones.mutedText + QLatin1String(";border-left: 0px solid none; border-right: 0px solid none; border-top: 0px solid none; border-bottom: 0px solid ") + tones.mutedText + QLatin1String(";");
     m_backstageLabelXSmallNotUnderlineStyle = QLatin1String("font: 9pt \"Segoe UI\"; color: ") + c.text + QLatin1String(";");
-    m_backstageLabelXSmallUnderlineStyle = QLatin1String("font: 9pt \"Segoe UI\"; color: ") + c.text + QLatin1String(";border-left: 0px solid none; border-right: 0px solid none; border-top: 0px solid none; border-bottom: 1px solid rgb(100, 100, 100);");
+    m_backstageLabelXSmallUnderlineStyle = QLatin1String("font: 9pt \"Segoe UI\"; color: ") + c.text + QLatin1String(";border-left: 0px solid none; border-right: 0px solid none; border-top: 0px solid none; border-bottom: 1px solid ") + tones.mutedText + QLatin1String(";");
     m_backstageLabelXSmallWhiteStyle = QLatin1String("font: 9pt \"Segoe UI\"; color: white;");
     m_backstageLabelXSmallGrayStyle = QLatin1String("font: 9pt \"Segoe UI\"; color: ") + c.text + QLatin1String(";background-color: ") + c.lightGray + QLatin1String(";");
     m_backstageMainLeftListWidget = mainLeftListSheet(c, rowHeightText(38.0));

@@ -4,6 +4,9 @@
 
 #include <QApplication>
 #include <QPair>
+#include <QPalette>
+
+class QTranslator;
 
 namespace zel {
 
@@ -17,7 +20,8 @@ class ZELRIBBON_EXPORT RibbonApplication : public QApplication
 public:
     enum eRibbonStyle {
         RibbonStyleNone = 0,
-        RibbonStyleDefault = 1
+        RibbonStyleDefault = 1,
+        RibbonStyleDark = 2
     };
 
     RibbonApplication(int &argc, char **argv);
@@ -32,6 +36,23 @@ public:
 
     eRibbonStyle getRibbonStyle();
 
+    // Replaces the palette with the one of kind (light or dark) and emits
+    // ribbonStyleChanged(); every widget then repaints. The palettes already handed out
+    // stay valid until the program ends. Does nothing for the current kind or for
+    // RibbonStyleNone.
+    void setRibbonStyle(eRibbonStyle kind);
+
+    // Whether the constructor installs the library's translation for the system locale
+    // (the default). A host with its own choice of language turns it off before it
+    // constructs the application and calls loadTranslation() itself, or not at all.
+    static void setAutoLoadTranslations(bool on);
+    static bool autoLoadTranslations();
+
+    // Installs the library's translation for locale in place of the one installed
+    // before; false, leaving the library's texts in English, when there is none.
+    // Widgets that exist already keep the texts they were given.
+    bool loadTranslation(const QLocale &locale);
+
     // Horizontal and vertical screen resolution divided by 96, measured at start.
     QPair<double, double> dpiFactor() const;
 
@@ -44,6 +65,10 @@ signals:
 private:
     eRibbonStyle m_ribbonStyleKind;
     QPair<double, double> m_dpiFactor;
+    // The widget palette from before the first switch, restored with the light look.
+    QPalette m_lightWidgetPalette;
+    bool m_widgetPaletteSaved = false;
+    QTranslator *m_translator = nullptr;
 };
 
 } // namespace zel

@@ -5,6 +5,8 @@
 #include "RibbonStyle.h"
 
 #include <QAbstractButton>
+#include <QFileInfo>
+#include <QGuiApplication>
 #include <QPainter>
 
 namespace zel {
@@ -43,10 +45,53 @@ void RibbonSlices::draw(QPainter &painter, const QPixmap &pixmap, int sourceOffs
     if (pixmap.isNull())
         return;
     for (const Piece &piece : m_pieces)
-        painter.drawPixmap(piece.target, pixmap, piece.source.translated(0, sourceOffsetY));
+        RibbonPaint::drawPart(painter, piece.target, pixmap, piece.source.translated(0, sourceOffsetY));
 }
 
 namespace RibbonPaint {
+
+QSize logicalSize(const QPixmap &pixmap)
+{
+    const qreal ratio = pixmap.devicePixelRatio();
+    return QSize(qRound(pixmap.width() / ratio), qRound(pixmap.height() / ratio));
+}
+
+void drawPart(QPainter &painter, const QRect &target, const QPixmap &pixmap, const QRect &source)
+{
+    const qreal ratio = pixmap.devicePixelRatio();
+    if (qFuzzyCompare(ratio, 1.0)) {
+        painter.drawPixmap(target, pixmap, source);
+        return;
+    }
+    // QPainter takes the source in device pixels. Where the image's and the device's
+    // ratios differ (2x art on a 1.5 screen), nearest-pixel sampling would drop every
+    // fourth row, so the art is filtered instead.
+    const bool smooth = painter.testRenderHint(QPainter::SmoothPixmapTransform);
+    const qreal deviceRatio = painter.device() ? painter.device()->devicePixelRatioF() : 1.0;
+    if (!smooth && !qFuzzyCompare(deviceRatio, ratio))
+        painter.setRenderHint(QPainter::SmoothPixmapTransform, true);
+    painter.drawPixmap(QRectF(target), pixmap,
+                       QRectF(source.x() * ratio, source.y() * ratio, source.width() * ratio, source.height() * ratio));
+    if (!smooth)
+        painter.setRenderHint(QPainter::SmoothPixmapTransform, false);
+}
+
+QPixmap loadImage(const QString &path)
+{
+    if (qGuiApp && qGuiApp->devicePixelRatio() > 1.0) {
+        const QFileInfo info(path);
+        const QString highResolution =
+            info.path() + QLatin1Char('/') + info.completeBaseName() + QStringLiteral("@2x.") + info.suffix();
+        QPixmap pixmap(highResolution);
+        if (!pixmap.isNull()) {
+            // The reader sets the ratio from the "@2x" name; say it once more for readers
+            // that do not.
+            pixmap.setDevicePixelRatio(2.0);
+            return pixmap;
+        }
+    }
+    return QPixmap(path);
+}
 
 void drawThreeSlice(QPainter &painter, const QRect &target, const QPixmap &pixmap,
                     const QRect &source, int leftCap, int rightCap)
@@ -54,6 +99,13 @@ void drawThreeSlice(QPainter &painter, const QRect &target, const QPixmap &pixma
     RibbonSlices slices;
     slices.set(target, source, QMargins(leftCap, 0, rightCap, 0));
     slices.draw(painter, pixmap);
+}
+
+QColor paneFill(const QColor &defaultLookFill)
+{
+    RibbonApplication &app = RibbonApplication::theApp();
+    return app.getRibbonStyle() == RibbonApplication::RibbonStyleDefault ? defaultLookFill
+                                                                          : app.ribbonStyle().mainMenuBgColor();
 }
 
 QColor textColor(bool enabled)
@@ -102,15 +154,32 @@ void drawSmallButtonBackground(QPainter &painter, const QAbstractButton &button,
     if (state == RibbonImageRows::NoRow)
         return;
     const QPixmap &sheet = RibbonApplication::theApp().ribbonStyle().normalButtonSmall();
-    slices.set(button.rect(), QRect(0, 0, sheet.width(), SmallRowHeight), QMargins(2, 2, 2, 2));
+    slices.set(button.rect(), QRect(0, 0, logicalSize(sheet).width(), SmallRowHeight), QMargins(2, 2, 2, 2));
     slices.draw(painter, sheet, state * SmallRowHeight);
 }
 
-QPixmap iconPixmap(const QIcon &icon, int extent, bool enabled)
+QPixmap iconPixmap(const QIcon &icon, int extent, bool enabled, const QPaintDevice &device)
 {
     if (icon.isNull())
         return QPixmap();
-    return icon.pixmap(QSize(extent, extent), enabled ? QIcon::Normal : QIcon::Disabled, QIcon::Off);
+    const QIcon::Mode mode = enabled ? QIcon::Normal : QIcon::Disabled;
+    const QSize size(extent, extent);
+    const qreal ratio = device.devicePixelRatioF();
+    // QIcon::pixmap() picks the application's ratio, right for every device of a screen
+    // as fine as the finest, and the only way where the host turned high-resolution
+    // pixmaps off.
+    if (!QCoreApplication::testAttribute(Qt::AA_UseHighDpiPixmaps) || qFuzzyCompare(ratio, qGuiApp->devicePixelRatio()))
+        return icon.pixmap(size, mode, QIcon::Off);
+    // QIcon::paint() asks the icon for a drawing at the painted device's ratio.
+    const QSize logical = icon.actualSize(size, mode, QIcon::Off);
+    if (logical.isEmpty())
+        return QPixmap();
+    QPixmap pixmap(logical * ratio);
+    pixmap.setDevicePixelRatio(ratio);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    icon.paint(&painter, QRect(QPoint(0, 0), logical), Qt::AlignCenter, mode, QIcon::Off);
+    return pixmap;
 }
 
 void drawCentred(QPainter &painter, const QRect &target, const QPixmap &pixmap)

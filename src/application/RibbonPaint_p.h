@@ -3,6 +3,8 @@
 // Painting helpers shared by the ribbon's widgets: slicing palette images and the
 // colours and icon modes that follow a widget's enabled state. Not installed.
 
+#include "RibbonAutotestExport_p.h"
+
 #include <QColor>
 #include <QIcon>
 #include <QMargins>
@@ -11,6 +13,7 @@
 #include <QVarLengthArray>
 
 class QAbstractButton;
+class QPaintDevice;
 class QPainter;
 
 namespace zel {
@@ -42,6 +45,20 @@ private:
 
 namespace RibbonPaint {
 
+// Palette images may carry a device pixel ratio (their "@2x" drawing on a high-resolution
+// screen). Every source rectangle, row and cap the painting code names is in the image's
+// logical pixels, the pixels of its 1x drawing; these two translate.
+
+// The size of pixmap in logical pixels.
+ZELRIBBON_AUTOTEST_EXPORT QSize logicalSize(const QPixmap &pixmap);
+
+// Draws the part source (logical pixels of pixmap) of pixmap onto target.
+void drawPart(QPainter &painter, const QRect &target, const QPixmap &pixmap, const QRect &source);
+
+// Loads the palette image at path: where the application has a device pixel ratio above
+// 1, its "name@2x" drawing when there is one (a null pixmap when path is missing).
+QPixmap loadImage(const QString &path);
+
 // Draws a three-slice (caps of leftCap and rightCap pixels) of source onto target.
 // For one-off drawing; widgets that paint the same slices repeatedly keep a RibbonSlices.
 void drawThreeSlice(QPainter &painter, const QRect &target, const QPixmap &pixmap,
@@ -49,6 +66,11 @@ void drawThreeSlice(QPainter &painter, const QRect &target, const QPixmap &pixma
 
 // The pen colour of a control's text and symbols by its enabled state.
 QColor textColor(bool enabled);
+
+// The fill of a pane that the default look paints in a tone of its own, not a palette
+// entry (the white options pages, the view popup): that tone under the default
+// palette, the palette's menu background under any other, so that a dark look is dark.
+QColor paneFill(const QColor &defaultLookFill);
 
 // The drop-down mark of a button, a 5 x 3 triangle with its top-left corner at (x, y).
 void drawDropDownArrow(QPainter &painter, int x, int y, const QColor &color);
@@ -71,8 +93,11 @@ int smallButtonRow(const QAbstractButton &button);
 void drawSmallButtonBackground(QPainter &painter, const QAbstractButton &button,
                                RibbonSlices &slices);
 
-// A pixmap of at most extent x extent pixels in the mode of the enabled state.
-QPixmap iconPixmap(const QIcon &icon, int extent, bool enabled);
+// A pixmap of at most extent x extent logical pixels in the mode of the enabled state,
+// drawn by the icon at the device pixel ratio of device (the widget or image painted on),
+// so a high-resolution screen gets the icon's finer drawing, not a small one scaled up.
+ZELRIBBON_AUTOTEST_EXPORT QPixmap iconPixmap(const QIcon &icon, int extent, bool enabled,
+                                             const QPaintDevice &device);
 
 // Draws pixmap at its own size centred in target (nothing for a null pixmap).
 void drawCentred(QPainter &painter, const QRect &target, const QPixmap &pixmap);

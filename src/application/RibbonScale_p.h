@@ -11,4 +11,11 @@ inline int scaled(double v)
     return int(v * RibbonApplication::theApp().dpiFactor().second + 0.5);
 }
 
+// The same for a horizontal metric, by the horizontal factor. Only widths that hold text
+// grow with the resolution, since the text they hold does; the others stay fixed.
+inline int scaledX(double v)
+{
+    return int(v * RibbonApplication::theApp().dpiFactor().first + 0.5);
+}
+
 } // namespace zel

@@ -1,6 +1,7 @@
 #include "RibbonStyle.h"
 
 #include "RibbonApplication.h"
+#include "RibbonPaint_p.h"
 
 #include <QPainter>
 #include <QPolygon>
@@ -31,8 +32,8 @@ void RibbonStyle::drawSymbol(QPainter &painter, const QRect &r, eSymbolType symb
         drawTriangle(painter, r.bottomRight(), r.bottomLeft(), QPoint(r.center().x(), r.top()));
         break;
     case SymbolDropDown:
-        painter.drawPixmap(r, RibbonApplication::theApp().ribbonStyle().categoryWrapperIcon(),
-                           QRect(0, 0, 5, 3));
+        RibbonPaint::drawPart(painter, r, RibbonApplication::theApp().ribbonStyle().categoryWrapperIcon(),
+                              QRect(0, 0, 5, 3));
         break;
     case SymbolArrowLeft:
         drawTriangle(painter, r.topRight(), r.bottomRight(), QPoint(r.left(), r.center().y()));

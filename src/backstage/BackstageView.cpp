@@ -3,6 +3,7 @@
 #include "BackstageViewListWidgetDelegate.h"
 #include "RibbonApplication.h"
 #include "RibbonMainWindow.h"
+#include "RibbonPaint_p.h"
 #include "RibbonStyle.h"
 
 #include <QFile>
@@ -116,6 +117,7 @@ BackstageView::BackstageView(RibbonMainWindow *mainWindow)
 
     d->backButton = new BackButton(this);
     d->backButton->setObjectName(QStringLiteral("backstageBackButton"));
+    d->backButton->setAccessibleName(tr("Back"));
     d->backButton->setFixedSize(40, 40);
     d->backButton->setStyleSheet(QStringLiteral(
         "QPushButton { border: none; margin: 0px; padding: 0px; "
@@ -127,9 +129,14 @@ BackstageView::BackstageView(RibbonMainWindow *mainWindow)
     d->list->setObjectName(QStringLiteral("backstageNavigationList"));
     d->list->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Minimum);
     d->list->setAttribute(Qt::WA_MacShowFocusRect, false);
-    d->list->setFocusPolicy(Qt::NoFocus);
+    // Reachable with Tab after the back button; the arrows then move between the entries
+    // (and so between the panes).
+    d->list->setFocusPolicy(Qt::StrongFocus);
     d->list->setFrameShape(QFrame::NoFrame);
     d->list->setStyleSheet(RibbonApplication::theApp().ribbonStyle().backstageMainLeftListWidget());
+    connect(&RibbonApplication::theApp(), &RibbonApplication::ribbonStyleChanged, d->list, [this] {
+        d->list->setStyleSheet(RibbonApplication::theApp().ribbonStyle().backstageMainLeftListWidget());
+    });
 
     d->navigationColumn->addSpacerItem(new QSpacerItem(5, 5, QSizePolicy::Fixed, QSizePolicy::Fixed));
     auto *backRow = new QHBoxLayout;
@@ -255,7 +262,7 @@ void BackstageView::hideEvent(QHideEvent *event)
 void BackstageView::paintEvent(QPaintEvent *)
 {
     QPainter p(this);
-    p.fillRect(rect(), Qt::white);
+    p.fillRect(rect(), RibbonPaint::paneFill(Qt::white));
     p.fillRect(d->navigationColumn->geometry(),
                RibbonApplication::theApp().ribbonStyle().frameBorderColor());
 }

@@ -3,6 +3,7 @@
 #include "BackstageListModel.h"
 #include "RibbonApplication.h"
 #include "RibbonMainWindow.h"
+#include "RibbonPaint_p.h"
 #include "RibbonScale_p.h"
 #include "RibbonStyle.h"
 
@@ -225,7 +226,6 @@ BackstageWelcomeScreen::BackstageWelcomeScreen(RibbonMainWindow *mainWindow)
     , d(new Priv)
 {
     d->mainWindow = mainWindow;
-    const RibbonStyle &style = ribbonPalette();
 
     auto *page = new QHBoxLayout(this);
     page->setContentsMargins(0, 0, 0, 0);
@@ -239,13 +239,11 @@ BackstageWelcomeScreen::BackstageWelcomeScreen(RibbonMainWindow *mainWindow)
     columnLayout->setSpacing(0);
 
     d->titleLabel = new QLabel(QApplication::applicationDisplayName(), d->column);
-    d->titleLabel->setStyleSheet(style.backstageLabelXLargeWhiteStyle());
     d->titleLabel->setContentsMargins(24, 0, 16, 0);
     columnLayout->addWidget(d->titleLabel);
     columnLayout->addSpacing(scaled(28));
 
     auto *recentTitle = new QLabel(tr("Recent"), d->column);
-    recentTitle->setStyleSheet(style.backstageLabelLargeRecentWhiteStyle());
     recentTitle->setContentsMargins(24, 0, 16, 0);
     columnLayout->addWidget(recentTitle);
     columnLayout->addSpacing(scaled(10));
@@ -258,8 +256,6 @@ BackstageWelcomeScreen::BackstageWelcomeScreen(RibbonMainWindow *mainWindow)
     d->recentList->viewport()->setAttribute(Qt::WA_Hover);
     d->recentList->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     d->recentList->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    d->recentList->setStyleSheet(style.backstageWelcomeRecentListWidgetStyle()
-                                 + style.backstageScrollBarStyleBlue());
     auto *delegate = new RecentDelegate(d->recentList);
     delegate->activated = [this](const QModelIndex &index, bool onPin) {
         const QSharedPointer<BackstageListItem> entry = entryOf(index);
@@ -281,7 +277,6 @@ BackstageWelcomeScreen::BackstageWelcomeScreen(RibbonMainWindow *mainWindow)
     d->emptyLabel->setObjectName(QStringLiteral("welcomeEmptyHint"));
     d->emptyLabel->setWordWrap(true);
     d->emptyLabel->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    d->emptyLabel->setStyleSheet(style.backstageLabelXSmallWhiteStyle());
     d->emptyLabel->setContentsMargins(24, 0, 24, 0);
     columnLayout->addWidget(d->emptyLabel, 1);
     page->addWidget(d->column);
@@ -290,7 +285,6 @@ BackstageWelcomeScreen::BackstageWelcomeScreen(RibbonMainWindow *mainWindow)
     right->setContentsMargins(40, scaled(40), 40, scaled(20));
     right->setSpacing(0);
     auto *newTitle = new QLabel(tr("New"), this);
-    newTitle->setStyleSheet(style.backstageLabelXLargeStyle());
     right->addWidget(newTitle);
     right->addSpacing(scaled(24));
     d->tiles = new QHBoxLayout;
@@ -303,6 +297,18 @@ BackstageWelcomeScreen::BackstageWelcomeScreen(RibbonMainWindow *mainWindow)
     right->addLayout(d->tiles);
     right->addStretch(1);
     page->addLayout(right, 1);
+
+    // The sheets come from the palette and are set again when it changes.
+    const auto applyPalette = [this, recentTitle, newTitle] {
+        const RibbonStyle &style = ribbonPalette();
+        d->titleLabel->setStyleSheet(style.backstageLabelXLargeWhiteStyle());
+        recentTitle->setStyleSheet(style.backstageLabelLargeRecentWhiteStyle());
+        d->recentList->setStyleSheet(style.backstageWelcomeRecentListWidgetStyle() + style.backstageScrollBarStyleBlue());
+        d->emptyLabel->setStyleSheet(style.backstageLabelXSmallWhiteStyle());
+        newTitle->setStyleSheet(style.backstageLabelXLargeStyle());
+    };
+    applyPalette();
+    connect(&RibbonApplication::theApp(), &RibbonApplication::ribbonStyleChanged, this, applyPalette);
 
     d->updateEmptyHint();
 }
@@ -384,7 +390,7 @@ QRect BackstageWelcomeScreen::rightPaneRect()
 void BackstageWelcomeScreen::paintEvent(QPaintEvent *)
 {
     QPainter p(this);
-    p.fillRect(rect(), Qt::white);
+    p.fillRect(rect(), RibbonPaint::paneFill(Qt::white));
     p.fillRect(d->column->geometry(), ribbonPalette().frameBorderColor());
 }
 

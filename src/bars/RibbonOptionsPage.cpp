@@ -1,6 +1,8 @@
 #include "RibbonOptionsPage.h"
 
+#include "RibbonApplication.h"
 #include "RibbonOptionsDialog.h"
+#include "RibbonPaint_p.h"
 
 namespace zel {
 
@@ -8,9 +10,13 @@ RibbonOptionsPage::RibbonOptionsPage(RibbonOptionsDialog &dialog)
     : QWidget(&dialog, Qt::WindowFlags())
     , m_dialog(dialog)
 {
-    QPalette pal = palette();
-    pal.setColor(QPalette::All, QPalette::Window, Qt::white);
-    setPalette(pal);
+    const auto applyFill = [this] {
+        QPalette pal = palette();
+        pal.setColor(QPalette::All, QPalette::Window, RibbonPaint::paneFill(Qt::white));
+        setPalette(pal);
+    };
+    applyFill();
+    connect(&RibbonApplication::theApp(), &RibbonApplication::ribbonStyleChanged, this, applyFill);
 }
 
 RibbonOptionsPage::~RibbonOptionsPage() = default;

@@ -1,7 +1,9 @@
 #include "RibbonPanelPages_p.h"
 
 #include "RibbonApplication.h"
+#include "RibbonPaint_p.h"
 #include "RibbonImageRows_p.h"
+#include "RibbonPaint_p.h"
 #include "RibbonStyle.h"
 
 #include <QAbstractButton>
@@ -107,7 +109,7 @@ void RibbonPanelPages::paintButton(QPainter &painter, const QAbstractButton &but
 {
     if (frame != RibbonImageRows::NoRow) {
         const QPixmap &sheet = RibbonApplication::theApp().ribbonStyle().mainPanelButton();
-        slices.set(button.rect(), QRect(0, 0, sheet.width(), FrameHeight),
+        slices.set(button.rect(), QRect(0, 0, RibbonPaint::logicalSize(sheet).width(), FrameHeight),
                    QMargins(FrameBorder, FrameBorder, FrameBorder, FrameBorder));
         slices.draw(painter, sheet, frame * FrameHeight);
     }
@@ -120,7 +122,7 @@ void RibbonPanelPages::paintButton(QPainter &painter, const QAbstractButton &but
 void RibbonPanelPages::paintFrames(QPainter &painter, const QRect &buttonsArea, const QRect &stackArea)
 {
     painter.setPen(Qt::gray);
-    painter.setBrush(QBrush(Qt::white, Qt::SolidPattern));
+    painter.setBrush(QBrush(RibbonPaint::paneFill(Qt::white), Qt::SolidPattern));
     painter.drawRect(buttonsArea.adjusted(-1, -1, 1, 1));
     painter.drawRect(stackArea.adjusted(-1, -1, 0, 0));
 }

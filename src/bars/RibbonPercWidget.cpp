@@ -1,8 +1,10 @@
 #include "RibbonPercWidget.h"
 
 #include "RibbonApplication.h"
+#include "RibbonPaint_p.h"
 #include "RibbonImageRows_p.h"
 #include "RibbonPercAction.h"
+#include "RibbonScale_p.h"
 #include "RibbonStyle.h"
 
 #include <QActionEvent>
@@ -29,6 +31,16 @@ const int ButtonExtent = 18;
 const int ThumbWidth = 11;
 const int ThumbHeight = 15;
 
+// The label left of the minus button is 60 pixels wide at 96 DPI and grows with the
+// horizontal resolution, like the text in it; the track keeps its length and moves right
+// by the growth.
+const int LabelWidth = 60;
+
+int trackOffset()
+{
+    return scaledX(LabelWidth) - LabelWidth;
+}
+
 QString percentText(int percentage)
 {
     return QString::number(percentage) + QStringLiteral(" %");
@@ -47,6 +59,7 @@ RibbonPercWidget::RibbonPercWidget(RibbonPercAction &action, QWidget *parent)
     setMouseTracking(true);
     setCursor(Qt::ArrowCursor);
     addAction(&action);
+    setAccessibleName(tr("Zoom"));
     connect(&action, SIGNAL(percentageChanged(int)), this, SLOT(displayPercentage(int)));
     // Held buttons step at a steady pace, not a coarse one.
     repeatTimer.setTimerType(Qt::PreciseTimer);
@@ -72,27 +85,27 @@ QString RibbonPercWidget::text() const
 
 QSize RibbonPercWidget::sizeHint() const
 {
-    return QSize(190, 20);
+    return QSize(190 + trackOffset(), 20);
 }
 
 int RibbonPercWidget::thumbPosition(int v) const
 {
     RibbonPercAction *action = this->action();
     if (!action)
-        return Centre;
+        return Centre + trackOffset();
     const int minimum = action->minimum();
     const int maximum = action->maximum();
     if (v < 100) {
         const int span = 100 - minimum;
-        return span > 0 ? LowEnd + HalfLength * qMax(0, v - minimum) / span : LowEnd;
+        return trackOffset() + (span > 0 ? LowEnd + HalfLength * qMax(0, v - minimum) / span : LowEnd);
     }
     const int span = maximum - 100;
-    return span > 0 ? Centre + HalfLength * qMin(v - 100, span) / span : Centre;
+    return trackOffset() + (span > 0 ? Centre + HalfLength * qMin(v - 100, span) / span : Centre);
 }
 
 QRect RibbonPercWidget::minusRect() const
 {
-    return QRect(60, 0, 20, 20);
+    return QRect(LabelWidth + trackOffset(), 0, 20, 20);
 }
 
 QRect RibbonPercWidget::plusRect() const
@@ -110,8 +123,9 @@ bool RibbonPercWidget::isHovered(const QRect &area) const
     return isEnabled() && m_mouseInside && area.contains(m_mousePos);
 }
 
-int RibbonPercWidget::valueAt(int x) const
+int RibbonPercWidget::valueAt(int position) const
 {
+    const int x = position - trackOffset();
     RibbonPercAction *action = this->action();
     const int minimum = action->minimum();
     const int maximum = action->maximum();
@@ -193,17 +207,18 @@ void RibbonPercWidget::paintEvent(QPaintEvent *)
         painter.setOpacity(0.5);
 
     painter.setPen(style.statusBarTextColor());
-    // Right-aligned against the minus button and centred on the track; the free
-    // margin on the left takes a wider text at high resolutions.
-    painter.drawText(QRect(0, 0, 60, height()), Qt::AlignRight | Qt::AlignVCenter, m_text);
+    // Right-aligned against the minus button, vertically centred.
+    painter.drawText(QRect(0, 0, LabelWidth + trackOffset(), height()), Qt::AlignRight | Qt::AlignVCenter, m_text);
 
     const int trackEnd = width() - 20;
     painter.setPen(style.frameSunkenColor());
-    painter.drawLine(TrackStart, 9, trackEnd, 9);
-    painter.drawLine(Centre, 6, Centre, 13);
+    const int trackStart = TrackStart + trackOffset();
+    const int centre = Centre + trackOffset();
+    painter.drawLine(trackStart, 9, trackEnd, 9);
+    painter.drawLine(centre, 6, centre, 13);
     painter.setPen(style.frameRaiseColor());
-    painter.drawLine(TrackStart, 10, trackEnd, 10);
-    painter.drawLine(Centre + 1, 7, Centre + 1, 14);
+    painter.drawLine(trackStart, 10, trackEnd, 10);
+    painter.drawLine(centre + 1, 7, centre + 1, 14);
 
     const auto frameOf = [this](bool pressed, const QRect &area) {
         namespace SliderPart = RibbonImageRows::SliderPart;
@@ -212,16 +227,16 @@ void RibbonPercWidget::paintEvent(QPaintEvent *)
 
     QRect button(0, 0, ButtonExtent, ButtonExtent);
     button.moveCenter(minusRect().center());
-    painter.drawPixmap(button, style.sliderMinus(),
-                       QRect(0, ButtonExtent * frameOf(m_minusPressed, minusRect()), ButtonExtent, ButtonExtent));
+    RibbonPaint::drawPart(painter, button, style.sliderMinus(),
+                          QRect(0, ButtonExtent * frameOf(m_minusPressed, minusRect()), ButtonExtent, ButtonExtent));
     button.moveCenter(plusRect().center());
-    painter.drawPixmap(button, style.sliderPlus(),
-                       QRect(0, ButtonExtent * frameOf(m_plusPressed, plusRect()), ButtonExtent, ButtonExtent));
+    RibbonPaint::drawPart(painter, button, style.sliderPlus(),
+                          QRect(0, ButtonExtent * frameOf(m_plusPressed, plusRect()), ButtonExtent, ButtonExtent));
 
     const int x = thumbPosition(m_value);
     const QRect thumb(x - ThumbWidth / 2, 10 - ThumbHeight / 2, ThumbWidth, ThumbHeight);
-    painter.drawPixmap(thumb, style.sliderThumb(),
-                       QRect(0, ThumbHeight * frameOf(m_thumbPressed, thumbHitRect()), ThumbWidth, ThumbHeight));
+    RibbonPaint::drawPart(painter, thumb, style.sliderThumb(),
+                          QRect(0, ThumbHeight * frameOf(m_thumbPressed, thumbHitRect()), ThumbWidth, ThumbHeight));
 }
 
 void RibbonPercWidget::mousePressEvent(QMouseEvent *event)
@@ -237,7 +252,7 @@ void RibbonPercWidget::mousePressEvent(QMouseEvent *event)
         m_plusPressed = true;
     } else if (thumbHitRect().contains(pos)) {
         m_thumbPressed = true;
-    } else if (pos.x() >= TrackStart && pos.x() < plusRect().left()) {
+    } else if (pos.x() >= TrackStart + trackOffset() && pos.x() < plusRect().left()) {
         // A press on the bare track moves the thumb there and keeps it for dragging.
         m_thumbPressed = true;
         QPointer<RibbonPercWidget> self(this);

@@ -98,9 +98,9 @@ RibbonStatusBar::RibbonStatusBar(RibbonMainWindow &mainWindow)
     d->mainLayout->addLayout(d->extensionsLayout);
 
     setSizePolicy(QSizePolicy::MinimumExpanding, QSizePolicy::Fixed);
-    setFixedHeight(ribbonStyle().statusBar().height());
+    setFixedHeight(RibbonPaint::logicalSize(ribbonStyle().statusBar()).height());
     connect(&RibbonApplication::theApp(), &RibbonApplication::ribbonStyleChanged, this, [this] {
-        setFixedHeight(ribbonStyle().statusBar().height());
+        setFixedHeight(RibbonPaint::logicalSize(ribbonStyle().statusBar()).height());
         update();
     });
 }
@@ -211,7 +211,7 @@ void RibbonStatusBar::paintEvent(QPaintEvent *)
     namespace StatusBarHalf = RibbonImageRows::StatusBarHalf;
     const int k = 34 * (isActiveWindow() ? StatusBarHalf::Active : StatusBarHalf::Inactive);
     QPainter painter(this);
-    RibbonPaint::drawThreeSlice(painter, rect(), image, QRect(k, 0, 34, image.height()), 10, 10);
+    RibbonPaint::drawThreeSlice(painter, rect(), image, QRect(k, 0, 34, RibbonPaint::logicalSize(image).height()), 10, 10);
 }
 
 } // namespace zel

@@ -3,6 +3,7 @@
 #include "RibbonApplication.h"
 #include "RibbonImageRows_p.h"
 #include "RibbonPaint_p.h"
+#include "RibbonScreenTip_p.h"
 #include "RibbonSimpleAction.h"
 #include "RibbonStyle.h"
 
@@ -45,7 +46,7 @@ void RibbonStatusBarWidget::syncFromAction()
     if (!action)
         return;
     m_pressed = action->isCheckable() && action->isChecked();
-    setToolTip(action->toolTip());
+    setToolTip(ribbonScreenTip(action));
     setEnabled(action->isEnabled());
 }
 
@@ -69,13 +70,13 @@ void RibbonStatusBarWidget::paintEvent(QPaintEvent *)
     namespace SmallButton = RibbonImageRows::SmallButton;
     const int frame = m_pressed ? SmallButton::Pressed : isHovered() ? SmallButton::Hover : SmallButton::Outline;
     const QPixmap &sheet = RibbonApplication::theApp().ribbonStyle().normalButtonSmall();
-    painter.drawPixmap(QRect(0, 0, 20, 22), sheet,
-                       QRect(0, RibbonPaint::SmallRowHeight * frame, 22, 23));
+    RibbonPaint::drawPart(painter, QRect(0, 0, 20, 22), sheet,
+                          QRect(0, RibbonPaint::SmallRowHeight * frame, 22, 23));
 
     if (!m_action)
         return;
     // The whole pixmap goes into the 16-pixel square, whatever size the icon offers.
-    const QPixmap icon = RibbonPaint::iconPixmap(m_action->icon(), 16, isEnabled());
+    const QPixmap icon = RibbonPaint::iconPixmap(m_action->icon(), 16, isEnabled(), *this);
     if (icon.isNull())
         return;
     QRect target(0, 0, 16, 16);

@@ -4,6 +4,7 @@
 #include "RibbonImageRows_p.h"
 #include "RibbonPaint_p.h"
 #include "RibbonScale_p.h"
+#include "RibbonScreenTip_p.h"
 #include "RibbonSimpleAction.h"
 #include "RibbonStyle.h"
 
@@ -111,7 +112,7 @@ void RibbonViewButton::actionEvent(QActionEvent *event)
     setFont(font);
     setIcon(action->icon());
     setText(action->text());
-    setToolTip(action->toolTip());
+    setToolTip(ribbonScreenTip(action));
     setEnabled(action->isEnabled());
     d->sizeHint = QSize();
     updateGeometry();
@@ -214,7 +215,7 @@ void RibbonViewButton::paintRow(QPainter &painter, bool hot)
         pixmap = QIcon(checkMarkPath()).pixmap(QSize(kRowIconExtent, kRowIconExtent),
                                                isEnabled() ? QIcon::Normal : QIcon::Disabled, QIcon::Off);
     else if (d->showIcon)
-        pixmap = RibbonPaint::iconPixmap(icon(), kRowIconExtent, isEnabled());
+        pixmap = RibbonPaint::iconPixmap(icon(), kRowIconExtent, isEnabled(), *this);
     RibbonPaint::drawCentred(painter, QRect(0, 0, kGutterWidth, height()), pixmap);
 
     const QRect textRect = QRect(kTextLeft, 0, width() - kTextLeft, height()).adjusted(6, 2, -6, -2);
@@ -230,7 +231,7 @@ void RibbonViewButton::paintTile(QPainter &painter, bool hot)
     const QAction *action = d->liveAction();
     if (hot || (action && action->isCheckable() && action->isChecked()))
         drawMarker(painter, width(), height());
-    RibbonPaint::drawCentred(painter, rect(), RibbonPaint::iconPixmap(icon(), kTileIconExtent, isEnabled()));
+    RibbonPaint::drawCentred(painter, rect(), RibbonPaint::iconPixmap(icon(), kTileIconExtent, isEnabled(), *this));
 }
 
 } // namespace zel

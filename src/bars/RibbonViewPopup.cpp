@@ -1,5 +1,7 @@
 #include "RibbonViewPopup.h"
 
+#include "RibbonApplication.h"
+#include "RibbonPaint_p.h"
 #include "RibbonSimpleAction.h"
 #include "RibbonViewButton.h"
 
@@ -120,9 +122,13 @@ bool RibbonViewPopup::init()
     d->mainLayout->addWidget(d->secondLine);
     d->mainLayout->addLayout(d->bottomLayout);
 
-    QPalette colours = palette();
-    colours.setColor(QPalette::Window, kBackground);
-    setPalette(colours);
+    const auto applyFill = [this] {
+        QPalette colours = palette();
+        colours.setColor(QPalette::Window, RibbonPaint::paneFill(kBackground));
+        setPalette(colours);
+    };
+    applyFill();
+    connect(&RibbonApplication::theApp(), &RibbonApplication::ribbonStyleChanged, this, applyFill);
 
     buildWidgets();
     return true;

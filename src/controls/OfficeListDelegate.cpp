@@ -27,7 +27,7 @@ void OfficeListDelegate::paint(QPainter *painter, const QStyleOptionViewItem &op
 {
     const bool enabled = !option.widget || option.widget->isEnabled();
     const QIcon icon = index.data(Qt::DecorationRole).value<QIcon>();
-    RibbonPaint::drawCentred(*painter, option.rect, RibbonPaint::iconPixmap(icon, kIcon, enabled));
+    RibbonPaint::drawCentred(*painter, option.rect, RibbonPaint::iconPixmap(icon, kIcon, enabled, *painter->device()));
     if (!enabled)
         return;
 

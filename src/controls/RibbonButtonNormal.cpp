@@ -2,6 +2,7 @@
 
 #include "RibbonAction.h"
 #include "RibbonPaint_p.h"
+#include "RibbonScreenTip_p.h"
 
 #include <QActionEvent>
 #include <QPainter>
@@ -35,7 +36,8 @@ void RibbonButtonNormal::actionEvent(QActionEvent *event)
             setCheckable(action->isCheckable());
             setIcon(action->icon());
             setText(action->text());
-            setToolTip(action->toolTip());
+            setToolTip(ribbonScreenTip(action));
+            setAccessibleName(ribbonAccessibleName(action));
             setEnabled(action->isEnabled());
             if (added) {
                 connect(this, SIGNAL(clicked()), action, SLOT(trigger()));
@@ -74,7 +76,7 @@ void RibbonButtonNormal::paintEvent(QPaintEvent *)
     const int extent = qMin(width() - 4, height() - 4);
     if (extent <= 0)
         return;
-    const QPixmap pixmap = RibbonPaint::iconPixmap(icon(), extent, isEnabled());
+    const QPixmap pixmap = RibbonPaint::iconPixmap(icon(), extent, isEnabled(), *this);
     const QSize ps = pixmap.size() / pixmap.devicePixelRatio();
     painter.drawPixmap((width() - 4 - ps.width()) / 2 + 2, (height() - 4 - ps.height()) / 2 + 2, pixmap);
 }

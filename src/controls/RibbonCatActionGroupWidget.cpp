@@ -10,8 +10,10 @@
 #include "RibbonCatMenuButton.h"
 #include "RibbonImageRows_p.h"
 #include "RibbonPaint_p.h"
+#include "RibbonScreenTip_p.h"
 #include "RibbonStyle.h"
 
+#include <QAccessibleWidget>
 #include <QActionEvent>
 #include <QCursor>
 #include <QMouseEvent>
@@ -39,6 +41,145 @@ const RibbonWidgetMaker popupButtonMakers[] = {
     makeWidgetFor<RibbonCatMenuAction, RibbonCatMenuButton>,
 };
 
+// A screen reader sees a strip as a tool bar with one button per member; the cells
+// are no widgets, so each gets an interface of its own.
+class CellAccessible : public QAccessibleInterface, public QAccessibleActionInterface
+{
+public:
+    CellAccessible(RibbonCatActionGroupWidget *strip, int index)
+        : m_strip(strip)
+        , m_index(index)
+    {
+    }
+
+    RibbonAction *member() const
+    {
+        RibbonCatActionGroup *group = m_strip ? m_strip->group() : nullptr;
+        return group ? group->actions().value(m_index) : nullptr;
+    }
+
+    bool isValid() const override { return member() != nullptr; }
+    QObject *object() const override { return nullptr; }
+    QWindow *window() const override { return m_strip ? m_strip->window()->windowHandle() : nullptr; }
+    QAccessibleInterface *parent() const override
+    {
+        return m_strip ? QAccessible::queryAccessibleInterface(m_strip.data()) : nullptr;
+    }
+    QAccessibleInterface *child(int) const override { return nullptr; }
+    int childCount() const override { return 0; }
+    int indexOfChild(const QAccessibleInterface *) const override { return -1; }
+    QAccessibleInterface *childAt(int, int) const override { return nullptr; }
+
+    QString text(QAccessible::Text t) const override
+    {
+        const RibbonAction *action = member();
+        if (!action)
+            return QString();
+        switch (t) {
+        case QAccessible::Name:
+            return ribbonAccessibleName(action);
+        case QAccessible::Description:
+            return action->statusTip();
+        case QAccessible::Accelerator:
+            return action->shortcut().toString(QKeySequence::NativeText);
+        default:
+            return QString();
+        }
+    }
+    void setText(QAccessible::Text, const QString &) override {}
+
+    QRect rect() const override
+    {
+        if (!m_strip)
+            return QRect();
+        const QRect cell = m_strip->cellRect(m_index);
+        return QRect(m_strip->mapToGlobal(cell.topLeft()), cell.size());
+    }
+    QAccessible::Role role() const override
+    {
+        const RibbonAction *action = member();
+        return action && action->isCheckable() ? QAccessible::CheckBox : QAccessible::Button;
+    }
+    QAccessible::State state() const override
+    {
+        QAccessible::State state;
+        const RibbonAction *action = member();
+        if (!action)
+            return state;
+        state.disabled = !action->isEnabled();
+        state.checkable = action->isCheckable();
+        state.checked = action->isChecked();
+        state.invisible = !m_strip->isVisible();
+        return state;
+    }
+
+    void *interface_cast(QAccessible::InterfaceType type) override
+    {
+        return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface *>(this) : nullptr;
+    }
+    QStringList actionNames() const override { return {pressAction()}; }
+    void doAction(const QString &name) override
+    {
+        RibbonAction *action = member();
+        if (name == pressAction() && action && action->isEnabled())
+            action->trigger();
+    }
+    QStringList keyBindingsForAction(const QString &) const override { return {}; }
+
+private:
+    QPointer<RibbonCatActionGroupWidget> m_strip;
+    int m_index;
+};
+
+class StripAccessible : public QAccessibleWidget
+{
+public:
+    explicit StripAccessible(RibbonCatActionGroupWidget *strip)
+        : QAccessibleWidget(strip, QAccessible::ToolBar)
+    {
+    }
+    ~StripAccessible() override
+    {
+        for (QAccessible::Id id : qAsConst(m_cells))
+            QAccessible::deleteAccessibleInterface(id);
+    }
+
+    RibbonCatActionGroupWidget *strip() const { return static_cast<RibbonCatActionGroupWidget *>(widget()); }
+    int memberCount() const { return strip()->group() ? strip()->group()->actions().size() : 0; }
+
+    int childCount() const override { return memberCount(); }
+    QAccessibleInterface *child(int index) const override
+    {
+        if (index < 0 || index >= memberCount())
+            return nullptr;
+        while (m_cells.size() <= index)
+            m_cells.append(QAccessible::registerAccessibleInterface(new CellAccessible(strip(), m_cells.size())));
+        return QAccessible::accessibleInterface(m_cells.at(index));
+    }
+    int indexOfChild(const QAccessibleInterface *child) const override
+    {
+        for (int i = 0; i < m_cells.size(); ++i) {
+            if (QAccessible::accessibleInterface(m_cells.at(i)) == child)
+                return i < memberCount() ? i : -1;
+        }
+        return -1;
+    }
+    QAccessibleInterface *childAt(int x, int y) const override
+    {
+        return child(strip()->cellAt(strip()->mapFromGlobal(QPoint(x, y))));
+    }
+
+private:
+    mutable QVector<QAccessible::Id> m_cells;
+};
+
+QAccessibleInterface *stripAccessibleFactory(const QString &className, QObject *object)
+{
+    if (className == QLatin1String("zel::RibbonCatActionGroupWidget") && object && object->isWidgetType())
+        return new StripAccessible(static_cast<RibbonCatActionGroupWidget *>(object));
+    return nullptr;
+}
+
 } // namespace
 
 struct RibbonCatActionGroupWidget::Priv
@@ -56,6 +197,11 @@ RibbonCatActionGroupWidget::RibbonCatActionGroupWidget(RibbonCatActionGroup &gro
     d->group = &group;
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setMouseTracking(true);
+    static const bool factoryInstalled = [] {
+        QAccessible::installFactory(stripAccessibleFactory);
+        return true;
+    }();
+    Q_UNUSED(factoryInstalled)
     addAction(&group);
 }
 
@@ -77,6 +223,13 @@ int RibbonCatActionGroupWidget::cellAt(const QPoint &pos) const
         return -1;
     const int index = pos.x() / cellWidth();
     return index < group()->actions().size() ? index : -1;
+}
+
+QRect RibbonCatActionGroupWidget::cellRect(int index) const
+{
+    if (!group() || index < 0 || index >= group()->actions().size())
+        return QRect();
+    return QRect(index * cellWidth(), 0, cellWidth(), kStripHeight);
 }
 
 QSize RibbonCatActionGroupWidget::sizeHint() const
@@ -162,7 +315,7 @@ void RibbonCatActionGroupWidget::mousePressEvent(QMouseEvent *event)
             if (IRibbonGroupWidget *groupWidget = IRibbonGroupWidget::groupWidget(button)) {
                 // The hidden button stands on its cell, so that its popup opens below
                 // the cell, and receives the press in its own coordinates.
-                const QRect cell(index * kWideCell, 0, kWideCell, kStripHeight);
+                const QRect cell = cellRect(index);
                 button->setGeometry(cell);
                 QMouseEvent press(event->type(), event->localPos() - cell.topLeft(), event->windowPos(),
                                   event->screenPos(), event->button(), event->buttons(), event->modifiers());
@@ -182,7 +335,7 @@ void RibbonCatActionGroupWidget::mouseMoveEvent(QMouseEvent *event)
     QWidget::mouseMoveEvent(event);
     const int index = cellAt(event->pos());
     if (index >= 0)
-        setToolTip(group()->actions().at(index)->toolTip());
+        setToolTip(ribbonScreenTip(group()->actions().at(index)));
     update();
 }
 
@@ -243,25 +396,25 @@ void RibbonCatActionGroupWidget::paintEvent(QPaintEvent *)
         if (!wide) {
             // A cell alone is a small tool button, read with the strip's row numbers.
             const QPixmap &image = count == 1 ? style.normalButtonSmall() : segment;
-            painter.drawPixmap(cell, image, QRect(0, row * state, kPlainCell, row));
+            RibbonPaint::drawPart(painter, cell, image, QRect(0, row * state, kPlainCell, row));
         } else {
             // The first cell opens the strip with the first segment's left edge; later
             // cells begin with a middle segment, whose left edge separates them from
             // their neighbour. Only the last cell closes the strip.
             const QPixmap &mainImage = i == 0 ? style.btnGroupFirst() : style.btnGroupMidle();
-            painter.drawPixmap(main, mainImage, QRect(0, row * state, 20, row));
-            painter.drawPixmap(kWideArrow.translated(cell.topLeft()), style.btnGroupMidle(),
-                               QRect(2, row * state, 10, row));
+            RibbonPaint::drawPart(painter, main, mainImage, QRect(0, row * state, 20, row));
+            RibbonPaint::drawPart(painter, kWideArrow.translated(cell.topLeft()), style.btnGroupMidle(),
+                                  QRect(2, row * state, 10, row));
             const QPixmap &edgeImage = i == count - 1 ? style.btnGroupLast() : style.btnGroupMidle();
-            painter.drawPixmap(kWideRightEdge.translated(cell.topLeft()), edgeImage,
-                               QRect(20, row * state, 2, row));
+            RibbonPaint::drawPart(painter, kWideRightEdge.translated(cell.topLeft()), edgeImage,
+                                  QRect(20, row * state, 2, row));
             const QColor color = RibbonPaint::textColor(groupEnabled);
             painter.setPen(color);
             painter.setBrush(color);
             RibbonStyle::drawSymbol(painter, QRect(cell.x() + 20, height() / 2, 5, 3), SymbolDropDown);
         }
 
-        const QPixmap pixmap = RibbonPaint::iconPixmap(action->icon(), kIconExtent, enabled);
+        const QPixmap pixmap = RibbonPaint::iconPixmap(action->icon(), kIconExtent, enabled, *this);
         if (!pixmap.isNull()) {
             const QSize ps = pixmap.size() / pixmap.devicePixelRatio();
             painter.drawPixmap(main.x() + (main.width() - ps.width()) / 2,

@@ -25,6 +25,8 @@ public:
     RibbonCatActionGroup *group() const;
     // Index of the cell under pos, or -1 when pos lies outside every cell.
     int cellAt(const QPoint &pos) const;
+    // The cell of the member at index; null when there is none.
+    QRect cellRect(int index) const;
 
     QSize sizeHint() const override;
 

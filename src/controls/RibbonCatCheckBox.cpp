@@ -3,23 +3,36 @@
 #include "RibbonApplication.h"
 #include "RibbonCatCheckBoxAction.h"
 #include "RibbonScale_p.h"
+#include "RibbonScreenTip_p.h"
 #include "RibbonStyle.h"
 
 #include <QFontMetrics>
 
 namespace zel {
 
+namespace {
+
+// The box's text in the palette's category text colour; read again when the palette changes.
+void applyTextColor(QCheckBox &box)
+{
+    const QColor textColor = RibbonApplication::theApp().ribbonStyle().normalCategoryTextColor();
+    box.setStyleSheet(QStringLiteral("QCheckBox {") + QLatin1Char(' ') + QStringLiteral("color: ")
+                      + textColor.name() + QStringLiteral("; }"));
+}
+
+} // namespace
+
 RibbonCatCheckBox::RibbonCatCheckBox(RibbonCatCheckBoxAction &action, QWidget *parent)
     : QCheckBox(parent)
     , m_action(&action)
 {
     setText(action.textLabel());
-    setToolTip(action.toolTip());
+    setToolTip(ribbonScreenTip(&action));
     setChecked(action.isChecked());
     setEnabled(action.isEnabled());
-    const QColor textColor = RibbonApplication::theApp().ribbonStyle().normalCategoryTextColor();
-    setStyleSheet(QStringLiteral("QCheckBox {") + QLatin1Char(' ') + QStringLiteral("color: ")
-                  + textColor.name() + QStringLiteral("; }"));
+    applyTextColor(*this);
+    connect(&RibbonApplication::theApp(), &RibbonApplication::ribbonStyleChanged, this,
+            [this] { applyTextColor(*this); });
 
     // The action takes the new state first so that every box shown for it follows,
     // then announces the click.
@@ -36,7 +49,8 @@ QSize RibbonCatCheckBox::sizeHint() const
 {
     const QString label = text();
     const int textWidth = label.isEmpty() ? 0 : fontMetrics().horizontalAdvance(label);
-    return QSize(textWidth + 20, scaled(22));
+    // The indicator and its gap grow with the resolution like the text beside them.
+    return QSize(textWidth + scaledX(20), scaled(22));
 }
 
 void RibbonCatCheckBox::onActionChanged()
@@ -48,7 +62,7 @@ void RibbonCatCheckBox::onActionChanged()
         setText(action->textLabel());
         updateGeometry();
     }
-    setToolTip(action->toolTip());
+    setToolTip(ribbonScreenTip(action));
 }
 
 } // namespace zel

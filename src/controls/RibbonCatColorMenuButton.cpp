@@ -8,6 +8,7 @@
 #include "RibbonPlatform.h"
 #include "RibbonPopupReplay_p.h"
 #include "RibbonScale_p.h"
+#include "RibbonScreenTip_p.h"
 #include "RibbonStyle.h"
 #include "RibbonTextFit_p.h"
 
@@ -147,7 +148,8 @@ void RibbonCatColorMenuButton::actionEvent(QActionEvent *event)
         return;
     calculateLineCount();
     setEnabled(action->isEnabled());
-    setToolTip(action->toolTip());
+    setToolTip(ribbonScreenTip(action));
+    setAccessibleName(ribbonAccessibleName(action));
 
     RibbonColorPickerPopup &popup = d->popup;
     popup.setKeepSelection(action->keepsSelection());
@@ -285,7 +287,7 @@ void RibbonCatColorMenuButton::drawRowButton(QPainter &painter)
     const int arrowRow = stateRow(MenuArrow::Hover, MenuArrow::Open);
     RibbonPaint::drawDropDownRow(painter, w, qMin(scaled(kRowHeight), h), captionRow, arrowRow);
 
-    const QPixmap pixmap = RibbonPaint::iconPixmap(action->icon(), kSmallIcon, enabled);
+    const QPixmap pixmap = RibbonPaint::iconPixmap(action->icon(), kSmallIcon, enabled, *this);
     if (!pixmap.isNull()) {
         const QSize ps = pixmap.size() / pixmap.devicePixelRatio();
         painter.drawPixmap((16 - ps.width()) / 2 + 3, scaled((16 - ps.height()) / 2 + 3), pixmap);
@@ -311,11 +313,11 @@ void RibbonCatColorMenuButton::drawLargeIcon(QPainter &painter)
     const int row = stateRow(PaletteItem::Hover, PaletteItem::Checked);
     if (row != NoRow) {
         const QPixmap &sheet = RibbonApplication::theApp().ribbonStyle().paletteItemLarge();
-        d->background.set(rect(), QRect(0, 0, sheet.width(), kLargeHeight), QMargins(2, 2, 2, 2));
+        d->background.set(rect(), QRect(0, 0, RibbonPaint::logicalSize(sheet).width(), kLargeHeight), QMargins(2, 2, 2, 2));
         d->background.draw(painter, sheet, row * kLargeHeight);
     }
 
-    const QPixmap pixmap = RibbonPaint::iconPixmap(action->icon(), kLargeIcon, enabled);
+    const QPixmap pixmap = RibbonPaint::iconPixmap(action->icon(), kLargeIcon, enabled, *this);
     if (!pixmap.isNull()) {
         const QSize ps = pixmap.size() / pixmap.devicePixelRatio();
         painter.drawPixmap((w - ps.width()) / 2, (32 - ps.height()) / 2 + 2, pixmap);

@@ -1,6 +1,7 @@
 #include "RibbonCatComboComboBox.h"
 
 #include "RibbonCatComboAction.h"
+#include "RibbonScale_p.h"
 
 #include <QActionEvent>
 #include <QKeyEvent>
@@ -14,7 +15,7 @@ RibbonCatComboComboBox::RibbonCatComboComboBox(RibbonCatComboAction &action, QWi
 {
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     setIconSize(QSize(action.iconWidth(), 22));
-    setFixedWidth(action.width());
+    setFixedWidth(scaledX(action.width()));
     // Entered texts are added by the action (onReturnPressed), at the end as Qt would.
     setInsertPolicy(QComboBox::NoInsert);
     onEditableChanged();

@@ -2,6 +2,7 @@
 
 #include "RibbonCatComboAction.h"
 #include "RibbonCatComboComboBox.h"
+#include "RibbonScale_p.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -25,7 +26,7 @@ RibbonCatComboWidget::RibbonCatComboWidget(RibbonCatComboAction &action, QWidget
     if (!action.comboLabel().isEmpty()) {
         if (!action.isVerticalAligned()) {
             const int labelWidth = m_label->fontMetrics().horizontalAdvance(action.comboLabel());
-            setFixedSize(labelWidth + 10 + action.width(), 22);
+            setFixedSize(labelWidth + 10 + scaledX(action.width()), 22);
         } else {
             layout->removeWidget(m_comboBox);
             layout->addWidget(m_comboBox, 1, 0);

@@ -1,6 +1,7 @@
 #include "RibbonCatFontFamilyComboBox.h"
 
 #include "RibbonCatFontFamilyAction.h"
+#include "RibbonScale_p.h"
 
 #include <QActionEvent>
 
@@ -12,7 +13,7 @@ RibbonCatFontFamilyComboBox::RibbonCatFontFamilyComboBox(RibbonCatFontFamilyActi
     , m_action(&action)
 {
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-    setFixedWidth(140);
+    setFixedWidth(scaledX(140));
     connect(this, SIGNAL(currentFontChanged(const QFont &)), &action,
             SLOT(setFontFamily(const QFont &)));
     connect(this, SIGNAL(activated(int)), this, SLOT(onIndexChanged(int)));

@@ -9,6 +9,7 @@
 #include "RibbonPlatform.h"
 #include "RibbonPopupReplay_p.h"
 #include "RibbonScale_p.h"
+#include "RibbonScreenTip_p.h"
 #include "RibbonStyle.h"
 #include "RibbonTextFit_p.h"
 #include "RibbonViewPopup.h"
@@ -128,7 +129,9 @@ void RibbonCatMenuButton::refreshFromAction(QActionEvent *event)
     }
     setEnabled(action->isEnabled());
     const RibbonAction *defaultAction = action->defaultAction();
-    setToolTip(defaultAction ? defaultAction->toolTip() : action->toolTip());
+    setToolTip(ribbonScreenTip(defaultAction ? static_cast<const QAction *>(defaultAction) : action));
+    setAccessibleName(ribbonAccessibleName(action));
+    setAccessibleDescription(action->statusTip());
     if (d)
         d->actionEvent(event);
     updateGeometry();
@@ -542,8 +545,8 @@ void RibbonCatMenuButtonBPriv::paintRow(QPainter &painter)
                 RibbonPaint::drawThreeSlice(painter, QRect(0, 0, w - 11, rowHeight), captionImage,
                                             QRect(0, RowHeight * captionState, 22, RowHeight), 2, 1);
             if (arrowState != NoRow)
-                painter.drawPixmap(QRect(w - ArrowWidth, 0, ArrowWidth, rowHeight), arrowImage,
-                                   QRect(0, RowHeight * arrowState, ArrowWidth, RowHeight));
+                RibbonPaint::drawPart(painter, QRect(w - ArrowWidth, 0, ArrowWidth, rowHeight), arrowImage,
+                                      QRect(0, RowHeight * arrowState, ArrowWidth, RowHeight));
         }
     } else {
         if (drawBorder) {
@@ -565,7 +568,7 @@ void RibbonCatMenuButtonBPriv::paintRow(QPainter &painter)
     if (icon.isNull() && defaultAction)
         icon = defaultAction->icon();
     const bool iconEnabled = defaultAction ? defaultAction->isEnabled() : enabled;
-    const QPixmap pixmap = RibbonPaint::iconPixmap(icon, 16, iconEnabled);
+    const QPixmap pixmap = RibbonPaint::iconPixmap(icon, 16, iconEnabled, *painter.device());
     const QColor textColor = RibbonPaint::textColor(enabled);
     if (!pixmap.isNull()) {
         const QSize ps = pixmap.size() / pixmap.devicePixelRatio();
@@ -632,7 +635,7 @@ void RibbonCatMenuButtonBPriv::paintLarge(QPainter &painter)
     if (icon.isNull() && defaultAction)
         icon = defaultAction->icon();
     const bool iconEnabled = defaultAction ? defaultAction->isEnabled() : enabled;
-    const QPixmap pixmap = RibbonPaint::iconPixmap(icon, 32, iconEnabled);
+    const QPixmap pixmap = RibbonPaint::iconPixmap(icon, 32, iconEnabled, *painter.device());
     if (!pixmap.isNull()) {
         const QSize ps = pixmap.size() / pixmap.devicePixelRatio();
         painter.drawPixmap((w - ps.width()) / 2, scaled((32 - ps.height()) / 2 + 2), pixmap);

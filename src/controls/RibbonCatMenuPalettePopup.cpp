@@ -315,12 +315,12 @@ void RibbonCatMenuPalettePopup::paintEvent(QPaintEvent *)
         else if (hovered)
             state = PaletteItem::Hover;
         if (state != NoRow) {
-            d->cell.set(cell, QRect(0, 0, sheet.width(), rowHeight), QMargins(2, 2, 2, 2));
+            d->cell.set(cell, QRect(0, 0, RibbonPaint::logicalSize(sheet).width(), rowHeight), QMargins(2, 2, 2, 2));
             d->cell.draw(painter, sheet, state * rowHeight);
         }
 
         const int extent = small ? kSmallIcon : kLargeIcon;
-        const QPixmap pixmap = RibbonPaint::iconPixmap(item->icon(), extent, item->isEnabled());
+        const QPixmap pixmap = RibbonPaint::iconPixmap(item->icon(), extent, item->isEnabled(), *this);
         if (pixmap.isNull())
             continue;
         const QSize ps = pixmap.size() / pixmap.devicePixelRatio();

@@ -5,6 +5,7 @@
 #include "RibbonImageRows_p.h"
 #include "RibbonPaint_p.h"
 #include "RibbonScale_p.h"
+#include "RibbonScreenTip_p.h"
 #include "RibbonStyle.h"
 #include "RibbonTextFit_p.h"
 
@@ -96,7 +97,7 @@ void RibbonCatSimpleButton::actionEvent(QActionEvent *event)
             setEnabled(own->isEnabled());
             setIcon(own->icon());
             setText(own->text());
-            setToolTip(own->toolTip());
+            setToolTip(ribbonScreenTip(own));
             setCheckable(own->isCheckable());
             setChecked(own->isChecked());
             d->sizeHint = QSize();
@@ -163,10 +164,10 @@ void RibbonCatSimpleButton::paintEvent(QPaintEvent *)
 
     if (d->size == RibbonCatSimpleAction::SizeLarge) {
         if (state != NoRow) {
-            d->background.set(rect(), QRect(0, 0, style.paletteItemLarge().width(), kLargeRow), border);
+            d->background.set(rect(), QRect(0, 0, RibbonPaint::logicalSize(style.paletteItemLarge()).width(), kLargeRow), border);
             d->background.draw(painter, style.paletteItemLarge(), state * kLargeRow);
         }
-        const QPixmap pixmap = RibbonPaint::iconPixmap(icon(), kLargeIcon, enabled);
+        const QPixmap pixmap = RibbonPaint::iconPixmap(icon(), kLargeIcon, enabled, *this);
         if (!pixmap.isNull()) {
             const QSize ps = pixmap.size() / pixmap.devicePixelRatio();
             painter.drawPixmap((w - ps.width()) / 2, (32 - ps.height()) / 2 + 2, pixmap);
@@ -180,10 +181,10 @@ void RibbonCatSimpleButton::paintEvent(QPaintEvent *)
     }
 
     if (state != NoRow) {
-        d->background.set(rect(), QRect(0, 0, style.paletteItemSmall().width(), kSmallRow), border);
+        d->background.set(rect(), QRect(0, 0, RibbonPaint::logicalSize(style.paletteItemSmall()).width(), kSmallRow), border);
         d->background.draw(painter, style.paletteItemSmall(), state * kSmallRow);
     }
-    const QPixmap pixmap = RibbonPaint::iconPixmap(icon(), kSmallIcon, enabled);
+    const QPixmap pixmap = RibbonPaint::iconPixmap(icon(), kSmallIcon, enabled, *this);
     if (!pixmap.isNull()) {
         const QSize ps = pixmap.size() / pixmap.devicePixelRatio();
         painter.drawPixmap((18 - ps.width()) / 2 + 2, scaled((18 - ps.height()) / 2 + 2), pixmap);

@@ -135,7 +135,7 @@ void RibbonColorPickerItems::paintEvent(QPaintEvent *)
 {
     using namespace RibbonImageRows;
     const QPixmap &sheet = RibbonApplication::theApp().ribbonStyle().paletteItemSmall();
-    const QRect rowSource(0, 0, sheet.width(), RibbonPaint::SmallRowHeight);
+    const QRect rowSource(0, 0, RibbonPaint::logicalSize(sheet).width(), RibbonPaint::SmallRowHeight);
     const QPoint hoveredCell = underMouse() ? cellAt(mapFromGlobal(QCursor::pos())) : kNoCell;
     QPainter painter(this);
     painter.setPen(Qt::gray);

@@ -6,6 +6,7 @@
 #include "RibbonStyle.h"
 
 #include <QCheckBox>
+#include <QCoreApplication>
 #include <QColorDialog>
 #include <QPainter>
 #include <QPointer>
@@ -54,6 +55,7 @@ struct RibbonColorPickerPopup::Priv
     ColorItems *colorItems = nullptr;
     QColor selectedColor;
     QColor automaticColor;
+    QColor moreSwatchColor; // the colour "More colors..." shows, invalid for none
     RibbonCatSimpleAction *moreAction = nullptr;
     RibbonCatSimpleButton *moreButton = nullptr;
     RibbonCatSimpleAction *automaticAction = nullptr;
@@ -77,15 +79,16 @@ struct RibbonColorPickerPopup::Priv
     }
 
     // Makes a special entry the choice: no cell and no swatch stand for a colour then.
-    void chooseSpecial(const QWidget &popup, const RibbonCatSimpleAction *entry) const
+    void chooseSpecial(const QWidget &popup, const RibbonCatSimpleAction *entry)
     {
         checkOnly(entry);
         colorItems->selectColor(QColor());
         setMoreColorsSwatch(popup, QColor());
     }
 
-    void setMoreColorsSwatch(const QWidget &popup, const QColor &color) const
+    void setMoreColorsSwatch(const QWidget &popup, const QColor &color)
     {
+        moreSwatchColor = color;
         moreAction->setIcon(color.isValid() ? swatch(popup, color) : QIcon());
     }
 
@@ -114,12 +117,24 @@ RibbonColorPickerPopup::RibbonColorPickerPopup(QWidget *parent)
     setMouseTracking(true);
 
     d->colorItems = new ColorItems(this);
-    d->moreAction = makeEntry(tr("More colors..."), false, this);
+    // Translated under the class name without its namespace, the context this entry's
+    // text has always had in catalogues.
+    d->moreAction = makeEntry(QCoreApplication::translate("RibbonColorPickerPopup", "More colors..."), false, this);
     d->moreButton = new RibbonCatSimpleButton(*d->moreAction, this);
     connect(d->colorItems, &ColorItems::colorSelected, this, &RibbonColorPickerPopup::colorClicked);
     connect(d->moreAction, &QAction::triggered, this, &RibbonColorPickerPopup::moreColorsClicked);
     d->layout->addWidget(d->colorItems);
     d->layout->addWidget(d->moreButton);
+
+    // The swatches are drawn on the widget palette's button colour, which a change of
+    // the ribbon's palette changes as well.
+    connect(&RibbonApplication::theApp(), &RibbonApplication::ribbonStyleChanged, this, [this] {
+        if (d->automaticAction)
+            d->automaticAction->setIcon(swatch(*this, d->automaticColor));
+        if (d->noneAction)
+            d->noneAction->setIcon(swatch(*this, QColor()));
+        d->setMoreColorsSwatch(*this, d->moreSwatchColor);
+    });
 }
 
 RibbonColorPickerPopup::~RibbonColorPickerPopup() = default;
@@ -228,8 +243,13 @@ void RibbonColorPickerPopup::setGradientEnabled(bool enabled)
     }
     if (!d->gradientBox) {
         d->gradientBox = new QCheckBox(tr("Gradient"), this);
-        const QColor text = RibbonApplication::theApp().ribbonStyle().normalCategoryTextColor();
-        d->gradientBox->setStyleSheet(QStringLiteral("QCheckBox { color: %1; }").arg(text.name()));
+        QCheckBox *box = d->gradientBox;
+        const auto applyTextColor = [box] {
+            const QColor text = RibbonApplication::theApp().ribbonStyle().normalCategoryTextColor();
+            box->setStyleSheet(QStringLiteral("QCheckBox { color: %1; }").arg(text.name()));
+        };
+        applyTextColor();
+        connect(&RibbonApplication::theApp(), &RibbonApplication::ribbonStyleChanged, box, applyTextColor);
         d->gradientBox->setChecked(d->gradient);
         connect(d->gradientBox, &QCheckBox::stateChanged, this, &RibbonColorPickerPopup::onGradientChecked);
     }

@@ -675,7 +675,8 @@ void RibbonQStyle::drawCheckIndicator(const QStyleOption *option, QPainter *pain
     const QColor &outline = !enabled ? style->disabledCategoryTextColor()
         : (hover || pressed) ? style->frameBorderColor()
                              : style->backstageGrayBorderPressedColor();
-    const QColor &mark = enabled ? style->frameBorderColor() : style->disabledCategoryTextColor();
+    const QColor mark = enabled ? legibleOn(fill, style->frameBorderColor(), style->normalCategoryTextColor())
+                                : style->disabledCategoryTextColor();
 
     painter->save();
     if (radio) {

@@ -8,6 +8,7 @@
 #include <QStyleOption>
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace zel {
 namespace stylepainter {
@@ -32,10 +33,10 @@ bool drawStateRow(QPainter *painter, const QRect &target, const QPixmap &sheet, 
     if (sheet.isNull() || !target.isValid())
         return false;
 
-    QRect source(0, 0, sheet.width(), sheet.height());
+    QRect source(QPoint(0, 0), RibbonPaint::logicalSize(sheet));
     int offset = 0;
-    if (rowHeight > 0 && sheet.height() >= rowHeight) {
-        const int rows = sheet.height() / rowHeight;
+    if (rowHeight > 0 && source.height() >= rowHeight) {
+        const int rows = source.height() / rowHeight;
         source.setHeight(rowHeight);
         offset = std::clamp(row, 0, rows - 1) * rowHeight;
     }
@@ -43,6 +44,11 @@ bool drawStateRow(QPainter *painter, const QRect &target, const QPixmap &sheet, 
     slices.set(target, source, QMargins(border, border, border, border));
     slices.draw(*painter, sheet, offset);
     return true;
+}
+
+QColor legibleOn(const QColor &background, const QColor &preferred, const QColor &fallback)
+{
+    return std::abs(preferred.lightness() - background.lightness()) >= 64 ? preferred : fallback;
 }
 
 void drawFlatPanel(QPainter *painter, const QRect &rect, const QColor &fill, const QColor &outline)

@@ -31,6 +31,10 @@ bool drawStateRow(QPainter *painter, const QRect &target, const QPixmap &sheet, 
 // A flat panel: fill, then a one-pixel outline inside rect (an invalid colour skips the part).
 void drawFlatPanel(QPainter *painter, const QRect &rect, const QColor &fill, const QColor &outline);
 
+// preferred when it stands out from background, else fallback: an accent that is also
+// a dark palette's frame colour would vanish on its dark fields.
+QColor legibleOn(const QColor &background, const QColor &preferred, const QColor &fallback);
+
 // A small filled arrow (Qt::UpArrow .. Qt::RightArrow) centred in rect, width x height
 // pixels for up/down (height x width for left/right), in the painter's current brush.
 void drawArrow(QPainter *painter, const QRect &rect, Qt::ArrowType type, int width = 7, int height = 4);

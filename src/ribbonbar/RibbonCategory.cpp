@@ -33,6 +33,9 @@ namespace zel {
 
 namespace {
 
+// The largest text, in points, a category's fixed rows hold.
+const qreal MaxTextPoints = 9;
+
 // A menu command whose items show in the ribbon gets a gallery instead of a button.
 QWidget *makeListPreview(QAction *action, QWidget *parent)
 {
@@ -89,6 +92,15 @@ RibbonCategory::RibbonCategory(QWidget *parent, RibbonCategoryAction &action)
     setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
     setMouseTracking(true);
     setAttribute(Qt::WA_Hover);
+    // The rows of a category are designed for text of at most 9 points (heights follow
+    // the resolution, as points do). A larger desktop font would push the second line of
+    // a large caption into the category's own caption, so the category and its controls
+    // draw in the inherited font capped at that size; smaller fonts are kept as they are.
+    if (font().pointSizeF() > MaxTextPoints) {
+        QFont capped;
+        capped.setPointSizeF(MaxTextPoints);
+        setFont(capped);
+    }
 
     connect(&action, &RibbonCategoryAction::actionAdded, this, &RibbonCategory::addRibbonAction);
     connect(&action, &RibbonCategoryAction::actionRemoved, this, &RibbonCategory::removeRibbonAction);
@@ -96,12 +108,13 @@ RibbonCategory::RibbonCategory(QWidget *parent, RibbonCategoryAction &action)
 
     d->layout = new RibbonCategoryLayout(this);
     setLayout(d->layout);
-    // Every addition recomputes the whole arrangement: arrange the initial controls once.
+    // Every addition recomputes the whole arrangement: arrange the initial controls once,
+    // when first asked.
     d->layout->m_suppressed = true;
     for (RibbonAction *member : action.actions())
         QWidget::addAction(member);
     d->layout->m_suppressed = false;
-    d->layout->recompute();
+    d->layout->m_pending = true;
     d->layout->invalidate();
 }
 

@@ -82,11 +82,13 @@ int RibbonCategoryLayout::count() const
 
 QSize RibbonCategoryLayout::sizeHint() const
 {
+    ensureArranged();
     return m_size;
 }
 
 QSize RibbonCategoryLayout::minimumSize() const
 {
+    ensureArranged();
     return m_size;
 }
 
@@ -97,6 +99,7 @@ Qt::Orientations RibbonCategoryLayout::expandingDirections() const
 
 void RibbonCategoryLayout::setGeometry(const QRect &rect)
 {
+    ensureArranged();
     QLayout::setGeometry(rect);
     for (int i = 0; i < m_items.size(); ++i)
         m_items.at(i)->setGeometry(m_rects.at(i).translated(rect.topLeft()));
@@ -114,6 +117,7 @@ int RibbonCategoryLayout::heightForWidth(int) const
 
 QRect RibbonCategoryLayout::itemRect(int index) const
 {
+    ensureArranged();
     return index >= 0 && index < m_rects.size() ? m_rects.at(index) : QRect();
 }
 
@@ -132,10 +136,17 @@ int RibbonCategoryLayout::rowOf(int index) const
     return m_category->actionRow(widget ? m_category->action(widget) : nullptr);
 }
 
+void RibbonCategoryLayout::ensureArranged() const
+{
+    if (m_pending)
+        const_cast<RibbonCategoryLayout *>(this)->recompute();
+}
+
 void RibbonCategoryLayout::recompute()
 {
     if (m_suppressed)
         return;
+    m_pending = false;
     const QMargins margins = contentsMargins();
     const int height = categoryHeight();
     const int usable = height - margins.top() - margins.bottom();

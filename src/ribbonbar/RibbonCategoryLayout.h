@@ -13,7 +13,9 @@ class RibbonCategory;
 // Places the controls of a category in its fixed height: tall controls side by side,
 // runs of short controls three to a column (filled column by column) or in the rows
 // the host assigned. Controls keep their own size hints; the arrangement is computed
-// when a control is added or removed, not when a size hint changes later.
+// when a control is added or removed, not when a size hint changes later. The initial
+// controls of a category are arranged when a size or a place is first asked for, so
+// that the pages nobody has looked at yet do not measure their controls.
 class ZELRIBBON_EXPORT RibbonCategoryLayout : public QLayout
 {
     Q_OBJECT
@@ -40,6 +42,8 @@ private:
     friend class RibbonCategory;
 
     void recompute();
+    // Arranges the initial controls if that is still to be done.
+    void ensureArranged() const;
     int arrangeAutomatic(int first, int end, int x0);
     int arrangeRows(int first, int end, int x0, int rowCount);
     int rowOf(int index) const;
@@ -50,6 +54,8 @@ private:
     QList<QRect> m_rects;
     QSize m_size;
     bool m_suppressed = false;
+    // The initial controls wait for their arrangement.
+    bool m_pending = false;
 };
 
 } // namespace zel

@@ -8,6 +8,7 @@
 #include "RibbonImageRows_p.h"
 #include "RibbonPaint_p.h"
 #include "RibbonScale_p.h"
+#include "RibbonScreenTip_p.h"
 #include "RibbonStyle.h"
 #include "RibbonTextFit_p.h"
 
@@ -52,7 +53,17 @@ RibbonCategoryWrapper::RibbonCategoryWrapper(RibbonCategoryPanel &panel, RibbonC
 
     d->category = new RibbonCategory(this, action);
     d->category->move(0, 0);
-    d->category->resize(d->category->sizeHint());
+    // The group takes its size when the wrapper is shown (see event()): measuring it
+    // now would measure every control of pages that may never be shown.
+
+    // Folded, the wrapper is the button a screen reader meets: named by its caption.
+    const auto nameFromCaption = [this] {
+        const QString name = ribbonShownText(d->action.text());
+        if (accessibleName() != name)
+            setAccessibleName(name);
+    };
+    nameFromCaption();
+    connect(&action, &QAction::changed, this, nameFromCaption);
 }
 
 RibbonCategoryWrapper::~RibbonCategoryWrapper()
@@ -194,8 +205,8 @@ void RibbonCategoryWrapper::paintEvent(QPaintEvent *)
     RibbonPaint::drawThreeSlice(painter, QRect(0, 0, width(), h), style.categoryWrapperBack(),
                                 QRect(0, row * 85, 52, 85), 3, 3);
 
-    painter.drawPixmap(QRect(width() / 2 - 3, height() - 10, 5, 3), style.categoryWrapperIcon(),
-                       QRect(0, 0, 5, 3));
+    RibbonPaint::drawPart(painter, QRect(width() / 2 - 3, height() - 10, 5, 3), style.categoryWrapperIcon(),
+                          QRect(0, 0, 5, 3));
 
     const QIcon icon = d->action.icon();
     if (!icon.isNull()) {

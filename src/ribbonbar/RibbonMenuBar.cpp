@@ -10,6 +10,7 @@
 #include "RibbonCatMenuButton.h"
 #include "RibbonCategoriesPanelAction.h"
 #include "RibbonCategoryPanelsProxy.h"
+#include "RibbonCommandShortcuts_p.h"
 #include "RibbonContextCategoryPanel.h"
 #include "RibbonContextCategoryPanelAction.h"
 #include "RibbonMainWindow.h"
@@ -84,6 +85,7 @@ struct RibbonMenuBar::Priv
     RibbonSimpleAction *collapseAction = nullptr;
     RibbonButtonNormal *collapseButton = nullptr;
     RibbonContextCategoryPanel *contextPanels = nullptr;
+    QPointer<RibbonCommandShortcuts> shortcuts; // beside the bar, not its child
     QPointer<QAction> displayedContext;
     // The displayed set's tabs, kept apart from the set: when the set is destroyed its
     // list is gone, yet tabs it did not own still stand in the row.
@@ -131,6 +133,7 @@ RibbonMenuBar::RibbonMenuBar(RibbonMainWindow &window)
 
     d->mainButton = new RibbonButtonMain(*this);
     d->mainButton->setText(QCoreApplication::translate("RibbonMenuBar", "File").toUpper());
+    d->mainButton->setAccessibleName(QCoreApplication::translate("RibbonMenuBar", "File"));
     d->tabStrip->addWidget(d->mainButton);
     d->mainButton->hide(); // until the first tab arrives
 
@@ -143,9 +146,13 @@ RibbonMenuBar::RibbonMenuBar(RibbonMainWindow &window)
     updateCollapseRibbonAction();
 
     d->contextPanels = new RibbonContextCategoryPanel(*this);
+    d->shortcuts = new RibbonCommandShortcuts(this);
 }
 
-RibbonMenuBar::~RibbonMenuBar() = default;
+RibbonMenuBar::~RibbonMenuBar()
+{
+    delete d->shortcuts;
+}
 
 RibbonMainWindow &RibbonMenuBar::ribbonMainWindow() const
 {
@@ -442,6 +449,8 @@ void RibbonMenuBar::addPanelAction(RibbonCategoriesPanelAction *tab)
     tab->setChecked(false);
 
     d->window.addAction(tab); // for its shortcut
+    if (d->shortcuts)
+        d->shortcuts->addTab(tab); // and those of its commands
     d->panels->addAction(tab);
 
     auto *button = new RibbonMenuBarButton(*this);
@@ -480,6 +489,8 @@ void RibbonMenuBar::removeTab(QAction *tab)
     if (qobject_cast<RibbonCategoriesPanelAction *>(tab))
         tab->setChecked(false);
     d->window.removeAction(tab);
+    if (d->shortcuts)
+        d->shortcuts->removeTab(tab);
     d->panels->removeAction(tab);
 
     if (auto *button = d->widgets.widgetAs<RibbonMenuBarButton>(tab))

@@ -286,7 +286,7 @@ void RibbonTabBar::paintEvent(QPaintEvent *)
     const RibbonStyle &style = RibbonApplication::theApp().ribbonStyle();
     const QPixmap &sheet = style.tabBarTabs();
     const int h = barHeight();
-    painter.drawPixmap(QRect(0, 0, ButtonAreaWidth, h), sheet, TabImage::Middle);
+    RibbonPaint::drawPart(painter, QRect(0, 0, ButtonAreaWidth, h), sheet, TabImage::Middle);
 
     RibbonMenuAction *menu = d->menu();
     if (!menu)

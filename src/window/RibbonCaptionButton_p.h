@@ -4,6 +4,7 @@
 // size and the back they show hovered and pressed. Not installed.
 
 #include "RibbonApplication.h"
+#include "RibbonPaint_p.h"
 #include "RibbonStyle.h"
 #include "RibbonWindowImages_p.h"
 
@@ -28,8 +29,8 @@ inline void drawBack(QPainter &painter, const QWidget &button, bool hovered, boo
     namespace Back = WindowImages::SysButtonBack;
     if (!hovered && !pressed)
         return;
-    painter.drawPixmap(button.rect(), RibbonApplication::theApp().ribbonStyle().sysBtnBack(),
-                       QRect(0, pressed ? Back::PressedRow : Back::HoverRow, Back::Width, Back::RowHeight));
+    RibbonPaint::drawPart(painter, button.rect(), RibbonApplication::theApp().ribbonStyle().sysBtnBack(),
+                          QRect(0, pressed ? Back::PressedRow : Back::HoverRow, Back::Width, Back::RowHeight));
 }
 
 } // namespace RibbonCaptionButton

@@ -4,6 +4,7 @@
 #include "BackstageWelcomeScreen.h"
 #include "RibbonApplication.h"
 #include "RibbonButtonMain.h"
+#include "RibbonKeyTips_p.h"
 #include "RibbonMainWindowFrame_p.h"
 #include "RibbonMenuBar.h"
 #include "RibbonPlatform.h"
@@ -173,6 +174,7 @@ RibbonMainWindow::RibbonMainWindow(QWidget *parent, Qt::WindowFlags flags)
 
     d->updateTitleRow();
     d->updateMargins();
+    new RibbonKeyTips(*this);
 }
 
 RibbonMainWindow::~RibbonMainWindow()

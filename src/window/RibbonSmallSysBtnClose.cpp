@@ -45,8 +45,8 @@ void RibbonSmallSysBtnClose::paintEvent(QPaintEvent *)
     RibbonCaptionButton::drawBack(painter, *this, hovered, down);
     const int glyphRow = down ? Glyph::PressedRow : hovered ? Glyph::HoverRow : Glyph::ChildNormalRow;
     const QRect glyph(0, 0, Glyph::Width, Glyph::RowHeight);
-    painter.drawPixmap(glyph.translated(rect().center() - glyph.center()), style.sysBtnCloseSmall(),
-                       glyph.translated(0, glyphRow));
+    RibbonPaint::drawPart(painter, glyph.translated(rect().center() - glyph.center()), style.sysBtnCloseSmall(),
+                          glyph.translated(0, glyphRow));
 }
 
 } // namespace zel

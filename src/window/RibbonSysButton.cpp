@@ -1,6 +1,7 @@
 #include "RibbonSysButton.h"
 
 #include "RibbonApplication.h"
+#include "RibbonPaint_p.h"
 #include "RibbonStyle.h"
 #include "RibbonWindowImages_p.h"
 
@@ -67,9 +68,9 @@ void RibbonSysButton::paintEvent(QPaintEvent *)
     namespace Glyph = WindowImages::SysButtonGlyph;
     const RibbonStyle &style = RibbonApplication::theApp().ribbonStyle();
     if (hover && !pressed)
-        painter.drawPixmap(rect(), style.sysBtnBack(), QRect(0, Back::HoverRow, Back::Width, Back::RowHeight));
+        RibbonPaint::drawPart(painter, rect(), style.sysBtnBack(), QRect(0, Back::HoverRow, Back::Width, Back::RowHeight));
     else if (pressed)
-        painter.drawPixmap(rect(), style.sysBtnBack(), QRect(0, Back::PressedRow, Back::Width, Back::RowHeight));
+        RibbonPaint::drawPart(painter, rect(), style.sysBtnBack(), QRect(0, Back::PressedRow, Back::Width, Back::RowHeight));
 
     const bool windowActive = m_window && m_window->isActiveWindow();
     int y = windowActive ? Glyph::ActiveRow : Glyph::InactiveRow;
@@ -93,7 +94,7 @@ void RibbonSysButton::paintEvent(QPaintEvent *)
         break;
     }
     if (glyph)
-        painter.drawPixmap(rect(), *glyph, QRect(0, y, Glyph::Width, Glyph::RowHeight));
+        RibbonPaint::drawPart(painter, rect(), *glyph, QRect(0, y, Glyph::Width, Glyph::RowHeight));
 }
 
 } // namespace zel

@@ -24,8 +24,8 @@ void RibbonSysDockButton::paintEvent(QPaintEvent *)
 
     QPainter painter(this);
     RibbonCaptionButton::drawBack(painter, *this, hovered, pressed);
-    painter.drawPixmap(rect(), RibbonApplication::theApp().ribbonStyle().sysBtnRestore(),
-                       QRect(0, pressed ? Glyph::PressedRow : Glyph::UndockRestingRow, Glyph::Width, Glyph::RowHeight));
+    RibbonPaint::drawPart(painter, rect(), RibbonApplication::theApp().ribbonStyle().sysBtnRestore(),
+                          QRect(0, pressed ? Glyph::PressedRow : Glyph::UndockRestingRow, Glyph::Width, Glyph::RowHeight));
 }
 
 } // namespace zel

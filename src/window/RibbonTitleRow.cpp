@@ -2,6 +2,7 @@
 
 #include "RibbonApplication.h"
 #include "RibbonMainWindow.h"
+#include "RibbonPaint_p.h"
 #include "RibbonQuickAccessBar.h"
 #include "RibbonStyle.h"
 #include "RibbonSysButton.h"
@@ -9,6 +10,8 @@
 #include <QHBoxLayout>
 #include <QPainter>
 #include <QSpacerItem>
+
+#include <algorithm>
 
 namespace zel {
 
@@ -28,6 +31,7 @@ RibbonTitleRow::RibbonTitleRow(RibbonMainWindow *window)
 
     m_sysMenuButton = new RibbonSysButton(window, RibbonSysButton::SystemMenu);
     m_sysMenuButton->setObjectName(QStringLiteral("sysMenuButton"));
+    m_sysMenuButton->setAccessibleName(RibbonMainWindow::tr("System menu"));
     QObject::connect(m_sysMenuButton, SIGNAL(clicked()), window, SLOT(onShowSysMenu()));
     m_layout->addWidget(m_sysMenuButton);
 
@@ -43,6 +47,7 @@ RibbonTitleRow::RibbonTitleRow(RibbonMainWindow *window)
         auto *button = new RibbonSysButton(window, type);
         button->setObjectName(QLatin1String(name));
         button->setToolTip(toolTip);
+        button->setAccessibleName(toolTip);
         QObject::connect(button, SIGNAL(clicked()), window, slot, Qt::QueuedConnection);
         m_layout->addWidget(button);
         return button;
@@ -90,8 +95,9 @@ void RibbonTitleRow::windowActivationChanged()
 
 void RibbonTitleRow::windowStateChanged()
 {
-    m_maximizeButton->setToolTip(m_window->isMaximized() ? RibbonMainWindow::tr("Restore")
-                                                         : RibbonMainWindow::tr("Maximize"));
+    const QString name = m_window->isMaximized() ? RibbonMainWindow::tr("Restore") : RibbonMainWindow::tr("Maximize");
+    m_maximizeButton->setToolTip(name);
+    m_maximizeButton->setAccessibleName(name);
 }
 
 QString RibbonTitleRow::titleText() const
@@ -115,7 +121,7 @@ void RibbonTitleRow::paintOverPage(QPainter &painter, int leftWidth, int rightWi
     preparePainter(painter);
     const RibbonStyle &style = RibbonApplication::theApp().ribbonStyle();
     const QRect t = m_layout->geometry().adjusted(0, -extraTop, 0, 0);
-    painter.fillRect(t, Qt::white);
+    painter.fillRect(t, RibbonPaint::paneFill(Qt::white));
     painter.fillRect(QRect(t.left(), t.top(), leftWidth, t.height()), style.frameBorderColor());
     if (!m_showTitleBar)
         return;
@@ -146,6 +152,15 @@ void RibbonTitleRow::paintOverMainView(QPainter &painter, const RibbonMenuBar::C
     band.adjust(2, 0, -2, 0);
     if (m_quickAccessBar->isVisible() && m_quickAccessBar->geometry().intersects(band))
         return;
+    // In a narrow window the set's tabs may sit below the window buttons; the band ends
+    // where the free part of the title row does, and is left out when none of it is free.
+    if (m_minimizeButton->isVisible()) {
+        band.setRight(std::min(band.right(), m_minimizeButton->mapTo(m_window, QPoint(0, 0)).x() - 1));
+        if (band.width() <= 0) {
+            drawCentred();
+            return;
+        }
+    }
 
     // A centred title that would run into the band moves to its right.
     QRect full(0, 0, metrics.horizontalAdvance(title), spacer.height());

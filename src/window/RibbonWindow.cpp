@@ -531,8 +531,8 @@ void RibbonWindow::paintEvent(QPaintEvent *event)
     RibbonPaint::drawThreeSlice(p, QRect(0, 0, w, c), style.mainBorderCaption(),
                                 QRect(k, 0, F::HalfWidth, F::CaptionHeight), b, b);
     const QPixmap &border = style.mainBorder();
-    p.drawPixmap(QRect(0, c, b, h - b - c), border, QRect(k, F::SideRow, F::EndWidth, 1));
-    p.drawPixmap(QRect(w - b, c, b, h - b - c), border, QRect(k + F::RightEndX, F::SideRow, F::EndWidth, 1));
+    RibbonPaint::drawPart(p, QRect(0, c, b, h - b - c), border, QRect(k, F::SideRow, F::EndWidth, 1));
+    RibbonPaint::drawPart(p, QRect(w - b, c, b, h - b - c), border, QRect(k + F::RightEndX, F::SideRow, F::EndWidth, 1));
     RibbonPaint::drawThreeSlice(p, QRect(0, h - b, w, b), border,
                                 QRect(k, F::BottomRow, F::HalfWidth, F::BottomHeight), b, b);
 
@@ -579,13 +579,13 @@ void RibbonWindow::paintEvent(QPaintEvent *event)
     for (const auto &button : buttons) {
         const bool hovered = button.rect.contains(cursor);
         if (hovered && button.pressed) {
-            p.drawPixmap(button.rect, style.sysBtnBack(), backRow(Back::PressedRow));
-            p.drawPixmap(button.rect, button.icon, glyphRow(Glyph::PressedRow));
+            RibbonPaint::drawPart(p, button.rect, style.sysBtnBack(), backRow(Back::PressedRow));
+            RibbonPaint::drawPart(p, button.rect, button.icon, glyphRow(Glyph::PressedRow));
         } else if (hovered) {
-            p.drawPixmap(button.rect, style.sysBtnBack(), backRow(Back::HoverRow));
-            p.drawPixmap(button.rect, button.icon, glyphRow(Glyph::HoverRow));
+            RibbonPaint::drawPart(p, button.rect, style.sysBtnBack(), backRow(Back::HoverRow));
+            RibbonPaint::drawPart(p, button.rect, button.icon, glyphRow(Glyph::HoverRow));
         } else {
-            p.drawPixmap(button.rect, button.icon, glyphRow(Glyph::NormalRow));
+            RibbonPaint::drawPart(p, button.rect, button.icon, glyphRow(Glyph::NormalRow));
         }
     }
 }

@@ -8,6 +8,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QTimer>
+#include <QWindow>
 
 #include <algorithm>
 #include <iterator>
@@ -147,8 +148,13 @@ void RibbonWindowBorder::BorderItem::place()
     default:
         return;
     }
-    setFixedSize(size.expandedTo(QSize(0, 0)));
-    move(topLeft);
+    // A strip the window's change leaves in place (the left side when only the width
+    // changes, say) keeps its pixels: repainting it would only send them again.
+    const QRect placed(topLeft, size.expandedTo(QSize(0, 0)));
+    if (placed == geometry())
+        return;
+    setFixedSize(placed.size());
+    move(placed.topLeft());
     update();
 }
 
@@ -192,12 +198,15 @@ void RibbonWindowBorder::BorderItem::updateMask()
     if (window != QApplication::activeWindow()) {
         // Another window is active: leave out whatever part of the item lies under other
         // windows, system frame and caption included, so the shadow never draws on them.
+        // This runs on every paint, so it goes over the application's windows, a handful,
+        // and never over its widgets, which may be tens of thousands.
         const int s = RibbonPlatform::sizingFrameThickness();
         const int c = RibbonPlatform::captionHeight();
         region = QRegion(rect());
-        const QWidgetList topLevels = QApplication::topLevelWidgets();
-        for (const QWidget *other : topLevels) {
-            if (!other->isVisible() || other == window || isBorderItem(other))
+        const QWindow *own = window->windowHandle();
+        const QWindowList topLevels = QGuiApplication::topLevelWindows();
+        for (QWindow *other : topLevels) {
+            if (!other->isVisible() || other == own || isBorderItem(QWidget::find(other->winId())))
                 continue;
             QRect g = other->geometry().adjusted(-s, -(c + s), s, s);
             g.moveTopLeft(mapFromGlobal(g.topLeft()));
@@ -217,6 +226,50 @@ void RibbonWindowBorder::BorderItem::updateMask()
         clearMask();
 }
 
+// The shadow's bands from the window outwards, one pixel each: band i of a side is a line
+// along it; band i of a corner is an L, its leg along the side plus the rest of its other
+// leg, so that the shared corner pixel is filled once. Filled rectangles blend exactly as
+// one-pixel lines do and cost far less to draw.
+int RibbonWindowBorder::BorderItem::shadowBand(int i, QRect bands[2]) const
+{
+    const QRect r = rect();
+    const QRect vertical(0, 0, 1, i + 1);
+    const QRect horizontal(0, 0, i, 1);
+    switch (position) {
+    case Left:
+        bands[0] = QRect(r.right() - i, r.top(), 1, r.height());
+        return 1;
+    case Top:
+        bands[0] = QRect(r.left(), r.bottom() - i, r.width(), 1);
+        return 1;
+    case Right:
+        bands[0] = QRect(r.left() + i, r.top(), 1, r.height());
+        return 1;
+    case Bottom:
+        bands[0] = QRect(r.left(), r.top() + i, r.width(), 1);
+        return 1;
+    case TopLeft:
+        bands[0] = vertical.translated(r.right() - i, r.bottom() - i);
+        bands[1] = horizontal.translated(r.right() - i + 1, r.bottom() - i);
+        break;
+    case TopRight:
+        bands[0] = vertical.translated(r.left() + i, r.bottom() - i);
+        bands[1] = horizontal.translated(r.left(), r.bottom() - i);
+        break;
+    case BottomRight:
+        bands[0] = vertical.translated(r.left() + i, r.top());
+        bands[1] = horizontal.translated(r.left(), r.top() + i);
+        break;
+    case BottomLeft:
+        bands[0] = vertical.translated(r.right() - i, r.top());
+        bands[1] = horizontal.translated(r.right() - i + 1, r.top() + i);
+        break;
+    default:
+        return 0;
+    }
+    return i > 0 ? 2 : 1;
+}
+
 void RibbonWindowBorder::BorderItem::paintEvent(QPaintEvent *event)
 {
     QWidget::paintEvent(event);
@@ -227,49 +280,13 @@ void RibbonWindowBorder::BorderItem::paintEvent(QPaintEvent *event)
         return;
 
     QPainter p(this);
-    const QRect r = rect();
+    QRect bands[2];
     for (int i = 0; i < int(std::size(kShadowAlphas)); ++i) {
         QColor colour(0x80, 0x80, 0x80);
         colour.setAlpha(kShadowAlphas[i]);
-        p.setPen(colour);
-        switch (position) {
-        case Left:
-            p.drawLine(r.right() - i, r.top(), r.right() - i, r.bottom());
-            break;
-        case Top:
-            p.drawLine(r.left(), r.bottom() - i, r.right(), r.bottom() - i);
-            break;
-        case Right:
-            p.drawLine(r.left() + i, r.top(), r.left() + i, r.bottom());
-            break;
-        case Bottom:
-            p.drawLine(r.left(), r.top() + i, r.right(), r.top() + i);
-            break;
-        // Each L is drawn as its vertical leg plus the rest of its horizontal leg, so the
-        // shared corner pixel is not blended twice.
-        case TopLeft:
-            p.drawLine(r.right() - i, r.bottom() - i, r.right() - i, r.bottom());
-            if (i > 0)
-                p.drawLine(r.right() - i + 1, r.bottom() - i, r.right(), r.bottom() - i);
-            break;
-        case TopRight:
-            p.drawLine(r.left() + i, r.bottom() - i, r.left() + i, r.bottom());
-            if (i > 0)
-                p.drawLine(r.left(), r.bottom() - i, r.left() + i - 1, r.bottom() - i);
-            break;
-        case BottomRight:
-            p.drawLine(r.left() + i, r.top(), r.left() + i, r.top() + i);
-            if (i > 0)
-                p.drawLine(r.left(), r.top() + i, r.left() + i - 1, r.top() + i);
-            break;
-        case BottomLeft:
-            p.drawLine(r.right() - i, r.top(), r.right() - i, r.top() + i);
-            if (i > 0)
-                p.drawLine(r.right() - i + 1, r.top() + i, r.right(), r.top() + i);
-            break;
-        default:
-            break;
-        }
+        const int n = shadowBand(i, bands);
+        for (int b = 0; b < n; ++b)
+            p.fillRect(bands[b], colour);
     }
 }
 

@@ -51,6 +51,8 @@ protected:
 
 private:
     void updateMask();
+    // Puts band i of the shadow into bands as one or two rectangles; returns how many.
+    int shadowBand(int i, QRect bands[2]) const;
     bool windowHasFixedSize() const;
 };
 

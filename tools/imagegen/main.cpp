@@ -11,6 +11,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QHash>
 #include <QImage>
 #include <QImageReader>
 #include <QImageWriter>
@@ -63,14 +64,26 @@ public:
             }
             value = next;
         }
-        return value;
+        return remapped(value);
     }
+
+    // Colours of a variant image set (see Generator::variantImages).
+    void setRemap(const QHash<QString, QString> *remap) { m_remap = remap; }
 
     // A misspelt variable would silently draw nothing; the run fails instead.
     bool failed() const { return m_failed; }
 
 private:
+    QJsonValue remapped(const QJsonValue &value) const
+    {
+        if (!m_remap || !value.isString())
+            return value;
+        const auto it = m_remap->constFind(value.toString().toUpper());
+        return it == m_remap->constEnd() ? value : QJsonValue(it.value());
+    }
+
     QList<QJsonObject> m_layers;
+    const QHash<QString, QString> *m_remap = nullptr;
     mutable bool m_failed = false;
 };
 
@@ -439,6 +452,7 @@ struct Generator
     QJsonObject root;
     QString outDir;
     QMap<QString, QStringList> filesByDir;
+    QMap<QString, QHash<QString, QString>> variantRemaps;
 
     // The image's own keys over those of its template; "vars" are kept apart so that
     // both layers stay visible.
@@ -460,7 +474,66 @@ struct Generator
         return true;
     }
 
-    bool drawImage(const QJsonObject &image, const QJsonObject &templateVars, QImage &result) const
+    // Pixel-art shapes (a triangle built of 5-, 3- and 1-pixel rows) would only be
+    // doubled at a higher scale; such an image names a smooth outline of the same shape
+    // for them in "highResolutionDraw".
+    static QString drawKey(const QJsonObject &image, int scale)
+    {
+        const QString high = QStringLiteral("highResolutionDraw");
+        return scale > 1 && image.contains(high) ? high : QStringLiteral("draw");
+    }
+
+    // A variant ("variants" in the description) redraws every image of one directory into
+    // another with its own colour table: "colors" replaces named colours, "literals" maps
+    // colours written out in the images (upper-case keys), except in the images listed
+    // in "keepLiterals". The copies carry the variant's name under "variant".
+    bool addVariantImages(QJsonArray &images)
+    {
+        const QJsonObject variants = root.value(QStringLiteral("variants")).toObject();
+        const QJsonArray base = images;
+        for (auto v = variants.constBegin(); v != variants.constEnd(); ++v) {
+            const QJsonObject variant = v.value().toObject();
+            const QString from = variant.value(QStringLiteral("from")).toString();
+            const QString into = variant.value(QStringLiteral("dir")).toString();
+            if (from.isEmpty() || into.isEmpty()) {
+                err() << "variant " << v.key() << " needs 'from' and 'dir'\n";
+                return false;
+            }
+            QHash<QString, QString> &remap = variantRemaps[v.key()];
+            const QJsonObject literals = variant.value(QStringLiteral("literals")).toObject();
+            for (auto l = literals.constBegin(); l != literals.constEnd(); ++l)
+                remap.insert(l.key().toUpper(), l.value().toString());
+            for (const QJsonValue &i : base) {
+                QJsonObject image, templateVars;
+                if (!withTemplate(i.toObject(), image, templateVars))
+                    return false;
+                if (image.value(QStringLiteral("dir")).toString() != from)
+                    continue;
+                QJsonObject copy = i.toObject();
+                copy.insert(QStringLiteral("dir"), into);
+                copy.insert(QStringLiteral("variant"), v.key());
+                images.append(copy);
+            }
+        }
+        return true;
+    }
+
+    void applyVariant(const QJsonObject &image, Scope &scope) const
+    {
+        const QString name = image.value(QStringLiteral("variant")).toString();
+        if (name.isEmpty())
+            return;
+        const QJsonObject variant = root.value(QStringLiteral("variants")).toObject().value(name).toObject();
+        scope.push(variant.value(QStringLiteral("colors")).toObject());
+        const QJsonArray keep = variant.value(QStringLiteral("keepLiterals")).toArray();
+        const auto remap = variantRemaps.constFind(name);
+        if (remap != variantRemaps.constEnd() && !keep.contains(image.value(QStringLiteral("file"))))
+            scope.setRemap(&remap.value());
+    }
+
+    // Draws the image at scale times its described size: the description stays in
+    // logical pixels, so a 2x image is the same drawing with twice the detail.
+    bool drawImage(const QJsonObject &image, const QJsonObject &templateVars, QImage &result, int scale = 1) const
     {
         const QJsonArray sizeArray = image.value(QStringLiteral("size")).toArray();
         const QSize size(sizeArray.at(0).toInt(), sizeArray.at(1).toInt());
@@ -484,14 +557,16 @@ struct Generator
             return false;
         }
 
-        QImage canvas(size, QImage::Format_ARGB32_Premultiplied);
+        QImage canvas(size * scale, QImage::Format_ARGB32_Premultiplied);
         canvas.fill(Qt::transparent);
         QPainter painter(&canvas);
+        painter.scale(scale, scale);
         const QJsonObject styles = root.value(QStringLiteral("styles")).toObject();
         for (int i = 0; i < states.size(); ++i) {
             const QJsonObject state = states.at(i).toObject();
             Scope scope;
             scope.push(root.value(QStringLiteral("colors")).toObject());
+            applyVariant(image, scope);
             scope.push(root.value(QStringLiteral("shapes")).toObject());
             scope.push(templateVars);
             scope.push(image.value(QStringLiteral("vars")).toObject());
@@ -510,7 +585,7 @@ struct Generator
             if (state.value(QStringLiteral("empty")).toBool())
                 continue;
             const QJsonArray ops = state.contains(QStringLiteral("draw")) ? state.value(QStringLiteral("draw")).toArray()
-                                                                          : image.value(QStringLiteral("draw")).toArray();
+                                                                          : image.value(drawKey(image, scale)).toArray();
             painter.save();
             const QPoint origin = alongX ? QPoint(i * step, 0) : QPoint(0, i * step);
             painter.translate(origin);
@@ -528,7 +603,9 @@ struct Generator
 
     bool run()
     {
-        const QJsonArray images = root.value(QStringLiteral("images")).toArray();
+        QJsonArray images = root.value(QStringLiteral("images")).toArray();
+        if (!addVariantImages(images))
+            return false;
         const QJsonObject dirs = root.value(QStringLiteral("directories")).toObject();
         int written = 0;
         for (const QJsonValue &v : images) {
@@ -550,33 +627,72 @@ struct Generator
                 err() << "  while drawing " << file << '\n';
                 return false;
             }
-            QDir().mkpath(outDir + QLatin1Char('/') + dir);
-            const QString path = outDir + QLatin1Char('/') + dir + QLatin1Char('/') + file;
-            const QByteArray format = QFileInfo(file).suffix().toLower().toLatin1();
-            QBuffer buffer;
-            buffer.open(QIODevice::WriteOnly);
-            QImageWriter writer(&buffer, format);
-            if (!writer.write(img)) {
-                err() << "cannot write " << path << ": " << writer.errorString() << '\n';
+            if (!writeImage(dir, file, img))
                 return false;
-            }
-            QByteArray bytes = buffer.data();
-            if (format == "ico")
-                clearIcoMaskPadding(bytes);
-            if (!writeIfChanged(path, bytes))
+            if (!writeHighResolution(image, templateVars, dir, file))
                 return false;
-            // Read it back: what the library loads must be what was drawn.
-            const QImage back(path);
-            if (back.isNull() || back.size() != img.size()) {
-                err() << "written " << path << " does not read back\n";
-                return false;
-            }
             filesByDir[dir] << file;
             ++written;
         }
         if (!writeQrc(dirs))
             return false;
         QTextStream(stdout) << written << " images written to " << QDir::toNativeSeparators(outDir) << '\n';
+        return true;
+    }
+
+    bool writeImage(const QString &dir, const QString &file, const QImage &img) const
+    {
+        QDir().mkpath(outDir + QLatin1Char('/') + dir);
+        const QString path = outDir + QLatin1Char('/') + dir + QLatin1Char('/') + file;
+        const QByteArray format = QFileInfo(file).suffix().toLower().toLatin1();
+        QBuffer buffer;
+        buffer.open(QIODevice::WriteOnly);
+        QImageWriter writer(&buffer, format);
+        if (!writer.write(img)) {
+            err() << "cannot write " << path << ": " << writer.errorString() << '\n';
+            return false;
+        }
+        QByteArray bytes = buffer.data();
+        if (format == "ico")
+            clearIcoMaskPadding(bytes);
+        if (!writeIfChanged(path, bytes))
+            return false;
+        // Read it back: what the library loads must be what was drawn.
+        const QImage back(path);
+        if (back.isNull() || back.size() != img.size()) {
+            err() << "written " << path << " does not read back\n";
+            return false;
+        }
+        return true;
+    }
+
+    // Each image is drawn again at every factor of "highResolutionScales" (an image may
+    // narrow the list with its own key) and written as "name@<factor>x.ext", the name
+    // Qt's loaders look for on high-resolution screens. Only the files are added to the
+    // resource list: the 1x file keeps its alias.
+    bool writeHighResolution(const QJsonObject &image, const QJsonObject &templateVars, const QString &dir,
+                             const QString &file)
+    {
+        const QString key = QStringLiteral("highResolutionScales");
+        const QJsonArray scales = image.contains(key) ? image.value(key).toArray() : root.value(key).toArray();
+        const QFileInfo info(file);
+        for (const QJsonValue &v : scales) {
+            const int scale = v.toInt();
+            if (scale < 2) {
+                err() << "image '" << file << "': a high-resolution scale must be an integer of 2 or more\n";
+                return false;
+            }
+            const QString scaledFile = info.completeBaseName() + QLatin1Char('@') + QString::number(scale)
+                + QStringLiteral("x.") + info.suffix();
+            QImage img;
+            if (!drawImage(image, templateVars, img, scale)) {
+                err() << "  while drawing " << scaledFile << '\n';
+                return false;
+            }
+            if (!writeImage(dir, scaledFile, img))
+                return false;
+            filesByDir[dir] << scaledFile;
+        }
         return true;
     }
 
