@@ -374,16 +374,21 @@ void tst_StateRecordFuzz::quickAccessReadsDamagedRecords()
         }
         }
 
-        // The host restores the record, then adds its commands.
+        bar.setQuickAccessBarItems(record);
+        // Every name kept as given, unknown ones included.
+        QVERIFY2(bar.disabledQuickAccessBarItems() == record, qPrintable(where));
+        if (n % 4 != 0) {
+            saved = record;
+            continue;
+        }
+
+        // Every fourth record, the host restores it before it adds its commands: each
+        // named command starts hidden exactly when the record names it.
         for (QAction *command : commands)
             bar.removeAction(command);
         bar.setQuickAccessBarItems(record);
         for (QAction *command : commands)
             bar.addAction(command);
-
-        // Every name kept as given, unknown ones included; each named command hidden
-        // exactly when the record names it.
-        QVERIFY2(bar.disabledQuickAccessBarItems() == record, qPrintable(where));
         for (int i = 0; i < commands.size(); ++i) {
             const bool hidden = !names.at(i).isEmpty() && record.contains(names.at(i));
             QWidget *button = buttonOf(commands.at(i));
