@@ -542,6 +542,9 @@ EditorDemo::EditorDemo(QSettings &settings, QWidget *parent)
     connect(this, &RibbonMainWindow::activeViewChanged, this, [this] {
         if (activeView() == BackstagePanel)
             refreshInfo();
+        // Back from the welcome or File page the user types into the document at once.
+        else if (activeView() == MainView && d->edit)
+            d->edit->setFocus();
     });
 
     if (d->preferences->startMinimised()) {
