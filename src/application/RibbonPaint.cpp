@@ -7,9 +7,80 @@
 #include <QAbstractButton>
 #include <QFileInfo>
 #include <QGuiApplication>
+#include <QHash>
 #include <QPainter>
 
 namespace zel {
+
+namespace {
+
+// A piece of a palette image, by the image's cache key and the piece's rectangle.
+struct PieceKey
+{
+    qint64 image;
+    QRect source;
+    bool operator==(const PieceKey &other) const { return image == other.image && source == other.source; }
+};
+
+uint qHash(const PieceKey &key, uint seed = 0)
+{
+    const int rect[4] = {key.source.x(), key.source.y(), key.source.width(), key.source.height()};
+    return ::qHash(key.image, seed) ^ qHashBits(rect, sizeof rect, seed);
+}
+
+// What stretching a piece may skip: a piece whose columns are all alike looks the same
+// stretched sideways as tiled sideways, one whose rows are alike the same stretched or
+// tiled downwards; the raster engine tiles several times faster than it scales.
+struct PieceShape
+{
+    QPixmap piece; // the piece alone, for tiling; null when neither way is alike
+    bool sameColumns = false;
+    bool sameRows = false;
+};
+
+PieceShape shapeOf(const QPixmap &pixmap, const QRect &source)
+{
+    PieceShape shape;
+    const QImage image = pixmap.copy(source).toImage().convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    if (image.isNull())
+        return shape;
+    const int rowBytes = image.width() * 4;
+    shape.sameRows = true;
+    for (int y = 1; y < image.height() && shape.sameRows; ++y)
+        shape.sameRows = memcmp(image.constScanLine(y), image.constScanLine(0), size_t(rowBytes)) == 0;
+    shape.sameColumns = true;
+    for (int y = 0; y < image.height() && shape.sameColumns; ++y) {
+        const auto *line = reinterpret_cast<const QRgb *>(image.constScanLine(y));
+        for (int x = 1; x < image.width() && shape.sameColumns; ++x)
+            shape.sameColumns = line[x] == line[0];
+    }
+    if (shape.sameColumns || shape.sameRows)
+        shape.piece = pixmap.copy(source);
+    return shape;
+}
+
+// Stretches source of pixmap (at its own ratio of 1) onto target by tiling where that
+// gives the pixels nearest-pixel scaling gives; false where it does not.
+bool drawStretchedAsTiles(QPainter &painter, const QRect &target, const QPixmap &pixmap, const QRect &source)
+{
+    const bool wider = target.width() != source.width();
+    const bool taller = target.height() != source.height();
+    if ((!wider && !taller) || painter.testRenderHint(QPainter::SmoothPixmapTransform)
+        || painter.transform().type() > QTransform::TxTranslate)
+        return false;
+    // Palette images are few and their pieces fewer: the shapes are kept for the process.
+    static QHash<PieceKey, PieceShape> shapes;
+    const PieceKey key{pixmap.cacheKey(), source};
+    auto it = shapes.constFind(key);
+    if (it == shapes.cend())
+        it = shapes.insert(key, shapeOf(pixmap, source));
+    if ((wider && !it->sameColumns) || (taller && !it->sameRows) || it->piece.isNull())
+        return false;
+    painter.drawTiledPixmap(target, it->piece);
+    return true;
+}
+
+} // namespace
 
 void RibbonSlices::set(const QRect &target, const QRect &source, const QMargins &border)
 {
@@ -60,7 +131,8 @@ void drawPart(QPainter &painter, const QRect &target, const QPixmap &pixmap, con
 {
     const qreal ratio = pixmap.devicePixelRatio();
     if (qFuzzyCompare(ratio, 1.0)) {
-        painter.drawPixmap(target, pixmap, source);
+        if (!drawStretchedAsTiles(painter, target, pixmap, source))
+            painter.drawPixmap(target, pixmap, source);
         return;
     }
     // QPainter takes the source in device pixels. Where the image's and the device's

@@ -53,7 +53,8 @@ namespace RibbonPaint {
 ZELRIBBON_AUTOTEST_EXPORT QSize logicalSize(const QPixmap &pixmap);
 
 // Draws the part source (logical pixels of pixmap) of pixmap onto target.
-void drawPart(QPainter &painter, const QRect &target, const QPixmap &pixmap, const QRect &source);
+ZELRIBBON_AUTOTEST_EXPORT void drawPart(QPainter &painter, const QRect &target, const QPixmap &pixmap,
+                                        const QRect &source);
 
 // Loads the palette image at path: where the application has a device pixel ratio above
 // 1, its "name@2x" drawing when there is one (a null pixmap when path is missing).
