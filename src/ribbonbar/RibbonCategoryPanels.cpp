@@ -27,6 +27,11 @@ struct RibbonCategoryPanels::Priv
 
     RibbonMenuBar &bar;
     RibbonActionWidgetMap<RibbonCategoryPanel> pages;
+    // The page whose updates are on. Every other page keeps its updates switched off
+    // explicitly: switching pages makes QStackedLayout turn the stack's updates off and
+    // on again, which walks every widget under it except those switched off on their
+    // own, so the switch costs two pages instead of all of them.
+    QPointer<QWidget> liveUpdates;
 };
 
 RibbonCategoryPanels::RibbonCategoryPanels(RibbonMenuBar &menuBar)
@@ -36,9 +41,22 @@ RibbonCategoryPanels::RibbonCategoryPanels(RibbonMenuBar &menuBar)
     setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
     setFixedHeight(scaled(92));
     setContentsMargins(4, 3, 4, 4);
+    connect(this, &QStackedWidget::currentChanged, this, &RibbonCategoryPanels::giveUpdatesToCurrent);
 }
 
 RibbonCategoryPanels::~RibbonCategoryPanels() = default;
+
+void RibbonCategoryPanels::giveUpdatesToCurrent()
+{
+    QWidget *current = currentWidget();
+    if (current == d->liveUpdates)
+        return;
+    if (current)
+        current->setUpdatesEnabled(true);
+    if (d->liveUpdates && indexOf(d->liveUpdates) >= 0)
+        d->liveUpdates->setUpdatesEnabled(false);
+    d->liveUpdates = current;
+}
 
 RibbonMenuBar &RibbonCategoryPanels::menuBar() const
 {
@@ -72,6 +90,8 @@ void RibbonCategoryPanels::actionEvent(QActionEvent *event)
             auto *page = new RibbonCategoryPanel(*this, *tab);
             d->pages.insert(tabAction, page);
             addWidget(page);
+            if (page != currentWidget())
+                page->setUpdatesEnabled(false);
             if (tab->isChecked())
                 setCurrentWidget(page);
         }
@@ -82,8 +102,11 @@ void RibbonCategoryPanels::actionEvent(QActionEvent *event)
     case QEvent::ActionChanged:
         if (tab && tab->isChecked()) {
             if (RibbonCategoryPanel *page = d->pages.widget(tabAction)) {
-                if (currentWidget() != page)
+                if (currentWidget() != page) {
+                    // On before it is shown, so that it paints as it appears.
+                    page->setUpdatesEnabled(true);
                     setCurrentWidget(page);
+                }
                 // While the ribbon is minimised this opens the popup.
                 if (!isVisible())
                     show();

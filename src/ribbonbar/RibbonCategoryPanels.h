@@ -41,6 +41,7 @@ protected:
 
 private:
     RibbonMenuBarButton *panelMenuButton(QWidget *page) const;
+    void giveUpdatesToCurrent();
 
     friend class RibbonCategoryPanelsProxy;
 
