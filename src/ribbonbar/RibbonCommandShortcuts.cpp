@@ -73,7 +73,12 @@ void RibbonCommandShortcuts::addTab(RibbonCategoriesPanelAction *tab)
     if (!tab || m_tabs.contains(tab))
         return;
     m_tabs.append(tab);
-    sync();
+    // Only the new tab: going over every tab at each addition would make building a
+    // ribbon quadratic in its tabs. Nothing else changed, so there is nothing to drop.
+    QSet<QObject *> containers;
+    takeInTab(tab, containers);
+    for (QObject *container : qAsConst(containers))
+        watch(container);
 }
 
 void RibbonCommandShortcuts::removeTab(QAction *tab)
@@ -110,15 +115,7 @@ void RibbonCommandShortcuts::sync()
         if (!tab)
             continue;
         tabs.insert(tab);
-        containers.insert(tab);
-        QSet<QAction *> wanted;
-        for (RibbonCategoryAction *category : tab->categories()) {
-            if (!qobject_cast<RibbonCategoryAction *>(static_cast<QObject *>(category)))
-                continue; // being destroyed
-            containers.insert(category);
-            collectCommands(*category, wanted, containers);
-        }
-        carry(tab, wanted);
+        takeInTab(tab, containers);
     }
     for (auto it = m_carriers.begin(); it != m_carriers.end();) {
         if (!tabs.contains(it.key())) {
@@ -140,6 +137,19 @@ void RibbonCommandShortcuts::sync()
     }
     for (QObject *container : qAsConst(containers))
         watch(container);
+}
+
+void RibbonCommandShortcuts::takeInTab(RibbonCategoriesPanelAction *tab, QSet<QObject *> &containers)
+{
+    containers.insert(tab);
+    QSet<QAction *> wanted;
+    for (RibbonCategoryAction *category : tab->categories()) {
+        if (!qobject_cast<RibbonCategoryAction *>(static_cast<QObject *>(category)))
+            continue; // being destroyed
+        containers.insert(category);
+        collectCommands(*category, wanted, containers);
+    }
+    carry(tab, wanted);
 }
 
 void RibbonCommandShortcuts::carry(const QObject *tab, QSet<QAction *> &commands)

@@ -48,6 +48,9 @@ private slots:
     void onMemberRemoved();
 
 private:
+    // Makes tab's carrier carry the tab's commands; adds the tab and the containers
+    // within it to containers.
+    void takeInTab(RibbonCategoriesPanelAction *tab, QSet<QObject *> &containers);
     // Makes the carrier of tab's commands carry exactly commands (which it empties).
     void carry(const QObject *tab, QSet<QAction *> &commands);
     void watch(QObject *container);
