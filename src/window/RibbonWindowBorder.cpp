@@ -151,11 +151,17 @@ void RibbonWindowBorder::BorderItem::place()
     // A strip the window's change leaves in place (the left side when only the width
     // changes, say) keeps its pixels: repainting it would only send them again.
     const QRect placed(topLeft, size.expandedTo(QSize(0, 0)));
-    if (placed == geometry())
+    const QRect before = geometry();
+    if (placed == before)
         return;
-    setFixedSize(placed.size());
-    move(placed.topLeft());
-    update();
+    if (placed.size() != before.size())
+        setFixedSize(placed.size());
+    if (placed.topLeft() != before.topLeft())
+        move(placed.topLeft());
+    // A strip that only moves keeps its pixels too, unless they depend on where it lies:
+    // while another window is active its mask cuts that window out.
+    if (placed.size() != before.size() || !mask().isEmpty() || covered || window != QApplication::activeWindow())
+        update();
 }
 
 void RibbonWindowBorder::BorderItem::syncVisibility()
