@@ -491,6 +491,108 @@ int parent(const QStringList &workloads, const QString &csvPath, int runs, const
 
 } // namespace
 
+// The figures of one CSV written by parent(): ratio per workload and metric, and the
+// zelRibbon growth exponent per metric.
+struct CsvFigures
+{
+    QMap<QString, QMap<QString, double>> ratio; // workload -> metric -> ratio
+    QMap<QString, double> growth;              // metric -> exponent
+    QStringList workloads;
+};
+
+CsvFigures readCsv(const QString &path)
+{
+    CsvFigures f;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+        return f;
+    QTextStream in(&file);
+    in.readLine(); // header
+    while (!in.atEnd()) {
+        const QStringList cells = in.readLine().split(QLatin1Char(','));
+        if (cells.size() < 6)
+            continue;
+        if (cells.at(0) == QLatin1String("growth")) {
+            f.growth[cells.at(2)] = cells.at(3).toDouble();
+        } else if (cells.at(0) != QLatin1String("border")) {
+            if (!f.workloads.contains(cells.at(0)))
+                f.workloads << cells.at(0);
+            f.ratio[cells.at(0)][cells.at(2)] = cells.at(5).toDouble();
+        }
+    }
+    return f;
+}
+
+// One cell of the targets table: "met: a / b / c", "missed: a / b / c", or the ratios
+// followed by the workloads that missed.
+QString targetCell(const CsvFigures &f, const char *metric, double limit)
+{
+    QStringList values, missed;
+    for (const QString &wl : f.workloads) {
+        const double r = f.ratio.value(wl).value(QLatin1String(metric), NAN);
+        if (std::isnan(r))
+            continue;
+        values << QString::number(r, 'f', 2);
+        if (r > limit)
+            missed << wl;
+    }
+    if (values.isEmpty())
+        return QStringLiteral("not measured");
+    const QString joined = values.join(QStringLiteral(" / "));
+    if (missed.isEmpty())
+        return QStringLiteral("met: ") + joined;
+    if (missed.size() == values.size())
+        return QStringLiteral("missed: ") + joined;
+    return joined + QStringLiteral(", missed at ") + missed.join(QStringLiteral(", "));
+}
+
+QString growthCell(const CsvFigures &f)
+{
+    QString worstKey;
+    double worst = -INFINITY;
+    for (const Metric &m : metrics) {
+        const double e = f.growth.value(QLatin1String(m.key), NAN);
+        if (!m.time || std::isnan(e))
+            continue;
+        if (e > worst) {
+            worst = e;
+            worstKey = QLatin1String(m.label).trimmed();
+        }
+    }
+    if (worstKey.isEmpty())
+        return QStringLiteral("not measured");
+    const QString figure = QString::number(worst, 'f', 2);
+    return worst <= 1.0 ? QStringLiteral("met (≤ ") + figure + QLatin1Char(')')
+                        : QStringLiteral("missed by ") + worstKey + QStringLiteral(": ") + figure;
+}
+
+// The targets table of the README from the CSVs of the offscreen run and of the X run.
+int summary(const QString &offscreenCsv, const QString &xCsv)
+{
+    const CsvFigures off = readCsv(offscreenCsv), x = readCsv(xCsv);
+    struct Target
+    {
+        const char *label;
+        const char *metric;
+        double limit;
+    };
+    const Target targets[] = {
+        {"show to first paint ≤ 1.0 ×", "show_ms", 1.0},
+        {"resize step median ≤ 1.0 ×", "resize_ms", 1.0},
+        {"resize worst step ≤ 2 × the floor's worst", "resize_worst_ms", 2.0},
+        {"tab switch ≤ 0.6 ×", "switch_ms", 0.6},
+        {"memory per command ≤ 1.1 ×", "rss_per_button_kb", 1.1},
+    };
+    const auto slashed = [](const CsvFigures &f) { return f.workloads.join(QStringLiteral(" / ")); };
+    QTextStream out(stdout);
+    out << "| target | offscreen " << slashed(off) << " | under X " << slashed(x) << " |\n|---|---|---|\n";
+    for (const Target &t : targets)
+        out << "| " << QString::fromUtf8(t.label) << " | " << targetCell(off, t.metric, t.limit) << " | "
+            << targetCell(x, t.metric, t.limit) << " |\n";
+    out << "| nothing above linear | " << growthCell(off) << " | " << growthCell(x) << " |\n";
+    return 0;
+}
+
 int main(int argc, char *argv[])
 {
     QStringList args;
@@ -514,8 +616,17 @@ int main(int argc, char *argv[])
                       QStringLiteral("bench-results.csv")});
     parser.addOption({QStringLiteral("runs"), QStringLiteral("Fresh processes per workload and kind."),
                       QStringLiteral("N"), QStringLiteral("3")});
+    parser.addOption({QStringLiteral("summary"),
+                      QStringLiteral("Print the targets table from the CSVs of an offscreen and an X run, comma separated."),
+                      QStringLiteral("CSV,CSV")});
     parser.addHelpOption();
     parser.process(args);
+
+    if (parser.isSet(QStringLiteral("summary"))) {
+        const QStringList files = parser.value(QStringLiteral("summary")).split(QLatin1Char(','));
+        QCoreApplication app(argc, argv);
+        return summary(files.value(0), files.value(1));
+    }
 
     if (parser.isSet(QStringLiteral("border-widgets"))) {
         qInstallMessageHandler(quietHandler);

@@ -50,3 +50,7 @@ echo "=== X server (Xvfb) with a window manager (openbox) ==="
 echo "load before the run: $(uptime)"
 QT_QPA_PLATFORM=xcb ./bench/zelRibbonBench --csv "$BUILD/bench-results-x11.csv" --only resize,switch "$@"
 echo "load after the run: $(uptime)"
+
+echo
+echo "=== targets, as ratios to the floor (the README's table) ==="
+./bench/zelRibbonBench --summary "$BUILD/bench-results.csv,$BUILD/bench-results-x11.csv"
