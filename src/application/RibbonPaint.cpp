@@ -7,6 +7,7 @@
 #include <QAbstractButton>
 #include <QFileInfo>
 #include <QGuiApplication>
+#include <QCoreApplication>
 #include <QHash>
 #include <QPainter>
 
@@ -68,12 +69,22 @@ bool drawStretchedAsTiles(QPainter &painter, const QRect &target, const QPixmap 
     if ((!wider && !taller) || painter.testRenderHint(QPainter::SmoothPixmapTransform)
         || painter.transform().type() > QTransform::TxTranslate)
         return false;
-    // Palette images are few and their pieces fewer: the shapes are kept for the process.
+    // Palette images are few and their pieces fewer: the shapes are kept for the process
+    // (bounded all the same, should someone stretch pixmaps made afresh), and let go
+    // with the application, before the pixmaps could outlive it.
     static QHash<PieceKey, PieceShape> shapes;
+    static const bool cleanedUp = [] {
+        qAddPostRoutine([] { shapes.clear(); });
+        return true;
+    }();
+    Q_UNUSED(cleanedUp)
     const PieceKey key{pixmap.cacheKey(), source};
     auto it = shapes.constFind(key);
-    if (it == shapes.cend())
+    if (it == shapes.cend()) {
+        if (shapes.size() >= 256)
+            shapes.clear();
         it = shapes.insert(key, shapeOf(pixmap, source));
+    }
     if ((wider && !it->sameColumns) || (taller && !it->sameRows) || it->piece.isNull())
         return false;
     painter.drawTiledPixmap(target, it->piece);
