@@ -5,9 +5,9 @@
 #include "RibbonStyle.h"
 
 #include <QAbstractButton>
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QGuiApplication>
-#include <QCoreApplication>
 #include <QHash>
 #include <QPainter>
 
