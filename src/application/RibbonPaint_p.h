@@ -10,7 +10,7 @@
 #include <QMargins>
 #include <QPixmap>
 #include <QRect>
-#include <QVarLengthArray>
+#include <QVector>
 
 class QAbstractButton;
 class QPaintDevice;
@@ -37,7 +37,9 @@ private:
         QRect target;
         QRect source;
     };
-    QVarLengthArray<Piece, 9> m_pieces;
+    // On the heap, and only once drawn: most buttons never draw their state background,
+    // and a piece table kept inline would weigh on every one of them.
+    QVector<Piece> m_pieces;
     QRect m_target;
     QRect m_source;
     QMargins m_border;
