@@ -66,8 +66,9 @@ bool drawStretchedAsTiles(QPainter &painter, const QRect &target, const QPixmap 
 {
     const bool wider = target.width() != source.width();
     const bool taller = target.height() != source.height();
+    // Scaled painting, a high-resolution device's included, samples differently when tiling.
     if ((!wider && !taller) || painter.testRenderHint(QPainter::SmoothPixmapTransform)
-        || painter.transform().type() > QTransform::TxTranslate)
+        || painter.deviceTransform().type() > QTransform::TxTranslate)
         return false;
     // Palette images are few and their pieces fewer: the shapes are kept for the process
     // (bounded all the same, should someone stretch pixmaps made afresh), and let go

@@ -53,7 +53,8 @@ void RibbonCategoryPanels::giveUpdatesToCurrent()
         return;
     if (current)
         current->setUpdatesEnabled(true);
-    if (d->liveUpdates && indexOf(d->liveUpdates) >= 0)
+    // Only pages of tabs: a widget the host put in the stack keeps its own setting.
+    if (d->liveUpdates && indexOf(d->liveUpdates) >= 0 && d->pages.action(d->liveUpdates))
         d->liveUpdates->setUpdatesEnabled(false);
     d->liveUpdates = current;
 }
