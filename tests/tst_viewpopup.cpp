@@ -13,7 +13,6 @@
 #include <QCursor>
 #include <QFrame>
 #include <QGridLayout>
-#include <QHBoxLayout>
 #include <QLineEdit>
 
 using namespace zel;
@@ -410,16 +409,10 @@ private slots:
         RibbonSimpleAction *options = a.add(QStringLiteral("Options..."));
         layout.addBottomAction(options);
         layout.iconActionGroup()->addAction(a.add(QStringLiteral("Page")));
-        QWidget window;
-        auto *row = new QHBoxLayout(&window);
-        auto *edit = new QLineEdit(&window);
-        auto *button = new RibbonCatMenuButton(layout, &window);
-        row->addWidget(edit);
-        row->addWidget(button);
-        window.show();
-        QApplication::setActiveWindow(&window);
-        edit->setFocus();
-        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        ZelControlHost<RibbonCatMenuButton> host(layout);
+        QVERIFY(host.exposed());
+        RibbonCatMenuButton *button = host.button;
+        QLineEdit *edit = host.edit;
 
         const auto open = [button] {
             QTest::mousePress(button, Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));
