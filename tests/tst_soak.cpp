@@ -1077,10 +1077,12 @@ bool opState(Soak &s)
         NOTE("%s.setIcon", N(action));
         action->setIcon(s.icon());
         break;
-    case 6:
-        NOTE("%s.setVisible(%d)", N(action), flag || s.chance(50));
-        action->setVisible(flag || s.chance(50));
+    case 6: {
+        const bool visible = flag || s.chance(50); // drawn once, so that the log says what was done
+        NOTE("%s.setVisible(%d)", N(action), visible);
+        action->setVisible(visible);
         break;
+    }
     case 7:
         NOTE("%s.hover()", N(action));
         action->hover();
