@@ -5,7 +5,6 @@
 
 #include "RibbonCatMenuAction.h"
 #include "RibbonCatSimpleAction.h"
-#include "RibbonCatSimpleButton.h"
 #include "RibbonMenuAction.h"
 #include "RibbonSimpleAction.h"
 #include "RibbonStringAction.h"
@@ -14,7 +13,6 @@
 
 #include <QMenu>
 #include <QPointer>
-#include <QToolBar>
 
 using namespace zel;
 
@@ -54,7 +52,6 @@ class tst_MenuActions : public QObject
     Q_OBJECT
 
 private slots:
-    void catSimpleActionMakesButtonOnlyInToolBar();
     void itemsAndDefault();
     void exclusive();
     void checkedActionAndToBeToggled_data();
@@ -64,18 +61,6 @@ private slots:
     void deleteItemsThenMenu();
     void deleteItemInsideOwnTriggeredHandler();
 };
-
-void tst_MenuActions::catSimpleActionMakesButtonOnlyInToolBar()
-{
-    RibbonCatSimpleAction action(RibbonCatSimpleAction::SizeSmall, nullptr);
-    QWidget plain;
-    plain.addAction(&action);
-    QVERIFY(!action.requestWidget(&plain));
-
-    QToolBar bar;
-    bar.addAction(&action);
-    QVERIFY(qobject_cast<RibbonCatSimpleButton *>(bar.widgetForAction(&action)));
-}
 
 void tst_MenuActions::itemsAndDefault()
 {
