@@ -19,8 +19,6 @@
 #include <QPointer>
 #include <QWidget>
 
-#include <functional>
-
 using namespace zel;
 
 namespace {
@@ -225,16 +223,20 @@ void tst_StructureActions::containerRelaysActivationOnce()
     RibbonCategoryAction category(nullptr);
     RibbonCatActionGroup group(nullptr);
     RibbonMenuAction menu(nullptr);
-    const std::function<void(bool)> member[] = {
-        [&](bool add) { add ? category.addAction(command.data(), 0) : category.removeAction(command.data()); },
-        [&](bool add) { add ? group.addAction(command.data(), false) : group.removeAction(command.data()); },
-        [&](bool add) { add ? menu.addAction(command.data(), false) : menu.removeAction(command.data()); },
+    const auto setMember = [&](bool add) {
+        if (container == 0)
+            add ? category.addAction(command.data(), 0) : category.removeAction(command.data());
+        else if (container == 1)
+            add ? group.addAction(command.data(), false) : group.removeAction(command.data());
+        else
+            add ? menu.addAction(command.data(), false) : menu.removeAction(command.data());
     };
     RibbonAction *containers[] = {&category, &group, &menu};
     QSignalSpy activated(containers[container], &RibbonAction::ribbonActionActivated);
-    QSignalSpy itemTriggered(&menu, static_cast<void (RibbonMenuAction::*)(RibbonAction *)>(&RibbonMenuAction::triggered));
+    using ItemTriggered = void (RibbonMenuAction::*)(RibbonAction *);
+    QSignalSpy itemTriggered(&menu, ItemTriggered(&RibbonMenuAction::triggered));
     menu.trigger();
-    member[container](true);
+    setMember(true);
     QSignalSpy ownActivated(command.data(), &RibbonAction::ribbonActionActivated);
     command->trigger();
     QCOMPARE(activated.count(), expected);
@@ -244,7 +246,7 @@ void tst_StructureActions::containerRelaysActivationOnce()
         QCOMPARE(itemTriggered.at(0).at(0).value<RibbonAction *>(), command.data());
     }
 
-    member[container](false);
+    setMember(false);
     command->trigger();
     QCOMPARE(activated.count(), expected);
 }
