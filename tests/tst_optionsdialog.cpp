@@ -87,9 +87,9 @@ private slots:
 
 private:
     RecordingPage *addPage(const QString &title);
-    QList<RibbonOptionsButton *> buttons() const;
-    QList<RibbonOptionsButton *> checkedButtons() const;
-    QWidget *currentPage() const;
+    QList<RibbonOptionsButton *> buttons() const { return zelButtonsTopDown<RibbonOptionsButton>(m_dialog); }
+    QList<RibbonOptionsButton *> checkedButtons() const { return zelCheckedButtons<RibbonOptionsButton>(m_dialog); }
+    QWidget *currentPage() const { return zelCurrentPage(m_dialog); }
     QPushButton *boxButton(QDialogButtonBox::ButtonRole role) const;
 
     std::unique_ptr<RibbonMainWindow> m_window;
@@ -119,29 +119,6 @@ RecordingPage *tst_OptionsDialog::addPage(const QString &title)
     m_dialog->addOptionsPage(page);
     m_pages.append(page);
     return page;
-}
-
-QList<RibbonOptionsButton *> tst_OptionsDialog::buttons() const
-{
-    QList<RibbonOptionsButton *> list = m_dialog->findChildren<RibbonOptionsButton *>();
-    std::sort(list.begin(), list.end(), [](QWidget *a, QWidget *b) { return a->y() < b->y(); });
-    return list;
-}
-
-QList<RibbonOptionsButton *> tst_OptionsDialog::checkedButtons() const
-{
-    QList<RibbonOptionsButton *> checked;
-    for (RibbonOptionsButton *button : m_dialog->findChildren<RibbonOptionsButton *>()) {
-        if (button->isChecked())
-            checked.append(button);
-    }
-    return checked;
-}
-
-QWidget *tst_OptionsDialog::currentPage() const
-{
-    auto *stack = m_dialog->findChild<QStackedWidget *>();
-    return stack ? stack->currentWidget() : nullptr;
 }
 
 QPushButton *tst_OptionsDialog::boxButton(QDialogButtonBox::ButtonRole role) const

@@ -44,9 +44,9 @@ private slots:
 
 private:
     QWidget *addPage(const QString &text);
-    QList<RibbonStackedButton *> buttons() const;
-    QList<RibbonStackedButton *> checkedButtons() const;
-    QWidget *currentPage() const;
+    QList<RibbonStackedButton *> buttons() const { return zelButtonsTopDown<RibbonStackedButton>(m_widget.get()); }
+    QList<RibbonStackedButton *> checkedButtons() const { return zelCheckedButtons<RibbonStackedButton>(m_widget.get()); }
+    QWidget *currentPage() const { return zelCurrentPage(m_widget.get()); }
 
     std::unique_ptr<RibbonStackedWidget> m_widget;
     QList<QWidget *> m_pages;
@@ -71,30 +71,6 @@ QWidget *tst_StackedWidget::addPage(const QString &text)
     m_widget->addItem(page, text);
     m_pages.append(page);
     return page;
-}
-
-QList<RibbonStackedButton *> tst_StackedWidget::buttons() const
-{
-    // In the order they stand, top to bottom.
-    QList<RibbonStackedButton *> list = m_widget->findChildren<RibbonStackedButton *>();
-    std::sort(list.begin(), list.end(), [](QWidget *a, QWidget *b) { return a->y() < b->y(); });
-    return list;
-}
-
-QList<RibbonStackedButton *> tst_StackedWidget::checkedButtons() const
-{
-    QList<RibbonStackedButton *> checked;
-    for (RibbonStackedButton *button : m_widget->findChildren<RibbonStackedButton *>()) {
-        if (button->isChecked())
-            checked.append(button);
-    }
-    return checked;
-}
-
-QWidget *tst_StackedWidget::currentPage() const
-{
-    auto *stack = m_widget->findChild<QStackedWidget *>();
-    return stack ? stack->currentWidget() : nullptr;
 }
 
 void tst_StackedWidget::firstPageIsCurrent()
