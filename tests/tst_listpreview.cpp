@@ -84,22 +84,17 @@ class tst_ListPreview : public QObject
 {
     Q_OBJECT
 
-    int m_topLevels = 0;
+    int m_widgets = 0;
 
 private slots:
     void init()
     {
-        m_topLevels = QApplication::topLevelWidgets().size();
+        m_widgets = QApplication::allWidgets().size();
         // Away from the test windows: a tile under the cursor shows a frame.
         QCursor::setPos(QPoint(790, 590));
     }
 
-    void cleanup()
-    {
-        if (QWidget *popup = QApplication::activePopupWidget())
-            popup->close();
-        QTRY_COMPARE(QApplication::topLevelWidgets().size(), m_topLevels);
-    }
+    void cleanup() { QTRY_COMPARE(zelWidgetsLeft(), m_widgets); }
 
     void widths_data()
     {
