@@ -211,6 +211,14 @@ private slots:
         buttons.first()->installEventFilter(&counter);
         buttons.first()->update();
         QTRY_VERIFY(counter.paints > 0);
+
+        // A hidden page the host takes out of the stack paints where it goes next.
+        QWidget *hidden = panels->panel(second);
+        QVERIFY(hidden && hidden != panels->currentWidget());
+        panels->removeWidget(hidden);
+        QWidget elsewhere;
+        hidden->setParent(&elsewhere);
+        QVERIFY(takesUpdates(hidden));
     }
 
     void minimisedPopupShowsItsPage()

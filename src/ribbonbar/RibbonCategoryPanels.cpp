@@ -59,6 +59,17 @@ void RibbonCategoryPanels::giveUpdatesToCurrent()
     d->liveUpdates = current;
 }
 
+void RibbonCategoryPanels::childEvent(QChildEvent *event)
+{
+    // A page taken out of the stack (by the host, or by deleting its tab) paints
+    // again wherever it goes next. A child being destroyed is no longer a widget.
+    if (event->removed()) {
+        if (auto *widget = qobject_cast<QWidget *>(event->child()))
+            widget->setUpdatesEnabled(true);
+    }
+    QStackedWidget::childEvent(event);
+}
+
 RibbonMenuBar &RibbonCategoryPanels::menuBar() const
 {
     return d->bar;

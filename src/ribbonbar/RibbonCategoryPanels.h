@@ -38,6 +38,7 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+    void childEvent(QChildEvent *event) override;
 
 private:
     RibbonMenuBarButton *panelMenuButton(QWidget *page) const;
