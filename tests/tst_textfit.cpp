@@ -202,67 +202,102 @@ private slots:
     {
         QTest::addColumn<Maker>("make");
         QTest::addColumn<QStringList>("texts");
+        QTest::addColumn<int>("points"); // the host's font, 0 for the application's
 
         QTest::newRow("check box") << Maker([](QWidget *host, QObject *owner) -> QWidget * {
             return new RibbonCatCheckBox(*new RibbonCatCheckBoxAction(QStringLiteral("Navigation Pane"), owner), host);
-        }) << QStringList{QStringLiteral("Navigation Pane")};
+        }) << QStringList{QStringLiteral("Navigation Pane")} << 0;
         QTest::newRow("combo box") << Maker([](QWidget *host, QObject *owner) -> QWidget * {
             auto *action = new RibbonCatComboAction(owner);
             action->addItem(QStringLiteral("12"));
             auto *box = new RibbonCatComboComboBox(*action, host);
             box->setCurrentIndex(0);
             return box;
-        }) << QStringList{QStringLiteral("12")};
+        }) << QStringList{QStringLiteral("12")} << 0;
         QTest::newRow("labelled combo box") << Maker([](QWidget *host, QObject *owner) -> QWidget * {
             auto *action = new RibbonCatComboAction(QStringLiteral("Zoom:"), owner);
             action->addItem(QStringLiteral("12"));
             auto *widget = new RibbonCatComboWidget(*action, host);
             widget->comboBox()->setCurrentIndex(0);
             return widget;
-        }) << QStringList{QStringLiteral("Zoom:"), QStringLiteral("12")};
+        }) << QStringList{QStringLiteral("Zoom:"), QStringLiteral("12")} << 0;
         QTest::newRow("font family") << Maker([](QWidget *host, QObject *owner) -> QWidget * {
             return new RibbonCatFontFamilyComboBox(*new RibbonCatFontFamilyAction(QFont(QStringLiteral("DejaVu Sans")), owner),
                                                    host);
-        }) << QStringList{QStringLiteral("DejaVu Sans")};
+        }) << QStringList{QStringLiteral("DejaVu Sans")} << 0;
         QTest::newRow("font size") << Maker([](QWidget *host, QObject *owner) -> QWidget * {
             return (new RibbonCatFontSizeAction(11, owner))->createComboBox(host);
-        }) << QStringList{QStringLiteral("11")};
+        }) << QStringList{QStringLiteral("11")} << 0;
         QTest::newRow("zoom") << Maker([](QWidget *host, QObject *owner) -> QWidget * {
             return new RibbonPercWidget(*new RibbonPercAction(10, 500, 100, owner), host);
-        }) << QStringList{QStringLiteral("100 %")};
+        }) << QStringList{QStringLiteral("100 %")} << 0;
         QTest::newRow("small button") << Maker([](QWidget *host, QObject *owner) -> QWidget * {
             return new RibbonCatSimpleButton(
                 *new RibbonCatSimpleAction(QStringLiteral("Select All"), RibbonCatSimpleAction::SizeMedium, owner), host);
-        }) << QStringList{QStringLiteral("Select All")};
+        }) << QStringList{QStringLiteral("Select All")} << 0;
         QTest::newRow("large button, one line") << Maker([](QWidget *host, QObject *owner) -> QWidget * {
             return new RibbonCatSimpleButton(
                 *new RibbonCatSimpleAction(QStringLiteral("Paste"), RibbonCatSimpleAction::SizeLarge, owner), host);
-        }) << QStringList{QStringLiteral("Paste")};
+        }) << QStringList{QStringLiteral("Paste")} << 0;
         QTest::newRow("large button, two lines") << Maker([](QWidget *host, QObject *owner) -> QWidget * {
             return new RibbonCatSimpleButton(
                 *new RibbonCatSimpleAction(QStringLiteral("Insert Picture"), RibbonCatSimpleAction::SizeLarge, owner), host);
-        }) << QStringList{QStringLiteral("Insert"), QStringLiteral("Picture")};
+        }) << QStringList{QStringLiteral("Insert"), QStringLiteral("Picture")} << 0;
         QTest::newRow("medium menu button") << Maker([](QWidget *host, QObject *owner) -> QWidget * {
             return new RibbonCatMenuButton(*new RibbonCatMenuAction(QStringLiteral("Bullets"), RibbonCatMenuAction::MenuTypeButton,
                                                                     RibbonCatMenuAction::MenuSizeMedium,
                                                                     RibbonCatMenuAction::PopupMenu, owner),
                                            host);
-        }) << QStringList{QStringLiteral("Bullets")};
+        }) << QStringList{QStringLiteral("Bullets")} << 0;
         QTest::newRow("large menu button, two lines") << Maker([](QWidget *host, QObject *owner) -> QWidget * {
             return new RibbonCatMenuButton(*new RibbonCatMenuAction(QStringLiteral("Change Theme"),
                                                                     RibbonCatMenuAction::MenuTypeButton,
                                                                     RibbonCatMenuAction::MenuSizeLarge,
                                                                     RibbonCatMenuAction::PopupMenu, owner),
                                            host);
-        }) << QStringList{QStringLiteral("Change"), QStringLiteral("Theme")};
+        }) << QStringList{QStringLiteral("Change"), QStringLiteral("Theme")} << 0;
+    
+        // A host's large font: the boxes of one line grow to hold it.
+        const struct
+        {
+            const char *name;
+            Maker make;
+            QString text;
+        } large[] = {
+            {"combo box, 20 pt", [](QWidget *host, QObject *owner) -> QWidget * {
+                 auto *action = new RibbonCatComboAction(owner);
+                 action->setWidth(90); // the host sets the width of the box
+                 action->addItem(QStringLiteral("Ag"));
+                 auto *box = new RibbonCatComboComboBox(*action, host);
+                 box->setCurrentIndex(0);
+                 return box;
+             }, QStringLiteral("Ag")},
+            {"font size, 20 pt", [](QWidget *host, QObject *owner) -> QWidget * {
+                 return (new RibbonCatFontSizeAction(11, owner))->createComboBox(host);
+             }, QStringLiteral("11")},
+            {"check box, 20 pt", [](QWidget *host, QObject *owner) -> QWidget * {
+                 return new RibbonCatCheckBox(*new RibbonCatCheckBoxAction(QStringLiteral("Ruler"), owner), host);
+             }, QStringLiteral("Ruler")},
+            {"zoom, 20 pt", [](QWidget *host, QObject *owner) -> QWidget * {
+                 return new RibbonPercWidget(*new RibbonPercAction(10, 500, 100, owner), host);
+             }, QStringLiteral("100 %")},
+        };
+        for (const auto &row : large)
+            QTest::newRow(row.name) << row.make << QStringList{row.text} << 20;
     }
 
     void controlHoldsItsText()
     {
         QFETCH(Maker, make);
         QFETCH(QStringList, texts);
+        QFETCH(int, points);
         QObject owner;
         QWidget host;
+        if (points > 0) {
+            QFont font = host.font();
+            font.setPointSize(points);
+            host.setFont(font);
+        }
         QWidget *control = make(&host, &owner);
         control->resize(control->sizeHint());
         host.resize(control->size() + QSize(20, 20));

@@ -23,12 +23,12 @@ inline int scaledX(double v)
 }
 
 // The height of a control that holds one line of text: its design height v at the screen's
-// resolution, or more when a large font's capitals and descenders, with margin pixels
-// above and below, would not fit in that (a desktop font of 12 points or more at 96 DPI
-// still fits the design heights).
+// resolution, or more when a large font's line, between margin pixels above and below,
+// would not fit in that. The last pixel of a line's descent is left out: glyphs hardly
+// reach it, and so a 12-point desktop font at 96 DPI still fits the design heights.
 inline int textFitHeight(double v, const QFontMetrics &fm, int margin)
 {
-    return std::max(scaled(v), fm.capHeight() + fm.descent() + 2 * margin);
+    return std::max(scaled(v), fm.height() - 1 + 2 * margin);
 }
 
 // The rows of a category and the two-line captions of large buttons are designed for

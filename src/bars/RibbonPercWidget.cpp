@@ -35,14 +35,9 @@ const int ThumbWidth = 11;
 const int ThumbHeight = 15;
 
 // The label left of the minus button is 60 pixels wide at 96 DPI and grows with the
-// horizontal resolution, like the text in it; the track keeps its length and moves right
-// by the growth.
+// horizontal resolution, like the text in it, or to hold the largest percentage in a
+// large font; the track keeps its length and moves right by the growth.
 const int LabelWidth = 60;
-
-int trackOffset()
-{
-    return scaledX(LabelWidth) - LabelWidth;
-}
 
 QString percentText(int percentage)
 {
@@ -88,7 +83,7 @@ QString RibbonPercWidget::text() const
 
 QSize RibbonPercWidget::sizeHint() const
 {
-    return QSize(190 + trackOffset(), textFitHeight(Row, fontMetrics(), 2));
+    return QSize(190 + trackOffset(), textFitHeight(Row, fontMetrics(), 1));
 }
 
 int RibbonPercWidget::thumbPosition(int v) const
@@ -124,6 +119,13 @@ QRect RibbonPercWidget::thumbHitRect() const
 int RibbonPercWidget::rowTop() const
 {
     return (height() - Row) / 2;
+}
+
+int RibbonPercWidget::trackOffset() const
+{
+    const RibbonPercAction *action = this->action();
+    const int widest = fontMetrics().horizontalAdvance(percentText(action ? action->maximum() : 100)) + 4;
+    return std::max(scaledX(LabelWidth), widest) - LabelWidth;
 }
 
 bool RibbonPercWidget::isHovered(const QRect &area) const

@@ -204,7 +204,7 @@ void RibbonStatusBar::updateHeight()
     // The background image's height, grown with the resolution or, for a large font, to
     // hold the zoom slider's row (its label's text) below the extensions' top margin.
     const int imageHeight = RibbonPaint::logicalSize(ribbonStyle().statusBar()).height();
-    setFixedHeight(std::max(scaled(imageHeight), textFitHeight(20, fontMetrics(), 2) + 3));
+    setFixedHeight(std::max(scaled(imageHeight), textFitHeight(20, fontMetrics(), 1) + 3));
 }
 
 void RibbonStatusBar::changeEvent(QEvent *event)
