@@ -1,4 +1,4 @@
-// Every control of the library that shows text must hold it across its whole width: at
+// Every control of the library that shows text must hold it, across and down: at
 // 96 DPI, at 144 and 192 logical DPI and with an 11-point application font (the registrations
 // tst_textfit_120dpi, _144dpi, _192dpi and _11pt; ZEL_TEST_DPI_SENSITIVE ZEL_TEST_TEXT_FIT).
 // The text a control draws is caught at the paint engine, so what is checked is what
@@ -6,6 +6,7 @@
 
 #include "ZelTest.h"
 
+#include "BackstageView.h"
 #include "RibbonCatCheckBox.h"
 #include "RibbonCatCheckBoxAction.h"
 #include "RibbonCatComboAction.h"
@@ -24,6 +25,9 @@
 #include "RibbonMenuBar.h"
 #include "RibbonPercAction.h"
 #include "RibbonPercWidget.h"
+#include "RibbonQuickAccessBar.h"
+#include "RibbonSimpleAction.h"
+#include "RibbonStatusBar.h"
 
 #include <QComboBox>
 #include <QPaintEngine>
@@ -143,11 +147,13 @@ private:
 
 // The pieces of text of widget (with its children) that run out of it, or that the clip
 // cuts: empty when all fit. Half a pixel of slack for rounding. Across always; down only
-// when asked.
-QStringList cutText(QWidget &widget, QStringList *drawn = nullptr, bool down = false)
+// when asked. Children are drawn, and checked against widget's rectangle, unless flags
+// leave them out.
+QStringList cutText(QWidget &widget, QStringList *drawn = nullptr, bool down = false,
+                    QWidget::RenderFlags flags = QWidget::DrawChildren)
 {
     TextCatcher catcher(widget.size());
-    widget.render(&catcher, QPoint(), QRegion(), QWidget::DrawChildren);
+    widget.render(&catcher, QPoint(), QRegion(), flags);
     QStringList cut;
     for (const TextCatcher::Piece &piece : catcher.pieces()) {
         if (piece.text.trimmed().isEmpty())
@@ -196,67 +202,102 @@ private slots:
     {
         QTest::addColumn<Maker>("make");
         QTest::addColumn<QStringList>("texts");
+        QTest::addColumn<int>("points"); // the host's font, 0 for the application's
 
         QTest::newRow("check box") << Maker([](QWidget *host, QObject *owner) -> QWidget * {
             return new RibbonCatCheckBox(*new RibbonCatCheckBoxAction(QStringLiteral("Navigation Pane"), owner), host);
-        }) << QStringList{QStringLiteral("Navigation Pane")};
+        }) << QStringList{QStringLiteral("Navigation Pane")} << 0;
         QTest::newRow("combo box") << Maker([](QWidget *host, QObject *owner) -> QWidget * {
             auto *action = new RibbonCatComboAction(owner);
             action->addItem(QStringLiteral("12"));
             auto *box = new RibbonCatComboComboBox(*action, host);
             box->setCurrentIndex(0);
             return box;
-        }) << QStringList{QStringLiteral("12")};
+        }) << QStringList{QStringLiteral("12")} << 0;
         QTest::newRow("labelled combo box") << Maker([](QWidget *host, QObject *owner) -> QWidget * {
             auto *action = new RibbonCatComboAction(QStringLiteral("Zoom:"), owner);
             action->addItem(QStringLiteral("12"));
             auto *widget = new RibbonCatComboWidget(*action, host);
             widget->comboBox()->setCurrentIndex(0);
             return widget;
-        }) << QStringList{QStringLiteral("Zoom:"), QStringLiteral("12")};
+        }) << QStringList{QStringLiteral("Zoom:"), QStringLiteral("12")} << 0;
         QTest::newRow("font family") << Maker([](QWidget *host, QObject *owner) -> QWidget * {
             return new RibbonCatFontFamilyComboBox(*new RibbonCatFontFamilyAction(QFont(QStringLiteral("DejaVu Sans")), owner),
                                                    host);
-        }) << QStringList{QStringLiteral("DejaVu Sans")};
+        }) << QStringList{QStringLiteral("DejaVu Sans")} << 0;
         QTest::newRow("font size") << Maker([](QWidget *host, QObject *owner) -> QWidget * {
             return (new RibbonCatFontSizeAction(11, owner))->createComboBox(host);
-        }) << QStringList{QStringLiteral("11")};
+        }) << QStringList{QStringLiteral("11")} << 0;
         QTest::newRow("zoom") << Maker([](QWidget *host, QObject *owner) -> QWidget * {
             return new RibbonPercWidget(*new RibbonPercAction(10, 500, 100, owner), host);
-        }) << QStringList{QStringLiteral("100 %")};
+        }) << QStringList{QStringLiteral("100 %")} << 0;
         QTest::newRow("small button") << Maker([](QWidget *host, QObject *owner) -> QWidget * {
             return new RibbonCatSimpleButton(
                 *new RibbonCatSimpleAction(QStringLiteral("Select All"), RibbonCatSimpleAction::SizeMedium, owner), host);
-        }) << QStringList{QStringLiteral("Select All")};
+        }) << QStringList{QStringLiteral("Select All")} << 0;
         QTest::newRow("large button, one line") << Maker([](QWidget *host, QObject *owner) -> QWidget * {
             return new RibbonCatSimpleButton(
                 *new RibbonCatSimpleAction(QStringLiteral("Paste"), RibbonCatSimpleAction::SizeLarge, owner), host);
-        }) << QStringList{QStringLiteral("Paste")};
+        }) << QStringList{QStringLiteral("Paste")} << 0;
         QTest::newRow("large button, two lines") << Maker([](QWidget *host, QObject *owner) -> QWidget * {
             return new RibbonCatSimpleButton(
                 *new RibbonCatSimpleAction(QStringLiteral("Insert Picture"), RibbonCatSimpleAction::SizeLarge, owner), host);
-        }) << QStringList{QStringLiteral("Insert"), QStringLiteral("Picture")};
+        }) << QStringList{QStringLiteral("Insert"), QStringLiteral("Picture")} << 0;
         QTest::newRow("medium menu button") << Maker([](QWidget *host, QObject *owner) -> QWidget * {
             return new RibbonCatMenuButton(*new RibbonCatMenuAction(QStringLiteral("Bullets"), RibbonCatMenuAction::MenuTypeButton,
                                                                     RibbonCatMenuAction::MenuSizeMedium,
                                                                     RibbonCatMenuAction::PopupMenu, owner),
                                            host);
-        }) << QStringList{QStringLiteral("Bullets")};
+        }) << QStringList{QStringLiteral("Bullets")} << 0;
         QTest::newRow("large menu button, two lines") << Maker([](QWidget *host, QObject *owner) -> QWidget * {
-            return new RibbonCatMenuButton(*new RibbonCatMenuAction(QStringLiteral("Change Styles"),
+            return new RibbonCatMenuButton(*new RibbonCatMenuAction(QStringLiteral("Change Theme"),
                                                                     RibbonCatMenuAction::MenuTypeButton,
                                                                     RibbonCatMenuAction::MenuSizeLarge,
                                                                     RibbonCatMenuAction::PopupMenu, owner),
                                            host);
-        }) << QStringList{QStringLiteral("Change"), QStringLiteral("Styles")};
+        }) << QStringList{QStringLiteral("Change"), QStringLiteral("Theme")} << 0;
+    
+        // A host's large font: the boxes of one line grow to hold it.
+        const struct
+        {
+            const char *name;
+            Maker make;
+            QString text;
+        } large[] = {
+            {"combo box, 20 pt", [](QWidget *host, QObject *owner) -> QWidget * {
+                 auto *action = new RibbonCatComboAction(owner);
+                 action->setWidth(90); // the host sets the width of the box
+                 action->addItem(QStringLiteral("Ag"));
+                 auto *box = new RibbonCatComboComboBox(*action, host);
+                 box->setCurrentIndex(0);
+                 return box;
+             }, QStringLiteral("Ag")},
+            {"font size, 20 pt", [](QWidget *host, QObject *owner) -> QWidget * {
+                 return (new RibbonCatFontSizeAction(11, owner))->createComboBox(host);
+             }, QStringLiteral("11")},
+            {"check box, 20 pt", [](QWidget *host, QObject *owner) -> QWidget * {
+                 return new RibbonCatCheckBox(*new RibbonCatCheckBoxAction(QStringLiteral("Ruler"), owner), host);
+             }, QStringLiteral("Ruler")},
+            {"zoom, 20 pt", [](QWidget *host, QObject *owner) -> QWidget * {
+                 return new RibbonPercWidget(*new RibbonPercAction(10, 500, 100, owner), host);
+             }, QStringLiteral("100 %")},
+        };
+        for (const auto &row : large)
+            QTest::newRow(row.name) << row.make << QStringList{row.text} << 20;
     }
 
     void controlHoldsItsText()
     {
         QFETCH(Maker, make);
         QFETCH(QStringList, texts);
+        QFETCH(int, points);
         QObject owner;
         QWidget host;
+        if (points > 0) {
+            QFont font = host.font();
+            font.setPointSize(points);
+            host.setFont(font);
+        }
         QWidget *control = make(&host, &owner);
         control->resize(control->sizeHint());
         host.resize(control->size() + QSize(20, 20));
@@ -265,11 +306,81 @@ private slots:
         QVERIFY(QTest::qWaitForWindowExposed(&host));
 
         QStringList drawn;
-        const QStringList cut = cutText(*control, &drawn);
+        const QStringList cut = cutText(*control, &drawn, true);
         // The check sees the text at all, whole words or the whole caption.
         const QString all = drawn.join(QLatin1Char(' '));
         for (const QString &text : texts)
             QVERIFY2(all.contains(text), qPrintable(all));
+        QVERIFY2(cut.isEmpty(), qPrintable(cut.join(QStringLiteral("; "))));
+    }
+
+    // A whole window, widget by widget (each without its children, so that every piece
+    // of text is checked against the widget that drew it): tab captions, title,
+    // category captions and controls, status bar, and the backstage page's entries.
+    void windowHoldsItsText_data()
+    {
+        QTest::addColumn<RibbonMainWindow::View>("view");
+        QTest::addColumn<QStringList>("texts");
+        QTest::newRow("main view") << RibbonMainWindow::MainView
+                                   << QStringList{QStringLiteral("Report.txt"), QStringLiteral("HOME"),
+                                                  QStringLiteral("INSERT"), QStringLiteral("Clipboard"),
+                                                  QStringLiteral("Select All"), QStringLiteral("Navigation Pane"),
+                                                  QStringLiteral("12"), QStringLiteral("100 %"),
+                                                  QStringLiteral("Page 1")};
+        QTest::newRow("backstage") << RibbonMainWindow::BackstagePanel
+                                   << QStringList{QStringLiteral("Recent"), QStringLiteral("Save As"),
+                                                  QStringLiteral("Options")};
+    }
+
+    void windowHoldsItsText()
+    {
+        QFETCH(RibbonMainWindow::View, view);
+        QFETCH(QStringList, texts);
+        QObject owner;
+        RibbonMainWindow window;
+        window.setWindowTitle(QStringLiteral("Report.txt"));
+        auto *home = new RibbonCategoriesPanelAction(QStringLiteral("Home"), &owner);
+        auto *category = new RibbonCategoryAction(QStringLiteral("Clipboard"), &owner);
+        category->addAction(new RibbonCatSimpleAction(QStringLiteral("Select All"), RibbonCatSimpleAction::SizeMedium,
+                                                      &owner), -1);
+        category->addAction(new RibbonCatCheckBoxAction(QStringLiteral("Navigation Pane"), &owner), -1);
+        auto *combo = new RibbonCatComboAction(&owner);
+        combo->addItem(QStringLiteral("12"));
+        combo->setSelectionText(QStringLiteral("12"));
+        category->addAction(combo, -1);
+        home->addCategory(category);
+        window.ribbonMenuBar().addAction(home);
+        window.ribbonMenuBar().addAction(new RibbonCategoriesPanelAction(QStringLiteral("Insert"), &owner));
+        window.quickAccessBar().addAction(new RibbonSimpleAction(QStringLiteral("Save"), &owner));
+        window.ribbonStatusBar().addAction(new RibbonPercAction(10, 500, 100, &owner));
+        window.ribbonStatusBar().addAction(new RibbonCatMenuAction(QStringLiteral("Page 1"),
+                                                                   RibbonCatMenuAction::MenuTypeButton,
+                                                                   RibbonCatMenuAction::MenuSizeMedium,
+                                                                   RibbonCatMenuAction::PopupMenu, &owner));
+        window.backstageView().addItem(QStringLiteral("Recent"), new QWidget);
+        window.backstageView().addItem(QStringLiteral("Save As"), new QWidget);
+        window.backstageView().addSeparator();
+        window.backstageView().addItem(QStringLiteral("Options"), new QWidget);
+        window.resize(1000, 600);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        window.setActiveView(view);
+        QApplication::processEvents();
+
+        QStringList drawn, cut;
+        QList<QWidget *> widgets = window.findChildren<QWidget *>();
+        widgets.prepend(&window);
+        for (QWidget *widget : widgets) {
+            if (!widget->isVisible() || widget->isWindow() != (widget == &window))
+                continue;
+            QStringList own;
+            for (const QString &piece : cutText(*widget, &own, true, QWidget::RenderFlags()))
+                cut << QString::fromLatin1(widget->metaObject()->className()) + QLatin1String(": ") + piece;
+            drawn << own;
+        }
+        const QString all = drawn.join(QLatin1Char(' '));
+        for (const QString &text : texts)
+            QVERIFY2(all.contains(text), qPrintable(text + QLatin1String(" not in ") + all));
         QVERIFY2(cut.isEmpty(), qPrintable(cut.join(QStringLiteral("; "))));
     }
 

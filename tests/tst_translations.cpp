@@ -9,6 +9,8 @@
 #include "RibbonQuickAccessBar.h"
 
 #include <QDialogButtonBox>
+#include <QDir>
+#include <QLibraryInfo>
 #include <QPushButton>
 
 #include <memory>
@@ -122,6 +124,34 @@ private slots:
         RibbonOptionsDialog dialog(window);
         QCOMPARE(buttonBoxTexts(dialog), (QStringList{QStringLiteral("Cancel"), QStringLiteral("OK")}));
         QCOMPARE(window.ribbonMenuBar().mainMenuButton()->text(), QStringLiteral("FILE"));
+    }
+
+    // Qt's own catalogue comes with the library's, and goes with it: the standard
+    // buttons of Qt's dialogs read in the same language as the ribbon.
+    void qtCatalogueFollows_data()
+    {
+        QTest::addColumn<QLocale>("locale");
+        QTest::addColumn<QString>("save");
+        QTest::addColumn<QString>("catalogue"); // empty: none expected
+        QTest::newRow("German") << QLocale(QLocale::German, QLocale::Germany) << QStringLiteral("Speichern")
+                                << QStringLiteral("qtbase_de.qm");
+        QTest::newRow("French") << QLocale(QLocale::French, QLocale::France) << QStringLiteral("Enregistrer")
+                                << QStringLiteral("qtbase_fr.qm");
+        QTest::newRow("English after French") << QLocale(QLocale::English) << QStringLiteral("Save") << QString();
+    }
+
+    void qtCatalogueFollows()
+    {
+        QFETCH(QLocale, locale);
+        QFETCH(QString, save);
+        QFETCH(QString, catalogue);
+        const QDir qtTranslations(QLibraryInfo::location(QLibraryInfo::TranslationsPath));
+        if (!catalogue.isEmpty() && !qtTranslations.exists(catalogue))
+            QSKIP("Qt's catalogues are not installed (Debian: qttranslations5-l10n)");
+        app().loadTranslation(QLocale(QLocale::French));
+        app().loadTranslation(locale);
+        QDialogButtonBox box(QDialogButtonBox::Save);
+        QCOMPARE(box.button(QDialogButtonBox::Save)->text().remove(QLatin1Char('&')), save);
     }
 
     // The longer German texts get the room they need.

@@ -29,7 +29,8 @@ using namespace zel;
 
 namespace {
 
-// The _144dpi run: widths that hold text are half as large again.
+// The _144dpi run: widths that hold text, and the heights of one-line boxes, are half as
+// large again.
 bool highDpi()
 {
     return RibbonApplication::theApp().dpiFactor().first > 1.4;
@@ -184,7 +185,7 @@ private slots:
         action.setIconWidth(30);
         action.addItem(QStringLiteral("Left"));
         RibbonCatComboComboBox box(action, nullptr);
-        QCOMPARE(box.size(), QSize(highDpi() ? 72 : 48, 22));
+        QCOMPARE(box.size(), QSize(highDpi() ? 72 : 48, highDpi() ? 33 : 22));
         QCOMPARE(box.iconSize(), QSize(30, 22));
         QCOMPARE(box.lineEdit()->inputMask(), QStringLiteral("99"));
         QCOMPARE(box.validator(), &validator);
@@ -281,7 +282,7 @@ private slots:
         RibbonCatComboAction beside(QStringLiteral("Zoom:"), nullptr);
         RibbonCatComboWidget widget(beside, nullptr);
         const int labelWidth = widget.label()->fontMetrics().horizontalAdvance(QStringLiteral("Zoom:"));
-        QCOMPARE(widget.size(), QSize(labelWidth + (highDpi() ? 82 : 58), 22));
+        QCOMPARE(widget.size(), QSize(labelWidth + (highDpi() ? 82 : 58), highDpi() ? 33 : 22));
         QCOMPARE(widget.minimumSize(), widget.maximumSize());
         QCOMPARE(widget.sizePolicy(), QSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed));
 
@@ -369,7 +370,7 @@ private slots:
         QWidget window;
         const auto [first, second] = showPair<RibbonCatFontFamilyComboBox>(window, action);
         QVERIFY(QTest::qWaitForWindowExposed(&window));
-        QCOMPARE(first->size(), QSize(highDpi() ? 210 : 140, 22));
+        QCOMPARE(first->size(), QSize(highDpi() ? 210 : 140, highDpi() ? 33 : 22));
 
         QSignalSpy changed(&action, SIGNAL(fontFamilyChanged(QFont)));
         QSignalSpy activated(&action, SIGNAL(ribbonActionActivated()));
@@ -454,7 +455,7 @@ private slots:
         QComboBox *loose = p.action.createComboBox(&group);
         QVERIFY(loose);
         QCOMPARE(loose->parentWidget(), &group);
-        QCOMPARE(loose->height(), 22);
+        QCOMPARE(loose->height(), highDpi() ? 33 : 22);
         QCOMPARE(loose->currentText(), QStringLiteral("10"));
 
         QSignalSpy changed(&p.action, SIGNAL(fontSizeChanged(int)));

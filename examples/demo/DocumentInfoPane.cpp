@@ -1,5 +1,7 @@
 #include "DocumentInfoPane.h"
 
+#include "DemoStyle.h"
+
 #include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
@@ -70,7 +72,9 @@ void DocumentInfoPane::addRow(QFormLayout *form, const QString &name)
     auto *label = new QLabel;
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
     auto *caption = new QLabel(name);
-    caption->setStyleSheet(QStringLiteral("color: #666666;"));
+    followRibbonStyle(caption, [caption](const zel::RibbonStyle &style) {
+        caption->setStyleSheet(textColorSheet(style.inactiveTextColor()));
+    });
     form->addRow(caption, label);
     m_rows.append({name, label});
 }

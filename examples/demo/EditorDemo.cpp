@@ -1,6 +1,7 @@
 #include "EditorDemo.h"
 
 #include "DemoIcons.h"
+#include "DemoStyle.h"
 #include "DocumentInfoPane.h"
 #include "EditorDemoIcons.h"
 #include "EditorDemoPickers.h"
@@ -108,12 +109,15 @@ public:
     {
         setFrameShape(QFrame::NoFrame);
         setAutoFillBackground(true);
-        QPalette pal = palette();
-        // Paper and ink keep their colours in either palette of the ribbon.
-        pal.setColor(QPalette::Base, Qt::white);
-        pal.setColor(QPalette::Text, Qt::black);
-        pal.setColor(QPalette::Window, QColor(0xE6, 0xE6, 0xE6));
-        setPalette(pal);
+        // Paper and ink keep their colours in either palette of the ribbon; the desk
+        // around the page follows it.
+        followRibbonStyle(this, [this](const zel::RibbonStyle &style) {
+            QPalette pal = palette();
+            pal.setColor(QPalette::Base, Qt::white);
+            pal.setColor(QPalette::Text, Qt::black);
+            pal.setColor(QPalette::Window, style.separatorColor());
+            setPalette(pal);
+        });
         viewport()->setAutoFillBackground(true);
         updatePage();
     }
@@ -199,15 +203,16 @@ public:
             return;
         p->save();
         p->setRenderHint(QPainter::Antialiasing);
+        const zel::RibbonStyle &style = zel::RibbonApplication::theApp().ribbonStyle();
         if (entry->isSeparator()) {
             const int y = option.rect.center().y();
-            p->setPen(QColor(225, 225, 225));
+            p->setPen(style.backstageSeparatorColor());
             p->drawLine(option.rect.left() + 8, y, option.rect.right() - 8, y);
             p->restore();
             return;
         }
         if (option.state & QStyle::State_MouseOver)
-            p->fillRect(option.rect, QColor(213, 225, 242));
+            p->fillRect(option.rect, style.backstageBlueHoverColor());
         const QFileInfo info(entry->path());
         p->drawPixmap(option.rect.left() + 10, option.rect.center().y() - 16,
                       editorIcon(EditorIcon::Page).pixmap(32, 32));
@@ -215,15 +220,15 @@ public:
         QFont name = option.font;
         name.setPointSizeF(name.pointSizeF() + 1.5);
         p->setFont(name);
-        p->setPen(QColor(38, 38, 38));
+        p->setPen(style.backstageBlackTextColor());
         p->drawText(text, Qt::AlignLeft | Qt::AlignTop, info.fileName());
         p->setFont(option.font);
-        p->setPen(QColor(110, 110, 110));
+        p->setPen(style.inactiveTextColor());
         p->drawText(text, Qt::AlignLeft | Qt::AlignBottom,
                     p->fontMetrics().elidedText(QDir::toNativeSeparators(info.path()), Qt::ElideMiddle,
                                                 text.width()));
         if (entry->isPinned() || (option.state & QStyle::State_MouseOver))
-            drawPin(*p, pinRect(option.rect), entry->isPinned());
+            drawPin(*p, pinRect(option.rect), entry->isPinned(), style);
         p->restore();
     }
 
@@ -234,15 +239,14 @@ public:
     }
 
 private:
-    static void drawPin(QPainter &p, const QRect &r, bool pinned)
+    static void drawPin(QPainter &p, const QRect &r, bool pinned, const zel::RibbonStyle &style)
     {
         p.save();
         p.translate(r.center());
         if (!pinned)
             p.rotate(90);
-        const QColor ink(0x40, 0x40, 0x40);
-        p.setPen(QPen(ink, 1.4));
-        p.setBrush(pinned ? QColor(0x2B, 0x57, 0x9A) : QColor(Qt::white));
+        p.setPen(QPen(style.backstageBlackTextColor(), 1.4));
+        p.setBrush(pinned ? QColor(0x2B, 0x57, 0x9A) : style.backstageSimpleButtonColor());
         p.drawRoundedRect(QRectF(-3.5, -8, 7, 9), 1.5, 1.5);
         p.drawLine(QPointF(-6, 1), QPointF(6, 1));
         p.drawLine(QPointF(0, 1), QPointF(0, 8));
@@ -250,14 +254,11 @@ private:
     }
 };
 
-// A white pane of the File page with a large title.
+// A pane of the File page with a large title, in the page's colours.
 QWidget *titledPane(const QString &title, QVBoxLayout *&body)
 {
     auto *pane = new QWidget;
     pane->setAutoFillBackground(true);
-    QPalette pal = pane->palette();
-    pal.setColor(QPalette::Window, Qt::white);
-    pane->setPalette(pal);
     auto *layout = new QVBoxLayout(pane);
     layout->setContentsMargins(40, 28, 40, 20);
     layout->setSpacing(12);
@@ -266,7 +267,15 @@ QWidget *titledPane(const QString &title, QVBoxLayout *&body)
     big.setPointSizeF(big.pointSizeF() * 2.6);
     big.setWeight(QFont::Light);
     label->setFont(big);
-    label->setStyleSheet(QStringLiteral("color: #444444;"));
+    followRibbonStyle(pane, [pane, label](const zel::RibbonStyle &style) {
+        QPalette pal = pane->palette();
+        pal.setColor(QPalette::Window, style.backstageSimpleButtonColor());
+        pal.setColor(QPalette::WindowText, style.backstageBlackTextColor());
+        pal.setColor(QPalette::Base, style.backstageSimpleButtonColor());
+        pal.setColor(QPalette::Text, style.backstageBlackTextColor());
+        pane->setPalette(pal);
+        label->setStyleSheet(textColorSheet(style.backstageBlackTextColor()));
+    });
     layout->addWidget(label);
     layout->addSpacing(8);
     body = layout;
@@ -285,10 +294,15 @@ QToolButton *tileButton(const QString &text, const QIcon &icon, QWidget *parent)
     caption.setPointSize(10);
     tile->setFont(caption);
     tile->setFixedSize(qMax(132, QFontMetrics(caption).horizontalAdvance(text) + 28), 96);
-    tile->setStyleSheet(QStringLiteral(
-        "QToolButton { border: 1px solid #D0D0D0; background: #FAFAFA; color: #262626; }"
-        "QToolButton:hover { border-color: #7AB0E7; background: #D5E1F2; }"
-        "QToolButton:pressed { background: #A3BDE3; }"));
+    followRibbonStyle(tile, [tile](const zel::RibbonStyle &style) {
+        tile->setStyleSheet(QStringLiteral("QToolButton { border: 1px solid %1; background: %2; color: %3; }"
+                                           "QToolButton:hover { border-color: %4; background: %5; }"
+                                           "QToolButton:pressed { background: %6; }")
+                                .arg(style.backstageGrayBorderColor().name(), style.backstageSimpleButtonColor().name(),
+                                     style.backstageBlackTextColor().name(),
+                                     style.backstageBlueBorderHoverColor().name(),
+                                     style.backstageBlueHoverColor().name(), style.backstageBluePressedColor().name()));
+    });
     return tile;
 }
 
@@ -1247,7 +1261,9 @@ void EditorDemo::buildFilePage()
     QFont mid = recentTitle->font();
     mid.setPointSizeF(mid.pointSizeF() * 1.6);
     recentTitle->setFont(mid);
-    recentTitle->setStyleSheet(QStringLiteral("color: #444444;"));
+    followRibbonStyle(recentTitle, [recentTitle](const zel::RibbonStyle &style) {
+        recentTitle->setStyleSheet(textColorSheet(style.backstageBlackTextColor()));
+    });
     body->addSpacing(8);
     body->addWidget(recentTitle);
     d->recentView = new QListView(openPane);
@@ -1715,7 +1731,7 @@ void EditorDemo::loadSampleDocument()
     const QStringList rows[4] = {{tr("Work package"), tr("Budget"), tr("Spent"), tr("Status")},
                                  {tr("Quay wall"), tr("4.2 M"), tr("4.0 M"), tr("Done")},
                                  {tr("Dredging"), tr("2.8 M"), tr("2.5 M"), tr("On track")},
-                                 {tr("Walkway"), tr("0.9 M"), tr("0.6 M"), tr("Open")}};
+                                 {tr("Walkway"), tr("0.9 M"), tr("0.6 M"), tr("Open", "status of a work package")}};
     QTextTable *table = cursor.insertTable(4, 4, f);
     QTextCharFormat head;
     head.setFontWeight(QFont::Bold);

@@ -22,6 +22,12 @@ using namespace zel;
 
 namespace {
 
+// The context of this file's texts in the demo's catalogue.
+struct EditorPickers
+{
+    Q_DECLARE_TR_FUNCTIONS(EditorPickers)
+};
+
 // Changes the character format of the selection, or of the word under the cursor, and
 // the format of what is typed next. Unlike a merge it can also remove a property.
 void changeCharFormat(QTextEdit *edit, const std::function<void(QTextCharFormat &)> &change)
@@ -89,14 +95,14 @@ EditorColorCommands addColorCommands(RibbonCategoryAction &category, int row, co
 {
     using Color = RibbonCatColorMenuAction;
     EditorColorCommands commands;
-    commands.fontColor = new Color(editorIcon(EditorIcon::FontColor), QObject::tr("Font Color"),
+    commands.fontColor = new Color(editorIcon(EditorIcon::FontColor), EditorPickers::tr("Font Color"),
                                    Color::ColorSizeSmall, owner);
-    commands.fontColor->setToolTip(QObject::tr("Font Color"));
+    commands.fontColor->setToolTip(EditorPickers::tr("Font Color"));
     commands.fontColor->setHasAutomaticColor(true);
     commands.fontColor->setAutomaticColor(QApplication::palette().color(QPalette::Text));
-    commands.highlight = new Color(editorIcon(EditorIcon::Highlight), QObject::tr("Text Highlight Color"),
+    commands.highlight = new Color(editorIcon(EditorIcon::Highlight), EditorPickers::tr("Text Highlight Color"),
                                    Color::ColorSizeSmall, owner);
-    commands.highlight->setToolTip(QObject::tr("Text Highlight Color"));
+    commands.highlight->setToolTip(EditorPickers::tr("Text Highlight Color"));
     commands.highlight->setHasNoneColor(true);
     // Every choice applies, also the colour the button shows already: the next selection
     // may have another.
@@ -141,22 +147,22 @@ EditorColorCommands addColorCommands(RibbonCategoryAction &category, int row, co
 
 RibbonCatMenuAction *makeSymbolPalette(const CurrentEditor &editor, QObject *owner)
 {
-    auto *palette = new RibbonCatMenuAction(editorIcon(EditorIcon::Symbol), QObject::tr("Symbol"),
+    auto *palette = new RibbonCatMenuAction(editorIcon(EditorIcon::Symbol), EditorPickers::tr("Symbol"),
                                             RibbonCatMenuAction::MenuTypeButton, RibbonCatMenuAction::MenuSizeMedium,
                                             RibbonCatMenuAction::PopupPalette, owner);
-    palette->setToolTip(QObject::tr("Insert a symbol"));
+    palette->setToolTip(EditorPickers::tr("Insert a symbol"));
     const QList<QPair<ushort, QString>> symbols = {
-        {0x00A9, QObject::tr("Copyright")}, {0x00AE, QObject::tr("Registered")}, {0x2122, QObject::tr("Trade mark")},
-        {0x20AC, QObject::tr("Euro")}, {0x00A3, QObject::tr("Pound")}, {0x00A5, QObject::tr("Yen")},
-        {0x00B0, QObject::tr("Degree")}, {0x00B1, QObject::tr("Plus-minus")}, {0x00D7, QObject::tr("Multiplication")},
-        {0x00F7, QObject::tr("Division")}, {0x2260, QObject::tr("Not equal")}, {0x2248, QObject::tr("Almost equal")},
-        {0x2264, QObject::tr("Less or equal")}, {0x2265, QObject::tr("Greater or equal")},
-        {0x221E, QObject::tr("Infinity")}, {0x03C0, QObject::tr("Pi")}, {0x03A9, QObject::tr("Omega")},
-        {0x00B5, QObject::tr("Micro")}, {0x00A7, QObject::tr("Section")}, {0x00B6, QObject::tr("Pilcrow")},
-        {0x2022, QObject::tr("Bullet")}, {0x2026, QObject::tr("Ellipsis")}, {0x2014, QObject::tr("Em dash")},
-        {0x2192, QObject::tr("Right arrow")}, {0x2190, QObject::tr("Left arrow")}, {0x2191, QObject::tr("Up arrow")},
-        {0x2193, QObject::tr("Down arrow")}, {0x00BD, QObject::tr("One half")}, {0x00BC, QObject::tr("One quarter")},
-        {0x2713, QObject::tr("Check mark")}};
+        {0x00A9, EditorPickers::tr("Copyright")}, {0x00AE, EditorPickers::tr("Registered")}, {0x2122, EditorPickers::tr("Trade mark")},
+        {0x20AC, EditorPickers::tr("Euro")}, {0x00A3, EditorPickers::tr("Pound")}, {0x00A5, EditorPickers::tr("Yen")},
+        {0x00B0, EditorPickers::tr("Degree")}, {0x00B1, EditorPickers::tr("Plus-minus")}, {0x00D7, EditorPickers::tr("Multiplication")},
+        {0x00F7, EditorPickers::tr("Division")}, {0x2260, EditorPickers::tr("Not equal")}, {0x2248, EditorPickers::tr("Almost equal")},
+        {0x2264, EditorPickers::tr("Less or equal")}, {0x2265, EditorPickers::tr("Greater or equal")},
+        {0x221E, EditorPickers::tr("Infinity")}, {0x03C0, EditorPickers::tr("Pi")}, {0x03A9, EditorPickers::tr("Omega")},
+        {0x00B5, EditorPickers::tr("Micro")}, {0x00A7, EditorPickers::tr("Section")}, {0x00B6, EditorPickers::tr("Pilcrow")},
+        {0x2022, EditorPickers::tr("Bullet")}, {0x2026, EditorPickers::tr("Ellipsis")}, {0x2014, EditorPickers::tr("Em dash")},
+        {0x2192, EditorPickers::tr("Right arrow")}, {0x2190, EditorPickers::tr("Left arrow")}, {0x2191, EditorPickers::tr("Up arrow")},
+        {0x2193, EditorPickers::tr("Down arrow")}, {0x00BD, EditorPickers::tr("One half")}, {0x00BC, EditorPickers::tr("One quarter")},
+        {0x2713, EditorPickers::tr("Check mark")}};
     for (const auto &symbol : symbols) {
         const QString text(QChar(symbol.first));
         auto *item = new RibbonSimpleAction(symbolIcon(text), text, owner);

@@ -1,6 +1,7 @@
 // Screenshots of the editor for the demo's screenshot mode, and the check that the
 // editor comes up as a real window on an X server with the ribbon in place.
 
+#include "DocumentInfoPane.h"
 #include "EditorDemo.h"
 #include "NavigationPane.h"
 
@@ -192,7 +193,7 @@ int writeEditorScreenshots(const QDir &dir)
          }},
         {QStringLiteral("editor-narrow"), QSize(700, 640), [](EditorDemo &w) { w.showMainView(); }},
         {QStringLiteral("editor-backstage"), QSize(1280, 800), [](EditorDemo &w) {
-             w.showBackstagePage(QStringLiteral("Open"));
+             w.showBackstagePage(EditorDemo::tr("Open"));
          }},
         {QStringLiteral("editor-welcome"), QSize(1280, 800), [](EditorDemo &w) {
              w.setActiveView(zel::RibbonMainWindow::WelcomeScreen);
@@ -200,15 +201,15 @@ int writeEditorScreenshots(const QDir &dir)
         {QStringLiteral("editor-contextual"), QSize(1280, 800), [](EditorDemo &w) {
              w.showMainView();
              w.moveCursorIntoTable();
-             w.activateContextTab(QStringLiteral("Layout"));
+             w.activateContextTab(EditorDemo::tr("Layout"));
          }},
         {QStringLiteral("editor-insert"), QSize(1000, 420), [](EditorDemo &w) {
              w.showMainView();
-             showTab(w, QStringLiteral("Insert"));
+             showTab(w, EditorDemo::tr("Insert"));
          }},
         {QStringLiteral("editor-view"), QSize(1000, 420), [](EditorDemo &w) {
              w.showMainView();
-             showTab(w, QStringLiteral("View"));
+             showTab(w, EditorDemo::tr("View"));
          }},
         {QStringLiteral("editor-color-picker"), QSize(1000, 520), [](EditorDemo &w) {
              w.showMainView();
@@ -217,19 +218,19 @@ int writeEditorScreenshots(const QDir &dir)
              cursor.movePosition(QTextCursor::NextBlock);
              cursor.movePosition(QTextCursor::EndOfWord, QTextCursor::KeepAnchor);
              w.editor()->setTextCursor(cursor);
-             pressButton<zel::RibbonCatColorMenuButton>(w, QStringLiteral("Font Color"));
+             pressButton<zel::RibbonCatColorMenuButton>(w, QCoreApplication::translate("EditorPickers", "Font Color"));
          }},
         {QStringLiteral("editor-symbol-palette"), QSize(1000, 520), [](EditorDemo &w) {
              w.showMainView();
-             showTab(w, QStringLiteral("Insert"));
+             showTab(w, EditorDemo::tr("Insert"));
              settle();
-             pressButton<zel::RibbonCatMenuButton>(w, QStringLiteral("Symbol"));
+             pressButton<zel::RibbonCatMenuButton>(w, QCoreApplication::translate("EditorPickers", "Symbol"));
          }},
         {QStringLiteral("editor-picture-tools"), QSize(1280, 800), [](EditorDemo &w) {
              w.showMainView();
              w.selectFirstPicture();
              w.editor()->ensureCursorVisible();
-             w.activateContextTab(QStringLiteral("Format"));
+             w.activateContextTab(EditorDemo::tr("Format"));
          }},
         {QStringLiteral("editor-styles-gallery"), QSize(1100, 520), [](EditorDemo &w) {
              w.showMainView();
@@ -238,7 +239,7 @@ int writeEditorScreenshots(const QDir &dir)
          }},
         {QStringLiteral("editor-view-popup"), QSize(1000, 520), [](EditorDemo &w) {
              w.showMainView();
-             showTab(w, QStringLiteral("View"));
+             showTab(w, EditorDemo::tr("View"));
              settle();
              openViewPopup(w);
          }},
@@ -251,7 +252,7 @@ int writeEditorScreenshots(const QDir &dir)
              QTextCursor cursor = w.editor()->textCursor();
              cursor.movePosition(QTextCursor::NextBlock, QTextCursor::MoveAnchor, 3);
              w.editor()->setTextCursor(cursor);
-             showTab(w, QStringLiteral("View"));
+             showTab(w, EditorDemo::tr("View"));
          }},
         {QStringLiteral("editor-navigation-floating"), QSize(1000, 640), [](EditorDemo &w) {
              w.showMainView();
@@ -272,21 +273,30 @@ int writeEditorScreenshots(const QDir &dir)
         // The dark palette, switched on as a user does: View, then Dark.
         {QStringLiteral("editor-dark"), QSize(1280, 800), [](EditorDemo &w) {
              w.showMainView();
-             showTab(w, QStringLiteral("View"));
+             showTab(w, EditorDemo::tr("View"));
              if (auto *dark = w.findChild<QAction *>(QStringLiteral("darkPalette")))
                  dark->trigger();
          }},
+        // The File page's own panes in the dark palette.
+        {QStringLiteral("editor-dark-backstage"), QSize(1280, 800), [](EditorDemo &w) {
+             zel::RibbonApplication::theApp().setRibbonStyle(zel::RibbonApplication::RibbonStyleDark);
+             w.showBackstagePage(EditorDemo::tr("Open"));
+         }},
+        {QStringLiteral("editor-dark-info"), QSize(1280, 800), [](EditorDemo &w) {
+             zel::RibbonApplication::theApp().setRibbonStyle(zel::RibbonApplication::RibbonStyleDark);
+             w.showBackstagePage(EditorDemo::tr("Info"));
+         }},
         {QStringLiteral("editor-info"), QSize(1280, 800), [](EditorDemo &w) {
-             w.showBackstagePage(QStringLiteral("Info"));
+             w.showBackstagePage(EditorDemo::tr("Info"));
              for (zel::RibbonStackedButton *button : w.findChildren<zel::RibbonStackedButton *>()) {
-                 if (button->text() == QLatin1String("Statistics"))
+                 if (button->text() == DocumentInfoPane::tr("Statistics"))
                      showHovered(button);
              }
          }},
         {QStringLiteral("editor-info-statistics"), QSize(1280, 800), [](EditorDemo &w) {
-             w.showBackstagePage(QStringLiteral("Info"));
+             w.showBackstagePage(EditorDemo::tr("Info"));
              for (zel::RibbonStackedButton *button : w.findChildren<zel::RibbonStackedButton *>()) {
-                 if (button->text() == QLatin1String("Statistics"))
+                 if (button->text() == DocumentInfoPane::tr("Statistics"))
                      button->click();
              }
          }},

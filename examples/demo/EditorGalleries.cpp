@@ -9,6 +9,7 @@
 
 #include <QActionGroup>
 #include <QCoreApplication>
+#include <QFontMetrics>
 #include <QInputDialog>
 #include <QPainter>
 #include <QTextBlock>
@@ -19,10 +20,11 @@ using namespace zel;
 
 namespace {
 
-QString tr(const char *text)
+// The context of this file's texts in the demo's catalogue.
+struct EditorGalleries
 {
-    return QCoreApplication::translate("EditorGalleries", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(EditorGalleries)
+};
 
 struct StyleDef
 {
@@ -37,11 +39,11 @@ struct StyleDef
 const QList<StyleDef> &styleDefs()
 {
     static const QList<StyleDef> defs = {
-        {tr("Normal"), 0, 0, QColor(), false, QFont::Normal},
-        {tr("Title"), 1, 26, QColor(0x26, 0x26, 0x26), false, QFont::Light},
-        {tr("Heading 1"), 1, 20, EditorColors::Accent, false, QFont::Normal},
-        {tr("Heading 2"), 2, 15, EditorColors::Accent, false, QFont::Normal},
-        {tr("Quote"), 0, 0, QColor(0x66, 0x66, 0x66), true, QFont::Normal}};
+        {EditorGalleries::tr("Normal"), 0, 0, QColor(), false, QFont::Normal},
+        {EditorGalleries::tr("Title"), 1, 26, QColor(0x26, 0x26, 0x26), false, QFont::Light},
+        {EditorGalleries::tr("Heading 1"), 1, 20, EditorColors::Accent, false, QFont::Normal},
+        {EditorGalleries::tr("Heading 2"), 2, 15, EditorColors::Accent, false, QFont::Normal},
+        {EditorGalleries::tr("Quote"), 0, 0, QColor(0x66, 0x66, 0x66), true, QFont::Normal}};
     return defs;
 }
 
@@ -65,11 +67,16 @@ QIcon styleTile(const StyleDef &style)
     p.setPen(style.color.isValid() ? style.color : EditorColors::Ink);
     p.drawText(QRect(5, 8, 46, 26), Qt::AlignCenter, QStringLiteral("AaBb"));
 
+    // The name in 9 pixels, smaller down to 7 when a (translated) name is longer than the
+    // tile, elided beyond that.
+    const QRect nameRect(5, 34, 46, 14);
     QFont caption(QStringLiteral("DejaVu Sans"));
     caption.setPixelSize(9);
+    while (caption.pixelSize() > 7 && QFontMetrics(caption).horizontalAdvance(style.name) > nameRect.width())
+        caption.setPixelSize(caption.pixelSize() - 1);
     p.setFont(caption);
     p.setPen(QColor(0x55, 0x55, 0x55));
-    p.drawText(QRect(5, 34, 46, 14), Qt::AlignCenter, style.name);
+    p.drawText(nameRect, Qt::AlignCenter, p.fontMetrics().elidedText(style.name, Qt::ElideRight, nameRect.width()));
     p.end();
     return QIcon(pixmap);
 }
@@ -143,11 +150,11 @@ int styleAt(const QTextEdit *edit)
 
 EditorStyles buildStylesCategory(const CurrentEditor &editor, QObject *owner)
 {
-    auto *styles = new RibbonCategoryAction(editorIcon(EditorIcon::StyleHeading1), tr("Styles"), owner);
-    auto *gallery = new RibbonCatMenuAction(editorIcon(EditorIcon::StyleNormal), tr("Styles"),
+    auto *styles = new RibbonCategoryAction(editorIcon(EditorIcon::StyleHeading1), EditorGalleries::tr("Styles"), owner);
+    auto *gallery = new RibbonCatMenuAction(editorIcon(EditorIcon::StyleNormal), EditorGalleries::tr("Styles"),
                                             RibbonCatMenuAction::MenuTypeButton, RibbonCatMenuAction::MenuSizeLarge,
                                             RibbonCatMenuAction::PopupListPreview, owner);
-    gallery->setToolTip(tr("Paragraph styles"));
+    gallery->setToolTip(EditorGalleries::tr("Paragraph styles"));
     gallery->setListPreviewVisibleIconsCount(4);
     QList<RibbonSimpleAction *> tiles;
     for (const StyleDef &style : styleDefs()) {
@@ -163,7 +170,7 @@ EditorStyles buildStylesCategory(const CurrentEditor &editor, QObject *owner)
     }
     tiles.first()->setChecked(true);
 
-    auto *clear = new RibbonSimpleAction(editorIcon(EditorIcon::ClearFormat), tr("Clear Formatting"), owner);
+    auto *clear = new RibbonSimpleAction(editorIcon(EditorIcon::ClearFormat), EditorGalleries::tr("Clear Formatting"), owner);
     QObject::connect(clear, &QAction::triggered, owner, [editor] {
         QTextEdit *edit = editor();
         if (!edit)
@@ -193,23 +200,23 @@ EditorStyles buildStylesCategory(const CurrentEditor &editor, QObject *owner)
 RibbonCategoryAction *buildLayoutCategory(RibbonPercAction *zoom, const CurrentEditor &editor,
                                           std::function<void(bool)> printLayout, QObject *owner)
 {
-    auto *layout = new RibbonCategoryAction(editorIcon(EditorIcon::Page), tr("Layout"), owner);
-    auto *button = new RibbonCatMenuAction(editorIcon(EditorIcon::Page), tr("Page Layout"),
+    auto *layout = new RibbonCategoryAction(editorIcon(EditorIcon::Page), EditorGalleries::tr("Layout"), owner);
+    auto *button = new RibbonCatMenuAction(editorIcon(EditorIcon::Page), EditorGalleries::tr("Page Layout"),
                                            RibbonCatMenuAction::MenuTypeButton, RibbonCatMenuAction::MenuSizeLarge,
                                            RibbonCatMenuAction::PopupView, owner);
-    button->setToolTip(tr("Page layout and zoom"));
+    button->setToolTip(EditorGalleries::tr("Page layout and zoom"));
 
     // The layouts on top: a checked one shows the check mark in the gutter.
     auto *layouts = new QActionGroup(owner);
-    auto *print = new RibbonSimpleAction(tr("Print Layout"), owner);
-    auto *web = new RibbonSimpleAction(tr("Web Layout"), owner);
+    auto *print = new RibbonSimpleAction(EditorGalleries::tr("Print Layout"), owner);
+    auto *web = new RibbonSimpleAction(EditorGalleries::tr("Web Layout"), owner);
     for (RibbonSimpleAction *a : {print, web}) {
         a->setCheckable(true);
         layouts->addAction(a);
     }
     print->setChecked(true);
-    print->setToolTip(tr("The text as a page of fixed width"));
-    web->setToolTip(tr("The text fills the window"));
+    print->setToolTip(EditorGalleries::tr("The text as a page of fixed width"));
+    web->setToolTip(EditorGalleries::tr("The text fills the window"));
     QObject::connect(print, &QAction::triggered, owner, [printLayout] { printLayout(true); });
     QObject::connect(web, &QAction::triggered, owner, [printLayout] { printLayout(false); });
     button->addTopAction(print);
@@ -231,11 +238,11 @@ RibbonCategoryAction *buildLayoutCategory(RibbonPercAction *zoom, const CurrentE
             preset.second->setChecked(preset.first == percentage);
     });
 
-    auto *custom = new RibbonSimpleAction(editorIcon(EditorIcon::ZoomIn), tr("Custom Zoom..."), owner);
+    auto *custom = new RibbonSimpleAction(editorIcon(EditorIcon::ZoomIn), EditorGalleries::tr("Custom Zoom..."), owner);
     QObject::connect(custom, &QAction::triggered, owner, [zoom, editor] {
         QTextEdit *edit = editor();
         bool ok = false;
-        const int percent = QInputDialog::getInt(edit ? edit->window() : nullptr, tr("Zoom"), tr("Zoom (%):"), zoom->percentage(),
+        const int percent = QInputDialog::getInt(edit ? edit->window() : nullptr, EditorGalleries::tr("Zoom"), EditorGalleries::tr("Zoom (%):"), zoom->percentage(),
                                                  zoom->minimum(), zoom->maximum(), 5, &ok);
         if (ok)
             zoom->setPercentage(percent);

@@ -7,6 +7,7 @@
 #include "RibbonOptionsPage.h"
 
 #include <QCheckBox>
+#include <QCoreApplication>
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -175,7 +176,7 @@ void EditorPreferences::setDefaultZoom(int percent)
 zel::RibbonOptionsDialog *makeEditorOptionsDialog(zel::RibbonMainWindow &window, EditorPreferences &preferences)
 {
     auto *dialog = new zel::RibbonOptionsDialog(window);
-    dialog->setWindowTitle(QObject::tr("Writer Options"));
+    dialog->setWindowTitle(QCoreApplication::translate("EditorOptions", "Writer Options"));
     dialog->addOptionsPage(new GeneralPage(*dialog, preferences));
     dialog->addOptionsPage(new ViewPage(*dialog, preferences));
     return dialog;

@@ -6,10 +6,12 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
+#include <QLocale>
 #include <QPixmap>
 #include <QSettings>
 #include <QTabWidget>
 #include <QTextStream>
+#include <QTranslator>
 #include <QWidget>
 
 #include <algorithm>
@@ -85,29 +87,36 @@ int main(int argc, char *argv[])
     app.setOpenInNewWindowExtensions({QStringLiteral("txt")});
     QCoreApplication::setOrganizationName(QStringLiteral("zelRibbon"));
     QCoreApplication::setApplicationName(QStringLiteral("zelRibbon Writer"));
+    // The demo's own texts in the user's language, as the library's are (the application
+    // has loaded the library's catalogue and Qt's for the system locale).
+    QTranslator demoTranslator;
+    if (demoTranslator.load(QLocale::system(), QStringLiteral("zelRibbonDemo"), QStringLiteral("_"),
+                            QStringLiteral(":/zelRibbonDemo/translations")))
+        QCoreApplication::installTranslator(&demoTranslator);
     // The ribbon's geometry is made for the usual 9-point desktop UI font.
     QFont uiFont = QApplication::font();
     uiFont.setPointSize(9);
     QApplication::setFont(uiFont);
 
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral("zelRibbon demo host"));
+    parser.setApplicationDescription(QCoreApplication::translate("main", "zelRibbon demo host"));
     parser.addHelpOption();
     QCommandLineOption shots(QStringLiteral("screenshots"),
-                             QStringLiteral("Render every screen to a PNG file in <dir> and exit."),
-                             QStringLiteral("dir"));
+                             QCoreApplication::translate("main", "Render every screen to a PNG file in <dir> and exit."),
+                             QCoreApplication::translate("main", "dir"));
     parser.addOption(shots);
     QCommandLineOption screens(QStringLiteral("screens"),
-                               QStringLiteral("Show the individual demo screens instead of the editor."));
+                               QCoreApplication::translate("main", "Show the individual demo screens instead of the editor."));
     parser.addOption(screens);
     QCommandLineOption xvfbCheck(QStringLiteral("xvfb-check"),
-                                 QStringLiteral("Show the editor, grab the screen into <file> and check that "
-                                                "the ribbon is on it (exit code 0 when it is)."),
-                                 QStringLiteral("file"));
+                                 QCoreApplication::translate("main", "Show the editor, grab the screen into <file> and check "
+                                                                     "that the ribbon is on it (exit code 0 when it is)."),
+                                 QCoreApplication::translate("main", "file"));
     parser.addOption(xvfbCheck);
-    parser.addPositionalArgument(QStringLiteral("files"), QStringLiteral("Documents to open; a running editor opens "
-                                                                         "them, except .txt files, which get an editor of their own."),
-                                 QStringLiteral("[files...]"));
+    parser.addPositionalArgument(QCoreApplication::translate("main", "files"),
+                                 QCoreApplication::translate("main", "Documents to open; a running editor opens them, "
+                                                                     "except .txt files, which get an editor of their own."),
+                                 QCoreApplication::translate("main", "[files...]"));
     parser.process(app);
 
     // Screenshots, the X server check and the screens gallery are no editor: they neither
@@ -136,7 +145,7 @@ int main(int argc, char *argv[])
     }
 
     QTabWidget window;
-    window.setWindowTitle(QStringLiteral("zelRibbon demo"));
+    window.setWindowTitle(QCoreApplication::translate("main", "zelRibbon demo"));
     for (const DemoScreen &screen : demoScreens()) {
         if (QWidget *widget = screen.make())
             window.addTab(widget, screen.title);

@@ -72,7 +72,7 @@ QComboBox *RibbonCatFontSizeAction::createComboBox(QWidget *parent)
     combo->setInsertPolicy(QComboBox::NoInsert);
     combo->setValidator(new QIntValidator(1, 1638, combo));
     // One row of a ribbon group, like the family picker beside it.
-    combo->setFixedHeight(22);
+    combo->setFixedHeight(comboRowHeight(combo->fontMetrics()));
     // The box measures its entries, but its frame and arrow keep their pixel widths, so
     // at a higher resolution the field is left too narrow and scrolls the size; it gets
     // the DPI factor's share of a field margin more (nothing at 96 DPI).

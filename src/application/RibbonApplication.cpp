@@ -5,6 +5,7 @@
 #include "RibbonPlatform.h"
 #include "RibbonStyles.h"
 
+#include <QLibraryInfo>
 #include <QLocale>
 #include <QWidget>
 #include <QTranslator>
@@ -138,18 +139,28 @@ bool RibbonApplication::autoLoadTranslations()
 
 bool RibbonApplication::loadTranslation(const QLocale &locale)
 {
-    if (m_translator) {
-        QCoreApplication::removeTranslator(m_translator);
-        delete m_translator;
-        m_translator = nullptr;
+    // Qt's own catalogue, when the system has one, translates the standard dialogs and
+    // buttons the library's windows show beside its own texts.
+    replaceTranslator(m_qtTranslator, locale, QStringLiteral("qtbase"),
+                      QLibraryInfo::location(QLibraryInfo::TranslationsPath));
+    return replaceTranslator(m_translator, locale, QStringLiteral("zelRibbon"), QStringLiteral(":/zel/translations"));
+}
+
+bool RibbonApplication::replaceTranslator(QTranslator *&installed, const QLocale &locale, const QString &name,
+                                          const QString &directory)
+{
+    if (installed) {
+        QCoreApplication::removeTranslator(installed);
+        delete installed;
+        installed = nullptr;
     }
     auto *translator = new QTranslator(this);
-    if (!translator->load(locale, QStringLiteral("zelRibbon"), QStringLiteral("_"), QStringLiteral(":/zel/translations"))) {
+    if (!translator->load(locale, name, QStringLiteral("_"), directory)) {
         delete translator;
         return false;
     }
     QCoreApplication::installTranslator(translator);
-    m_translator = translator;
+    installed = translator;
     return true;
 }
 

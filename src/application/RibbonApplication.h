@@ -50,7 +50,9 @@ public:
 
     // Installs the library's translation for locale in place of the one installed
     // before; false, leaving the library's texts in English, when there is none.
-    // Widgets that exist already keep the texts they were given.
+    // Qt's own catalogue for locale (qtbase_xx.qm in Qt's translations directory) is
+    // installed with it when the system has one. Widgets that exist already keep the
+    // texts they were given.
     bool loadTranslation(const QLocale &locale);
 
     // Horizontal and vertical screen resolution divided by 96, measured at start.
@@ -63,12 +65,17 @@ signals:
     void ribbonStyleChanged();
 
 private:
+    // Puts a translator for name_<locale> from directory in place of installed.
+    bool replaceTranslator(QTranslator *&installed, const QLocale &locale, const QString &name,
+                           const QString &directory);
+
     eRibbonStyle m_ribbonStyleKind;
     QPair<double, double> m_dpiFactor;
     // The widget palette from before the first switch, restored with the light look.
     QPalette m_lightWidgetPalette;
     bool m_widgetPaletteSaved = false;
     QTranslator *m_translator = nullptr;
+    QTranslator *m_qtTranslator = nullptr;
 };
 
 } // namespace zel

@@ -27,19 +27,17 @@ const int Centre = 125;
 const int HalfLength = 40;
 const int SnapDistance = 5;
 
+// The buttons and the track lie in a row of 20 pixels, vertically centred in a widget
+// that grows with the font of its label.
+const int Row = 20;
 const int ButtonExtent = 18;
 const int ThumbWidth = 11;
 const int ThumbHeight = 15;
 
 // The label left of the minus button is 60 pixels wide at 96 DPI and grows with the
-// horizontal resolution, like the text in it; the track keeps its length and moves right
-// by the growth.
+// horizontal resolution, like the text in it, or to hold the largest percentage in a
+// large font; the track keeps its length and moves right by the growth.
 const int LabelWidth = 60;
-
-int trackOffset()
-{
-    return scaledX(LabelWidth) - LabelWidth;
-}
 
 QString percentText(int percentage)
 {
@@ -85,7 +83,7 @@ QString RibbonPercWidget::text() const
 
 QSize RibbonPercWidget::sizeHint() const
 {
-    return QSize(190 + trackOffset(), 20);
+    return QSize(190 + trackOffset(), textFitHeight(Row, fontMetrics(), 1));
 }
 
 int RibbonPercWidget::thumbPosition(int v) const
@@ -105,17 +103,29 @@ int RibbonPercWidget::thumbPosition(int v) const
 
 QRect RibbonPercWidget::minusRect() const
 {
-    return QRect(LabelWidth + trackOffset(), 0, 20, 20);
+    return QRect(LabelWidth + trackOffset(), rowTop(), Row, Row);
 }
 
 QRect RibbonPercWidget::plusRect() const
 {
-    return QRect(width() - 20, 0, 20, 20);
+    return QRect(width() - Row, rowTop(), Row, Row);
 }
 
 QRect RibbonPercWidget::thumbHitRect() const
 {
-    return QRect(thumbPosition(m_value) - 5, 0, ThumbWidth, 20);
+    return QRect(thumbPosition(m_value) - 5, rowTop(), ThumbWidth, Row);
+}
+
+int RibbonPercWidget::rowTop() const
+{
+    return (height() - Row) / 2;
+}
+
+int RibbonPercWidget::trackOffset() const
+{
+    const RibbonPercAction *action = this->action();
+    const int widest = fontMetrics().horizontalAdvance(percentText(action ? action->maximum() : 100)) + 4;
+    return std::max(scaledX(LabelWidth), widest) - LabelWidth;
 }
 
 bool RibbonPercWidget::isHovered(const QRect &area) const
@@ -210,7 +220,8 @@ void RibbonPercWidget::paintEvent(QPaintEvent *)
     // Right-aligned against the minus button, vertically centred.
     painter.drawText(QRect(0, 0, LabelWidth + trackOffset(), height()), Qt::AlignRight | Qt::AlignVCenter, m_text);
 
-    const int trackEnd = width() - 20;
+    const int trackEnd = width() - Row;
+    painter.translate(0, rowTop());
     painter.setPen(style.frameSunkenColor());
     const int trackStart = TrackStart + trackOffset();
     const int centre = Centre + trackOffset();
@@ -225,6 +236,7 @@ void RibbonPercWidget::paintEvent(QPaintEvent *)
         return pressed ? SliderPart::Pressed : isHovered(area) ? SliderPart::Hover : SliderPart::Normal;
     };
 
+    painter.resetTransform();
     QRect button(0, 0, ButtonExtent, ButtonExtent);
     button.moveCenter(minusRect().center());
     RibbonPaint::drawPart(painter, button, style.sliderMinus(),
@@ -234,7 +246,7 @@ void RibbonPercWidget::paintEvent(QPaintEvent *)
                           QRect(0, ButtonExtent * frameOf(m_plusPressed, plusRect()), ButtonExtent, ButtonExtent));
 
     const int x = thumbPosition(m_value);
-    const QRect thumb(x - ThumbWidth / 2, 10 - ThumbHeight / 2, ThumbWidth, ThumbHeight);
+    const QRect thumb(x - ThumbWidth / 2, rowTop() + Row / 2 - ThumbHeight / 2, ThumbWidth, ThumbHeight);
     RibbonPaint::drawPart(painter, thumb, style.sliderThumb(),
                           QRect(0, ThumbHeight * frameOf(m_thumbPressed, thumbHitRect()), ThumbWidth, ThumbHeight));
 }

@@ -53,6 +53,8 @@ private:
     QRect minusRect() const;
     QRect plusRect() const;
     QRect thumbHitRect() const;
+    int rowTop() const;
+    int trackOffset() const;
     bool isHovered(const QRect &area) const;
     int valueAt(int x) const;
     int stepped(int delta) const;

@@ -11,6 +11,7 @@
 #include "RibbonPercWidget.h"
 #include "RibbonProgressAction.h"
 #include "RibbonProgressWidget.h"
+#include "RibbonScale_p.h"
 #include "RibbonSimpleAction.h"
 #include "RibbonStatusBarWidget.h"
 #include "RibbonStyle.h"
@@ -98,9 +99,9 @@ RibbonStatusBar::RibbonStatusBar(RibbonMainWindow &mainWindow)
     d->mainLayout->addLayout(d->extensionsLayout);
 
     setSizePolicy(QSizePolicy::MinimumExpanding, QSizePolicy::Fixed);
-    setFixedHeight(RibbonPaint::logicalSize(ribbonStyle().statusBar()).height());
+    updateHeight();
     connect(&RibbonApplication::theApp(), &RibbonApplication::ribbonStyleChanged, this, [this] {
-        setFixedHeight(RibbonPaint::logicalSize(ribbonStyle().statusBar()).height());
+        updateHeight();
         update();
     });
 }
@@ -198,9 +199,19 @@ void RibbonStatusBar::actionEvent(QActionEvent *event)
     update();
 }
 
+void RibbonStatusBar::updateHeight()
+{
+    // The background image's height, grown with the resolution or, for a large font, to
+    // hold the zoom slider's row (its label's text) below the extensions' top margin.
+    const int imageHeight = RibbonPaint::logicalSize(ribbonStyle().statusBar()).height();
+    setFixedHeight(std::max(scaled(imageHeight), textFitHeight(20, fontMetrics(), 1) + 3));
+}
+
 void RibbonStatusBar::changeEvent(QEvent *event)
 {
     QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        updateHeight();
     if (event->type() == QEvent::ActivationChange)
         update();
 }

@@ -55,6 +55,7 @@ private:
     void addActionWidget(QAction *action);
     bool removeActionWidget(QAction *action);
     void layoutNow();
+    void updateHeight();
 
     struct Priv;
     std::unique_ptr<Priv> d;

@@ -56,7 +56,7 @@ QSize RibbonCatCheckBox::sizeHint() const
     const QString label = text();
     const int textWidth = label.isEmpty() ? 0 : fontMetrics().horizontalAdvance(label);
     // The indicator and its gap grow with the resolution like the text beside them.
-    return QSize(textWidth + scaledX(20), scaled(22));
+    return QSize(textWidth + scaledX(20), textFitHeight(22, fontMetrics(), 2));
 }
 
 void RibbonCatCheckBox::onActionChanged()

@@ -34,7 +34,7 @@ RibbonCatComboComboBox::RibbonCatComboComboBox(RibbonCatComboAction &action, QWi
     connect(&action, &RibbonCatComboAction::itemAdded, this, &RibbonCatComboComboBox::onItemAdded);
     connect(&action, &RibbonCatComboAction::editableChanged, this, &RibbonCatComboComboBox::onEditableChanged);
     addAction(&action);
-    setFixedHeight(22);
+    setFixedHeight(comboRowHeight(fontMetrics()));
 }
 
 RibbonCatComboComboBox::~RibbonCatComboComboBox() = default;

@@ -26,7 +26,7 @@ RibbonCatComboWidget::RibbonCatComboWidget(RibbonCatComboAction &action, QWidget
     if (!action.comboLabel().isEmpty()) {
         if (!action.isVerticalAligned()) {
             const int labelWidth = m_label->fontMetrics().horizontalAdvance(action.comboLabel());
-            setFixedSize(labelWidth + 10 + scaledX(action.width()), 22);
+            setFixedSize(labelWidth + 10 + scaledX(action.width()), m_comboBox->height());
         } else {
             layout->removeWidget(m_comboBox);
             layout->addWidget(m_comboBox, 1, 0);

@@ -18,7 +18,7 @@ RibbonCatFontFamilyComboBox::RibbonCatFontFamilyComboBox(RibbonCatFontFamilyActi
             SLOT(setFontFamily(const QFont &)));
     connect(this, SIGNAL(activated(int)), this, SLOT(onIndexChanged(int)));
     addAction(&action);
-    setFixedHeight(22);
+    setFixedHeight(comboRowHeight(fontMetrics()));
 }
 
 RibbonCatFontFamilyComboBox::~RibbonCatFontFamilyComboBox() = default;

@@ -60,6 +60,8 @@ RibbonCatMenuButton::RibbonCatMenuButton(RibbonCatMenuAction &action, QWidget *p
     : QWidget(parent)
     , m_action(&action)
 {
+    if (action.menuSize() == RibbonCatMenuAction::MenuSizeLarge)
+        capToDesignFont(*this);
     addAction(&action);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setMouseTracking(true);

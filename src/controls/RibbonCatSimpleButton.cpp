@@ -42,6 +42,8 @@ RibbonCatSimpleButton::RibbonCatSimpleButton(RibbonCatSimpleAction &action, QWid
 {
     d->action = &action;
     d->size = action.size();
+    if (d->size == RibbonCatSimpleAction::SizeLarge)
+        capToDesignFont(*this);
     addAction(&action);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setMouseTracking(true);

@@ -33,9 +33,6 @@ namespace zel {
 
 namespace {
 
-// The largest text, in points, a category's fixed rows hold.
-const qreal MaxTextPoints = 9;
-
 // A menu command whose items show in the ribbon gets a gallery instead of a button.
 QWidget *makeListPreview(QAction *action, QWidget *parent)
 {
@@ -92,15 +89,9 @@ RibbonCategory::RibbonCategory(QWidget *parent, RibbonCategoryAction &action)
     setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
     setMouseTracking(true);
     setAttribute(Qt::WA_Hover);
-    // The rows of a category are designed for text of at most 9 points (heights follow
-    // the resolution, as points do). A larger desktop font would push the second line of
-    // a large caption into the category's own caption, so the category and its controls
-    // draw in the inherited font capped at that size; smaller fonts are kept as they are.
-    if (font().pointSizeF() > MaxTextPoints) {
-        QFont capped;
-        capped.setPointSizeF(MaxTextPoints);
-        setFont(capped);
-    }
+    // The category and its controls: a larger font would also push the second line of a
+    // large caption into the category's own caption.
+    capToDesignFont(*this);
 
     connect(&action, &RibbonCategoryAction::actionAdded, this, &RibbonCategory::addRibbonAction);
     connect(&action, &RibbonCategoryAction::actionRemoved, this, &RibbonCategory::removeRibbonAction);

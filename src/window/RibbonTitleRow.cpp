@@ -4,6 +4,7 @@
 #include "RibbonMainWindow.h"
 #include "RibbonPaint_p.h"
 #include "RibbonQuickAccessBar.h"
+#include "RibbonScale_p.h"
 #include "RibbonStyle.h"
 #include "RibbonSysButton.h"
 
@@ -38,7 +39,7 @@ RibbonTitleRow::RibbonTitleRow(RibbonMainWindow *window)
     m_quickAccessBar = new RibbonQuickAccessBar(window);
     m_layout->addWidget(m_quickAccessBar);
 
-    m_spacer = new QSpacerItem(1, 20, QSizePolicy::Expanding, QSizePolicy::Minimum);
+    m_spacer = new QSpacerItem(1, titleHeight(), QSizePolicy::Expanding, QSizePolicy::Minimum);
     m_layout->addItem(m_spacer);
 
     // Queued: the window may close or change its state only after the click is over.
@@ -80,7 +81,7 @@ void RibbonTitleRow::setShown(bool showTitleBar, bool mainView)
     m_maximizeButton->setVisible(showTitleBar);
     m_closeButton->setVisible(showTitleBar);
     if (showTitleBar)
-        m_spacer->changeSize(1, 20, QSizePolicy::Expanding, QSizePolicy::Minimum);
+        m_spacer->changeSize(1, titleHeight(), QSizePolicy::Expanding, QSizePolicy::Minimum);
     else
         m_spacer->changeSize(0, 0, QSizePolicy::Fixed, QSizePolicy::Fixed);
     m_layout->invalidate();
@@ -107,12 +108,23 @@ QString RibbonTitleRow::titleText() const
     return title;
 }
 
+QFont RibbonTitleRow::titleFont() const
+{
+    QFont font = m_window->font();
+    font.setPointSize(kTitlePointSize);
+    return font;
+}
+
+int RibbonTitleRow::titleHeight() const
+{
+    // The space the title is drawn in keeps the row at least this high.
+    return textFitHeight(20, QFontMetrics(titleFont()), 2);
+}
+
 void RibbonTitleRow::preparePainter(QPainter &painter) const
 {
     const RibbonStyle &style = RibbonApplication::theApp().ribbonStyle();
-    QFont titleFont = m_window->font();
-    titleFont.setPointSize(kTitlePointSize);
-    painter.setFont(titleFont);
+    painter.setFont(titleFont());
     painter.setPen(m_window->isActiveWindow() ? style.activeTextColor() : style.inactiveTextColor());
 }
 

@@ -42,6 +42,8 @@ public:
     void paintOverPage(QPainter &painter, int leftWidth, int rightWidth, int extraTop) const;
 
 private:
+    QFont titleFont() const;
+    int titleHeight() const;
     void preparePainter(QPainter &painter) const;
     QString titleText() const;
 
