@@ -94,6 +94,11 @@ void RibbonCatMenuButton::processEvents(QEvent *event)
     }
 }
 
+bool RibbonCatMenuButton::isPopupOpen() const
+{
+    return d && d->popupShown;
+}
+
 void RibbonCatMenuButton::drawBorder(bool draw)
 {
     // Made here when needed so that the flag survives until the first action event.
@@ -378,6 +383,7 @@ void RibbonCatMenuButtonBPriv::openPopup()
     }
     popupShown = true;
     m_popup = popup;
+    ribbonAnnouncePopup(&owner, popup, true);
 }
 
 void RibbonCatMenuButtonBPriv::watchPopup(QWidget *popup)
@@ -471,6 +477,7 @@ void RibbonCatMenuButtonBPriv::popupClosed()
         return;
     menuPressed = false;
     popupShown = false;
+    ribbonAnnouncePopup(&owner, m_popup, false);
     m_popup = nullptr;
     owner.update();
     if (savedFocus)

@@ -1,6 +1,7 @@
 #include "RibbonMenuBar.h"
 
 #include "MenuHLayout.h"
+#include "RibbonAccessible_p.h"
 #include "RibbonActionWidgetMap_p.h"
 #include "RibbonButtonMain.h"
 #include "RibbonButtonNormal.h"
@@ -106,6 +107,7 @@ RibbonMenuBar::RibbonMenuBar(RibbonMainWindow &window)
     , d(new Priv(window))
 {
     setCursor(Qt::ArrowCursor);
+    ribbonInstallAccessibility();
 
     d->grid = new QGridLayout(this);
     d->grid->setContentsMargins(0, 0, 0, 0);
