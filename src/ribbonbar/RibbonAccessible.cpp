@@ -361,7 +361,7 @@ public:
     }
     QString text(QAccessible::Text t) const override
     {
-        return t == QAccessible::Name ? QCoreApplication::translate("RibbonMenuBar", "Ribbon Tabs") : QString();
+        return t == QAccessible::Name ? QCoreApplication::translate("zel::RibbonMenuBar", "Ribbon Tabs") : QString();
     }
     void setText(QAccessible::Text, const QString &) override {}
     QRect rect() const override
@@ -402,7 +402,7 @@ public:
     QString text(QAccessible::Text t) const override
     {
         if (t == QAccessible::Name && widget()->accessibleName().isEmpty())
-            return QCoreApplication::translate("RibbonMenuBar", "Ribbon");
+            return QCoreApplication::translate("zel::RibbonMenuBar", "Ribbon");
         return QAccessibleWidget::text(t);
     }
 
@@ -545,10 +545,10 @@ QAccessibleInterface *ribbonAccessibleFactory(const QString &className, QObject 
         return new ZoomAccessible(widget);
     if (name == QLatin1String("RibbonQuickAccessBar"))
         return new NamedAccessible(widget, QAccessible::ToolBar,
-                                   QCoreApplication::translate("RibbonQuickAccessBar", "Quick Access Toolbar"));
+                                   QCoreApplication::translate("zel::RibbonQuickAccessBar", "Quick Access Toolbar"));
     if (name == QLatin1String("RibbonStatusBar"))
         return new NamedAccessible(widget, QAccessible::StatusBar,
-                                   QCoreApplication::translate("RibbonStatusBar", "Status Bar"));
+                                   QCoreApplication::translate("zel::RibbonStatusBar", "Status Bar"));
     return nullptr;
 }
 

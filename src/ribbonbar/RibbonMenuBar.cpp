@@ -14,6 +14,7 @@
 #include "RibbonCommandShortcuts_p.h"
 #include "RibbonContextCategoryPanel.h"
 #include "RibbonContextCategoryPanelAction.h"
+#include "RibbonContextMenu_p.h"
 #include "RibbonMainWindow.h"
 #include "RibbonMenuBarButton.h"
 #include "RibbonSimpleAction.h"
@@ -551,6 +552,11 @@ void RibbonMenuBar::updateCollapseRibbonAction()
         d->collapseAction->setIcon(QIcon(QStringLiteral(":/zel/common/Resources/PinRibbon.ico")));
         d->collapseAction->setToolTip(tr("Pin the Ribbon"));
     }
+}
+
+void RibbonMenuBar::contextMenuEvent(QContextMenuEvent *event)
+{
+    ribbonOpenContextMenu(*this, event);
 }
 
 } // namespace zel
