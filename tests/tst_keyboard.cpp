@@ -151,6 +151,7 @@ private slots:
     void keyTipsShowAndHide();
     void keyTipsThroughTabToCommand();
     void keyTipsInFoldedCategory();
+    void keyTipsInCollapsedRibbon();
     void keyTipsDoNotOverlap();
 
     void arrowNavigation();
@@ -635,6 +636,41 @@ void tst_Keyboard::keyTipsInFoldedCategory()
     QVERIFY(zelPopupShown(folded->popup()));
     QCOMPARE(keyTips.depth(), 3);
     f.window.reset();
+}
+
+void tst_Keyboard::keyTipsInCollapsedRibbon()
+{
+    // Collapsed, a tab's letters open the tab's panel as a popup and letter its commands
+    // there.
+    Fixture f;
+    f.bar().setMinimizeRibbon(true);
+    QVERIFY(f.show());
+    RibbonKeyTips &keyTips = keyTipsOf(f);
+    RibbonCategoryPanels *panels = f.bar().categoryPanels()->subject();
+    QSignalSpy table(f.tables->actions().at(0), &QAction::triggered);
+
+    pressAlt(f.edit);
+    QTest::keyClick(f.edit, Qt::Key_I);
+    QCOMPARE(keyTips.depth(), 2);
+    QTRY_VERIFY(panels->isWindow() && panels->isVisible());
+    QVERIFY(zelPopupShown(panels));
+    const QString keys = keysByCaption(keyTips).value(QStringLiteral("Table"));
+    QCOMPARE(keys, QStringLiteral("T"));
+    for (const RibbonKeyTip &tip : keyTips.tips())
+        QCOMPARE(tip.widget->window(), panels);
+
+    // Escape closes the popup and goes back to the tabs.
+    QTest::keyClick(keyReceiver(f), Qt::Key_Escape);
+    QCOMPARE(keyTips.depth(), 1);
+    QTRY_VERIFY(!panels->isVisible());
+
+    QTest::keyClick(keyReceiver(f), Qt::Key_I);
+    QTRY_VERIFY(panels->isVisible());
+    typeKeys(keyReceiver(f), keys);
+    QCOMPARE(table.count(), 1);
+    QVERIFY(!keyTips.isShown());
+    QTRY_VERIFY(!panels->isVisible());
+    QVERIFY(f.bar().isRibbonMinimized());
 }
 
 void tst_Keyboard::keyTipsDoNotOverlap()
