@@ -448,8 +448,10 @@ public:
 
     QAccessibleInterface *parent() const override
     {
-        auto *bar = static_cast<MenuBarAccessible *>(QAccessible::queryAccessibleInterface(&tab()->ribbonMenuBar()));
-        return bar ? bar->tabRow() : nullptr;
+        // Another factory may have made the bar's interface.
+        QAccessibleInterface *bar = QAccessible::queryAccessibleInterface(&tab()->ribbonMenuBar());
+        auto *ours = dynamic_cast<MenuBarAccessible *>(bar);
+        return ours ? ours->tabRow() : bar;
     }
 
     QAccessible::State state() const override
