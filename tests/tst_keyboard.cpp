@@ -26,6 +26,7 @@
 #include "RibbonPercWidget.h"
 #include "RibbonStatusBar.h"
 #include "BackstageView.h"
+#include "BackstageWelcomeScreen.h"
 #include "RibbonSimpleAction.h"
 
 #include <QLineEdit>
@@ -157,6 +158,7 @@ private slots:
     void arrowNavigation();
     void accessibleNames();
     void backstageByKeyboard();
+    void welcomeScreenByKeyboard();
     void screenTip_data();
     void screenTip();
     void screenTipOnControls();
@@ -836,6 +838,35 @@ void tst_Keyboard::accessibleNames()
                  QStringLiteral("Restore"));
     f.styles->setText(QStringLiteral("&Quick Styles"));
     QCOMPARE(f.wrapper(f.home, f.styles)->accessibleName(), QStringLiteral("Quick Styles"));
+}
+
+void tst_Keyboard::welcomeScreenByKeyboard()
+{
+    // Tab reaches the tiles of the welcome screen; Enter or Space opens one.
+    Fixture f;
+    BackstageWelcomeScreen &welcome = f.window->welcomeScreen();
+    welcome.addTemplate(QStringLiteral("Letter"), QPixmap());
+    QVERIFY(f.show());
+    f.window->setActiveView(RibbonMainWindow::WelcomeScreen);
+    QSignalSpy blank(&welcome, SIGNAL(blankDocumentSelected()));
+    QSignalSpy letter(&welcome, SIGNAL(templateSelected(QString)));
+    auto *tile = welcome.findChild<QAbstractButton *>(QStringLiteral("welcomeBlankDocument"));
+    // The keys go to the page shown, not to the document behind it.
+    QVERIFY(welcome.isAncestorOf(QApplication::focusWidget()));
+    for (int i = 0; i < 10 && !tile->hasFocus(); ++i)
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    QVERIFY(tile->hasFocus());
+    QTest::keyClick(tile, Qt::Key_Tab);
+    QWidget *next = QApplication::focusWidget();
+    QCOMPARE(next->property("text").toString(), QStringLiteral("Letter"));
+    QTest::keyClick(next, Qt::Key_Space);
+    QCOMPARE(letter.count(), 1);
+    QCOMPARE(blank.count(), 0);
+
+    f.window->setActiveView(RibbonMainWindow::WelcomeScreen);
+    tile->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(tile, Qt::Key_Return);
+    QCOMPARE(blank.count(), 1);
 }
 
 void tst_Keyboard::backstageByKeyboard()
