@@ -309,10 +309,7 @@ void tst_Accessibility::rolesAndNames_data()
                                 << QAccessible::StatusBar << "Status Bar";
     QTest::newRow("zoom") << Finder([](const Fixture &f) { return f.window->findChild<RibbonPercWidget *>(); })
                           << QAccessible::Slider << "Zoom";
-    QTest::newRow("minimize") << member("minimizeButton") << QAccessible::Button << "Minimize";
-    QTest::newRow("maximize") << member("maximizeButton") << QAccessible::Button << "Maximize";
     QTest::newRow("close") << member("closeButton") << QAccessible::Button << "Close";
-    QTest::newRow("back") << member("backstageBackButton") << QAccessible::Button << "Back";
 }
 
 void tst_Accessibility::rolesAndNames()

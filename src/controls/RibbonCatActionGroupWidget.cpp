@@ -79,7 +79,7 @@ public:
         case QAccessible::Name:
             return ribbonAccessibleName(action);
         case QAccessible::Description:
-            return action->statusTip();
+            return ribbonDescription(action);
         case QAccessible::Accelerator:
             return action->shortcut().toString(QKeySequence::NativeText);
         default:

@@ -136,7 +136,7 @@ void RibbonCatMenuButton::refreshFromAction(QActionEvent *event)
     const RibbonAction *defaultAction = action->defaultAction();
     setToolTip(ribbonScreenTip(defaultAction ? static_cast<const QAction *>(defaultAction) : action));
     setAccessibleName(ribbonAccessibleName(action));
-    setAccessibleDescription(action->statusTip());
+    setAccessibleDescription(ribbonDescription(action));
     if (d)
         d->actionEvent(event);
     updateGeometry();

@@ -27,13 +27,6 @@ namespace zel {
 
 namespace {
 
-QString descriptionOf(const QAction *action)
-{
-    if (!action)
-        return QString();
-    return !action->statusTip().isEmpty() ? action->statusTip() : action->whatsThis();
-}
-
 // The action a control shows: the first one added to it.
 QAction *shownAction(const QWidget *widget)
 {
@@ -62,7 +55,7 @@ public:
             if (!widget()->accessibleDescription().isEmpty())
                 return widget()->accessibleDescription();
             // Not the tool tip, which is the rich text of the screen tip.
-            return descriptionOf(action);
+            return ribbonDescription(action);
         case QAccessible::Accelerator:
             return action ? action->shortcut().toString(QKeySequence::NativeText) : QString();
         default:
@@ -233,7 +226,7 @@ public:
         if (t == QAccessible::Name && action)
             return ribbonShownText(action->text());
         if (t == QAccessible::Description)
-            return descriptionOf(action);
+            return ribbonDescription(action);
         return QAccessibleWidget::text(t);
     }
 };
@@ -260,7 +253,7 @@ public:
         if (t == QAccessible::Name)
             return ribbonShownText(wrapper()->categoryAction().text());
         if (t == QAccessible::Description)
-            return descriptionOf(&wrapper()->categoryAction());
+            return ribbonDescription(&wrapper()->categoryAction());
         return CommandAccessible::text(t);
     }
 
