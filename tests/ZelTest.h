@@ -8,8 +8,11 @@
 
 #include <QHBoxLayout>
 #include <QLineEdit>
+#include <QStackedWidget>
 #include <QWindow>
 #include <QtTest>
+
+#include <algorithm>
 
 // The number of widgets alive once the popups a test left open are closed and what was
 // deleted later is gone: cleanup() compares it with the number init() took.
@@ -73,6 +76,32 @@ inline bool zelPopupShown(QWidget *popup)
         return false;
     QCoreApplication::processEvents(); // usually enough, and much faster than a wait
     return (popup->windowHandle() && popup->windowHandle()->isExposed()) || QTest::qWaitForWindowExposed(popup);
+}
+
+// The page buttons of class B in parent, top to bottom; those checked; the page shown.
+template<class B>
+QList<B *> zelButtonsTopDown(const QObject *parent)
+{
+    QList<B *> list = parent->findChildren<B *>();
+    std::sort(list.begin(), list.end(), [](QWidget *a, QWidget *b) { return a->y() < b->y(); });
+    return list;
+}
+
+template<class B>
+QList<B *> zelCheckedButtons(const QObject *parent)
+{
+    QList<B *> checked;
+    for (B *button : zelButtonsTopDown<B>(parent)) {
+        if (button->isChecked())
+            checked << button;
+    }
+    return checked;
+}
+
+inline QWidget *zelCurrentPage(const QObject *parent)
+{
+    auto *stack = parent->findChild<QStackedWidget *>();
+    return stack ? stack->currentWidget() : nullptr;
 }
 
 #define ZEL_TEST_MAIN(TestObject)                                   \

@@ -17,8 +17,6 @@
 
 #include <QActionGroup>
 #include <QCursor>
-#include <QHBoxLayout>
-#include <QLineEdit>
 #include <QScrollBar>
 
 using namespace zel;
@@ -57,34 +55,19 @@ struct Gallery
 };
 
 // A window with a line edit (which has the focus) and a gallery.
-struct Host
+struct Host : ZelControlHost<RibbonCatListPreview>
 {
-    explicit Host(Menu &menu)
-    {
-        auto *layout = new QHBoxLayout(&window);
-        edit = new QLineEdit(&window);
-        gallery = new RibbonCatListPreview(menu, &window);
-        layout->addWidget(edit);
-        layout->addWidget(gallery);
-        window.show();
-        QApplication::setActiveWindow(&window);
-        edit->setFocus();
-    }
+    using ZelControlHost::ZelControlHost;
 
-    bool exposed() { return QTest::qWaitForWindowExposed(&window); }
-    QRect tile(int row) const { return gallery->visualItemRect(gallery->item(row)); }
+    QRect tile(int row) const { return button->visualItemRect(button->item(row)); }
 
     // Opens the full menu with the button under the scroll bar.
     RibbonViewPopup *openFullMenu() const
     {
-        QTest::mouseClick(gallery->popupButton(), Qt::LeftButton);
+        QTest::mouseClick(button->popupButton(), Qt::LeftButton);
         auto *popup = qobject_cast<RibbonViewPopup *>(QApplication::activePopupWidget());
         return zelPopupShown(popup) ? popup : nullptr;
     }
-
-    QWidget window;
-    QLineEdit *edit = nullptr;
-    RibbonCatListPreview *gallery = nullptr;
 };
 
 QList<QAction *> tileActions(const RibbonCatListPreview &gallery)
@@ -101,22 +84,17 @@ class tst_ListPreview : public QObject
 {
     Q_OBJECT
 
-    int m_topLevels = 0;
+    int m_widgets = 0;
 
 private slots:
     void init()
     {
-        m_topLevels = QApplication::topLevelWidgets().size();
+        m_widgets = QApplication::allWidgets().size();
         // Away from the test windows: a tile under the cursor shows a frame.
         QCursor::setPos(QPoint(790, 590));
     }
 
-    void cleanup()
-    {
-        if (QWidget *popup = QApplication::activePopupWidget())
-            popup->close();
-        QTRY_COMPARE(QApplication::topLevelWidgets().size(), m_topLevels);
-    }
+    void cleanup() { QTRY_COMPARE(zelWidgetsLeft(), m_widgets); }
 
     void widths_data()
     {
@@ -242,7 +220,7 @@ private slots:
         g.tiles[9]->setChecked(true);
         Host host(g.menu);
         QVERIFY(host.exposed());
-        RibbonCatListPreview &gallery = *host.gallery;
+        RibbonCatListPreview &gallery = *host.button;
         const QRect view = gallery.viewport()->rect();
         QVERIFY(view.contains(host.tile(9)));
         QCOMPARE(gallery.verticalScrollBar()->value(), 120); // the third row of four tiles
@@ -274,7 +252,7 @@ private slots:
         Gallery g(10);
         Host host(g.menu);
         QVERIFY(host.exposed());
-        auto *bar = qobject_cast<OfficeScrollBar *>(host.gallery->verticalScrollBar());
+        auto *bar = qobject_cast<OfficeScrollBar *>(host.button->verticalScrollBar());
         QVERIFY(bar);
         const QPoint up(8, 5), down(8, 35);
         QTest::mouseClick(bar, Qt::LeftButton, Qt::NoModifier, down);
@@ -312,17 +290,17 @@ private slots:
         QVERIFY(host.exposed());
         QSignalSpy second(g.tiles[1], &QAction::triggered);
         QSignalSpy third(g.tiles[2], &QAction::triggered);
-        QTest::mouseClick(host.gallery->viewport(), Qt::LeftButton, Qt::NoModifier, host.tile(1).topLeft() + offset);
+        QTest::mouseClick(host.button->viewport(), Qt::LeftButton, Qt::NoModifier, host.tile(1).topLeft() + offset);
         QCOMPARE(second.count(), 1);
         QCOMPARE(third.count(), 0);
-        QCOMPARE(host.gallery->item(1)->checkState(), Qt::Checked);
+        QCOMPARE(host.button->item(1)->checkState(), Qt::Checked);
         QCOMPARE(QApplication::focusWidget(), host.edit); // the gallery takes no focus
 
         // Clicks that name no tile, or a tile whose action has left the group, do nothing.
-        QVERIFY(QMetaObject::invokeMethod(host.gallery, "onItemClicked", Q_ARG(QListWidgetItem *, nullptr)));
+        QVERIFY(QMetaObject::invokeMethod(host.button, "onItemClicked", Q_ARG(QListWidgetItem *, nullptr)));
         QListWidgetItem stale;
         stale.setData(Qt::UserRole, QVariant::fromValue(qint64(quintptr(&stale))));
-        QVERIFY(QMetaObject::invokeMethod(host.gallery, "onItemClicked", Q_ARG(QListWidgetItem *, &stale)));
+        QVERIFY(QMetaObject::invokeMethod(host.button, "onItemClicked", Q_ARG(QListWidgetItem *, &stale)));
         QCOMPARE(second.count() + third.count(), 1);
     }
 
@@ -333,18 +311,18 @@ private slots:
         Gallery g(3);
         Host host(g.menu);
         QVERIFY(host.exposed());
-        IRibbonGroupWidget *group = IRibbonGroupWidget::groupWidget(host.gallery);
-        QCOMPARE(group, static_cast<IRibbonGroupWidget *>(host.gallery));
+        IRibbonGroupWidget *group = IRibbonGroupWidget::groupWidget(host.button);
+        QCOMPARE(group, static_cast<IRibbonGroupWidget *>(host.button));
         const QPoint at = host.tile(2).center();
         QMouseEvent move(QEvent::MouseMove, at, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
         QEvent fake(QEvent::MouseButtonPress);
         for (QEvent *event : {static_cast<QEvent *>(&move), &fake, static_cast<QEvent *>(nullptr)})
             group->processEvents(event);
-        QVERIFY(host.gallery->selectedItems().isEmpty());
+        QVERIFY(host.button->selectedItems().isEmpty());
         QMouseEvent press(QEvent::MouseButtonPress, at, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
         group->processEvents(&press);
-        QCOMPARE(host.gallery->selectedItems(), QList<QListWidgetItem *>{host.gallery->item(2)});
-        QTest::mouseRelease(host.gallery->viewport(), Qt::LeftButton, Qt::NoModifier, at);
+        QCOMPARE(host.button->selectedItems(), QList<QListWidgetItem *>{host.button->item(2)});
+        QTest::mouseRelease(host.button->viewport(), Qt::LeftButton, Qt::NoModifier, at);
     }
 
     // The button under the scroll bar opens the full menu over the gallery; the focus comes
@@ -357,7 +335,7 @@ private slots:
         QVERIFY(host.exposed());
         QPointer<RibbonViewPopup> popup = host.openFullMenu();
         QVERIFY(popup);
-        QCOMPARE(popup->pos(), host.gallery->mapToGlobal(QPoint(-1, -1)));
+        QCOMPARE(popup->pos(), host.button->mapToGlobal(QPoint(-1, -1)));
         QCOMPARE(popup->width(), 259);
         QCOMPARE(popup->buttons().size(), 11); // the top command and every tile
         QTest::keyClick(popup, Qt::Key_Escape);
@@ -373,7 +351,7 @@ private slots:
         QCOMPARE(eighth.count(), 1);
         QTRY_VERIFY(!popup);
         QTRY_COMPARE(QApplication::focusWidget(), host.edit);
-        QVERIFY(host.gallery->viewport()->rect().contains(host.tile(7))); // now checked, in view
+        QVERIFY(host.button->viewport()->rect().contains(host.tile(7))); // now checked, in view
 
         // A gallery narrower than the popup's grid does not squeeze the popup.
         Gallery narrow(6, 1);

@@ -1,21 +1,18 @@
-// Simple, string and menu actions: activation relay, default and checked items,
+// Simple, string and menu actions: default and checked items,
 // enabling, filling menus and view popups, and lifetimes of items.
 
 #include "ZelTest.h"
 
 #include "RibbonCatMenuAction.h"
 #include "RibbonCatSimpleAction.h"
-#include "RibbonCatSimpleButton.h"
 #include "RibbonMenuAction.h"
 #include "RibbonSimpleAction.h"
 #include "RibbonStringAction.h"
-#include "RibbonTextAction.h"
 #include "RibbonViewButton.h"
 #include "RibbonViewPopup.h"
 
 #include <QMenu>
 #include <QPointer>
-#include <QToolBar>
 
 using namespace zel;
 
@@ -55,9 +52,6 @@ class tst_MenuActions : public QObject
     Q_OBJECT
 
 private slots:
-    void activationRelay_data();
-    void activationRelay();
-    void catSimpleActionMakesButtonOnlyInToolBar();
     void itemsAndDefault();
     void exclusive();
     void checkedActionAndToBeToggled_data();
@@ -67,54 +61,6 @@ private slots:
     void deleteItemsThenMenu();
     void deleteItemInsideOwnTriggeredHandler();
 };
-
-void tst_MenuActions::activationRelay_data()
-{
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<int>("expected");
-    QTest::newRow("simple") << 0 << 1;
-    QTest::newRow("category simple (relay made twice)") << 1 << 1;
-    QTest::newRow("text") << 2 << 1;
-    QTest::newRow("string") << 3 << 0;
-}
-
-void tst_MenuActions::activationRelay()
-{
-    QFETCH(int, kind);
-    QFETCH(int, expected);
-    QScopedPointer<RibbonAction> item;
-    switch (kind) {
-    case 0: item.reset(new RibbonSimpleAction(nullptr)); break;
-    case 1: item.reset(new RibbonCatSimpleAction(RibbonCatSimpleAction::SizeMedium, nullptr)); break;
-    case 2: item.reset(new RibbonTextAction(nullptr)); break;
-    case 3: item.reset(new RibbonStringAction(nullptr)); break;
-    }
-    // A menu announces every item trigger, an activation only for items that have one
-    // and never for its own trigger.
-    RibbonMenuAction menu(nullptr);
-    QSignalSpy menuActivated(&menu, &RibbonAction::ribbonActionActivated);
-    menu.trigger();
-    menu.addAction(item.data(), false);
-    QSignalSpy activated(item.data(), &RibbonAction::ribbonActionActivated);
-    QSignalSpy triggered(&menu, itemTriggered);
-    item->trigger();
-    QCOMPARE(activated.count(), expected);
-    QCOMPARE(menuActivated.count(), expected);
-    QCOMPARE(triggered.count(), 1);
-    QCOMPARE(triggered.at(0).at(0).value<RibbonAction *>(), item.data());
-}
-
-void tst_MenuActions::catSimpleActionMakesButtonOnlyInToolBar()
-{
-    RibbonCatSimpleAction action(RibbonCatSimpleAction::SizeSmall, nullptr);
-    QWidget plain;
-    plain.addAction(&action);
-    QVERIFY(!action.requestWidget(&plain));
-
-    QToolBar bar;
-    bar.addAction(&action);
-    QVERIFY(qobject_cast<RibbonCatSimpleButton *>(bar.widgetForAction(&action)));
-}
 
 void tst_MenuActions::itemsAndDefault()
 {

@@ -76,24 +76,20 @@ private slots:
     void cleanup();
 
     void construction();
-    void firstPageIsCurrent();
     void setCurrentPage_data();
     void setCurrentPage();
-    void removeOptionsPageKeepsEverything();
-    void strangersAreIgnored();
-    void okAndCancelReachDialogThenPages_data();
-    void okAndCancelReachDialogThenPages();
-    void escapeAndCloseReachOnlyTheDialog_data();
-    void escapeAndCloseReachOnlyTheDialog();
+    void strangersAndRemovalsKeepEveryPage();
+    void closingReachesDialogThenPages_data();
+    void closingReachesDialogThenPages();
     void buttonSizeHint_data();
     void buttonSizeHint();
     void buttonLooks();
 
 private:
     RecordingPage *addPage(const QString &title);
-    QList<RibbonOptionsButton *> buttons() const;
-    QList<RibbonOptionsButton *> checkedButtons() const;
-    QWidget *currentPage() const;
+    QList<RibbonOptionsButton *> buttons() const { return zelButtonsTopDown<RibbonOptionsButton>(m_dialog); }
+    QList<RibbonOptionsButton *> checkedButtons() const { return zelCheckedButtons<RibbonOptionsButton>(m_dialog); }
+    QWidget *currentPage() const { return zelCurrentPage(m_dialog); }
     QPushButton *boxButton(QDialogButtonBox::ButtonRole role) const;
 
     std::unique_ptr<RibbonMainWindow> m_window;
@@ -123,29 +119,6 @@ RecordingPage *tst_OptionsDialog::addPage(const QString &title)
     m_dialog->addOptionsPage(page);
     m_pages.append(page);
     return page;
-}
-
-QList<RibbonOptionsButton *> tst_OptionsDialog::buttons() const
-{
-    QList<RibbonOptionsButton *> list = m_dialog->findChildren<RibbonOptionsButton *>();
-    std::sort(list.begin(), list.end(), [](QWidget *a, QWidget *b) { return a->y() < b->y(); });
-    return list;
-}
-
-QList<RibbonOptionsButton *> tst_OptionsDialog::checkedButtons() const
-{
-    QList<RibbonOptionsButton *> checked;
-    for (RibbonOptionsButton *button : m_dialog->findChildren<RibbonOptionsButton *>()) {
-        if (button->isChecked())
-            checked.append(button);
-    }
-    return checked;
-}
-
-QWidget *tst_OptionsDialog::currentPage() const
-{
-    auto *stack = m_dialog->findChild<QStackedWidget *>();
-    return stack ? stack->currentWidget() : nullptr;
 }
 
 QPushButton *tst_OptionsDialog::boxButton(QDialogButtonBox::ButtonRole role) const
@@ -191,25 +164,6 @@ void tst_OptionsDialog::construction()
     QCOMPARE(page->palette().color(QPalette::Disabled, QPalette::Window), QColor(Qt::white));
 }
 
-void tst_OptionsDialog::firstPageIsCurrent()
-{
-    QCOMPARE(currentPage(), nullptr);
-    RecordingPage *general = addPage(QStringLiteral("General"));
-    QCOMPARE(currentPage(), general);
-    QCOMPARE(checkedButtons().size(), 1);
-    QCOMPARE(checkedButtons().first()->text(), QStringLiteral("General"));
-    addPage(QStringLiteral("View"));
-    addPage(QStringLiteral("Advanced"));
-    QCOMPARE(currentPage(), general);
-    QCOMPARE(checkedButtons().size(), 1);
-    QCOMPARE(checkedButtons().first()->text(), QStringLiteral("General"));
-    QStringList texts;
-    for (RibbonOptionsButton *button : buttons())
-        texts.append(button->text());
-    QCOMPARE(texts, (QStringList{QStringLiteral("General"), QStringLiteral("View"), QStringLiteral("Advanced")}));
-    QVERIFY(m_log.isEmpty());
-}
-
 void tst_OptionsDialog::setCurrentPage_data()
 {
     QTest::addColumn<int>("target"); // index of a page, -1 never added, -2 null
@@ -225,8 +179,15 @@ void tst_OptionsDialog::setCurrentPage()
 {
     QFETCH(int, target);
     QFETCH(int, expected);
+    // The first page added is current; later ones leave it so.
+    QCOMPARE(currentPage(), nullptr);
     for (const char *title : {"General", "View", "Advanced"})
         addPage(QString::fromLatin1(title));
+    QCOMPARE(currentPage(), m_pages.at(0));
+    QStringList texts;
+    for (RibbonOptionsButton *button : buttons())
+        texts.append(button->text());
+    QCOMPARE(texts, (QStringList{"General", "View", "Advanced"}));
     RecordingPage stranger(*m_dialog, QStringLiteral("Stranger"), m_log);
     RibbonOptionsPage *page = target >= 0 ? m_pages.at(target) : target == -1 ? &stranger : nullptr;
 
@@ -235,12 +196,22 @@ void tst_OptionsDialog::setCurrentPage()
     QCOMPARE(currentPage(), m_pages.at(expected));
     QCOMPARE(checkedButtons(), QList<RibbonOptionsButton *>{buttons().at(expected)});
     QCOMPARE(clicked.count(), 0); // checked, not clicked
+    QVERIFY(m_log.isEmpty());
 }
 
-void tst_OptionsDialog::removeOptionsPageKeepsEverything()
+// Pages are never removed, and a page added twice, a null one or one of another dialog is
+// ignored: each page hears OK exactly once, the current page stays.
+void tst_OptionsDialog::strangersAndRemovalsKeepEveryPage()
 {
-    addPage(QStringLiteral("General"));
+    RecordingPage *general = addPage(QStringLiteral("General"));
     addPage(QStringLiteral("View"));
+    m_dialog->addOptionsPage(general);
+    m_dialog->addOptionsPage(nullptr);
+    RibbonMainWindow otherWindow;
+    RecordingDialog other(otherWindow, m_log);
+    auto *foreign = new RecordingPage(other, QStringLiteral("Foreign"), m_log);
+    m_dialog->addOptionsPage(foreign);
+    QCOMPARE(foreign->parentWidget(), &other);
     m_dialog->setCurrentPage(m_pages.at(1));
     m_dialog->removeOptionsPage(m_pages.at(1));
     m_dialog->removeOptionsPage(m_pages.at(0));
@@ -249,74 +220,47 @@ void tst_OptionsDialog::removeOptionsPageKeepsEverything()
     QCOMPARE(m_dialog->findChild<QStackedWidget *>()->count(), 2);
     QCOMPARE(currentPage(), m_pages.at(1));
     QCOMPARE(checkedButtons(), QList<RibbonOptionsButton *>{buttons().at(1)});
-    // The pages still hear OK.
     boxButton(QDialogButtonBox::AcceptRole)->click();
-    QCOMPARE(m_log, (QStringList{QStringLiteral("dialog accept"), QStringLiteral("General accept"),
-                                 QStringLiteral("View accept")}));
+    QCOMPARE(m_log, (QStringList{"dialog accept", "General accept", "View accept"}));
 }
 
-void tst_OptionsDialog::strangersAreIgnored()
+void tst_OptionsDialog::closingReachesDialogThenPages_data()
 {
-    RecordingPage *general = addPage(QStringLiteral("General"));
-    m_dialog->addOptionsPage(general);
-    m_dialog->addOptionsPage(nullptr);
-    RibbonMainWindow otherWindow;
-    RecordingDialog other(otherWindow, m_log);
-    auto *foreign = new RecordingPage(other, QStringLiteral("Foreign"), m_log);
-    m_dialog->addOptionsPage(foreign);
-    QCOMPARE(buttons().size(), 1);
-    QCOMPARE(foreign->parentWidget(), &other);
-
-    // Added twice, it would hear OK twice.
-    boxButton(QDialogButtonBox::AcceptRole)->click();
-    QCOMPARE(m_log, (QStringList{QStringLiteral("dialog accept"), QStringLiteral("General accept")}));
+    QTest::addColumn<int>("how");
+    QTest::addColumn<bool>("pagesHear");
+    QTest::newRow("OK") << 0 << true;
+    QTest::newRow("Cancel") << 1 << true;
+    QTest::newRow("Escape") << 2 << false;
+    QTest::newRow("close") << 3 << false;
 }
 
-void tst_OptionsDialog::okAndCancelReachDialogThenPages_data()
+// OK and Cancel reach the dialog first, then each page in the order the pages were added
+// (not the order of the buttons on screen, nor the current page first); Escape and
+// close() reach only the dialog.
+void tst_OptionsDialog::closingReachesDialogThenPages()
 {
-    QTest::addColumn<bool>("ok");
-    QTest::newRow("OK") << true;
-    QTest::newRow("Cancel") << false;
-}
-
-// The dialog first, then each page in the order the pages were added (not the order of
-// the buttons on screen, nor of the current page).
-void tst_OptionsDialog::okAndCancelReachDialogThenPages()
-{
-    QFETCH(bool, ok);
+    QFETCH(int, how);
+    QFETCH(bool, pagesHear);
     for (const char *title : {"General", "View", "Advanced"})
         addPage(QString::fromLatin1(title));
     m_dialog->setCurrentPage(m_pages.at(2));
     m_dialog->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_dialog));
-    QTest::mouseClick(boxButton(ok ? QDialogButtonBox::AcceptRole : QDialogButtonBox::RejectRole), Qt::LeftButton);
-    const QString verb = ok ? QStringLiteral(" accept") : QStringLiteral(" reject");
-    QCOMPARE(m_log, (QStringList{QStringLiteral("dialog") + verb, QStringLiteral("General") + verb,
-                                 QStringLiteral("View") + verb, QStringLiteral("Advanced") + verb}));
-    QCOMPARE(m_dialog->result(), ok ? int(QDialog::Accepted) : int(QDialog::Rejected));
-    QVERIFY(!m_dialog->isVisible());
-}
-
-void tst_OptionsDialog::escapeAndCloseReachOnlyTheDialog_data()
-{
-    QTest::addColumn<bool>("escape");
-    QTest::newRow("Escape") << true;
-    QTest::newRow("close") << false;
-}
-
-void tst_OptionsDialog::escapeAndCloseReachOnlyTheDialog()
-{
-    QFETCH(bool, escape);
-    addPage(QStringLiteral("General"));
-    addPage(QStringLiteral("View"));
-    m_dialog->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_dialog));
-    if (escape)
+    if (how == 0 || how == 1)
+        QTest::mouseClick(boxButton(how == 0 ? QDialogButtonBox::AcceptRole : QDialogButtonBox::RejectRole),
+                          Qt::LeftButton);
+    else if (how == 2)
         QTest::keyClick(m_dialog, Qt::Key_Escape);
     else
         m_dialog->close();
-    QCOMPARE(m_log, QStringList{QStringLiteral("dialog reject")});
-    QCOMPARE(m_dialog->result(), int(QDialog::Rejected));
+    const QString verb = how == 0 ? QStringLiteral(" accept") : QStringLiteral(" reject");
+    QStringList expected{QStringLiteral("dialog") + verb};
+    if (pagesHear) {
+        for (const char *title : {"General", "View", "Advanced"})
+            expected << QLatin1String(title) + verb;
+    }
+    QCOMPARE(m_log, expected);
+    QCOMPARE(m_dialog->result(), how == 0 ? int(QDialog::Accepted) : int(QDialog::Rejected));
     QVERIFY(!m_dialog->isVisible());
 }
 

@@ -70,6 +70,17 @@ class tst_RibbonMainWindow : public QObject
             QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
         }
     }
+    // A contextual set of one tab, registered and shown on the ribbon bar.
+    void showContextSet(const QColor &background)
+    {
+        auto *set = new RibbonContextCategoryPanelAction(background, QColor(200, 0, 0), QColor(0, 0, 120),
+                                                         m_owner.get());
+        set->setText(QStringLiteral("Picture Tools"));
+        set->addPanelAction(new RibbonCategoriesPanelAction(QStringLiteral("Format"), m_owner.get()));
+        RibbonMenuBar &bar = m_window->ribbonMenuBar();
+        bar.ribbonContextCategoryPanel().addContextPanelAction(set);
+        bar.showContextPanelAction(set);
+    }
     QWidget *child(const char *name) const { return m_window->findChild<QWidget *>(QLatin1String(name)); }
     QPoint caption() const { return QPoint(m_window->width() / 2, m_window->frameMargin() + 5); }
     QImage grabbed() const
@@ -328,27 +339,6 @@ private slots:
         QCOMPARE(w.hitTest(w.mapToGlobal(QPoint(-20, 5))), RibbonMainWindow::HitClient);
     }
 
-    void captionDrag()
-    {
-        buildWindow();
-        RibbonMainWindow &w = *m_window;
-        QWidget *tabButton = w.ribbonMenuBar().menuBarButton(m_tab);
-        // The test platform declines to move windows, so the window follows the mouse itself.
-        const QPoint start = w.pos();
-        QTest::mousePress(&w, Qt::LeftButton, Qt::NoModifier, caption());
-        const QPoint to = w.mapToGlobal(caption()) + QPoint(30, 40);
-        moveMouse(&w, to, Qt::LeftButton);
-        QTRY_COMPARE(w.pos(), start + QPoint(30, 40));
-        QTest::mouseRelease(&w, Qt::LeftButton, Qt::NoModifier, w.mapFromGlobal(to));
-        // After the release, or with the press on a tab button, the mouse moves nothing.
-        moveMouse(&w, to + QPoint(50, 50));
-        QTest::mousePress(tabButton, Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));
-        moveMouse(tabButton, tabButton->mapToGlobal(QPoint(60, 60)), Qt::LeftButton);
-        QTest::mouseRelease(tabButton, Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));
-        QCoreApplication::processEvents();
-        QCOMPARE(w.pos(), start + QPoint(30, 40));
-    }
-
     // A click on the title row is no drag. Under a window manager, a move handed over on
     // the press waits for a release that has already happened and carries the window
     // along until the next click, which it swallows.
@@ -398,6 +388,17 @@ private slots:
         moveMouse(&w, press + QPoint(30, 40), Qt::LeftButton);
         QTRY_COMPARE(w.pos(), systemMoves ? start : start + QPoint(30, 40));
         QTest::mouseRelease(&w, Qt::LeftButton, Qt::NoModifier, w.mapFromGlobal(press + QPoint(30, 40)));
+        if (system)
+            QCOMPARE(system->requests.size(), 1);
+        // After the release, or with the press on a tab button, the mouse moves nothing.
+        const QPoint at = w.pos();
+        moveMouse(&w, press + QPoint(80, 90));
+        QWidget *tabButton = w.ribbonMenuBar().menuBarButton(m_tab);
+        QTest::mousePress(tabButton, Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));
+        moveMouse(tabButton, tabButton->mapToGlobal(QPoint(60, 60)), Qt::LeftButton);
+        QTest::mouseRelease(tabButton, Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));
+        QCoreApplication::processEvents();
+        QCOMPARE(w.pos(), at);
         if (system)
             QCOMPARE(system->requests.size(), 1);
     }
@@ -577,15 +578,9 @@ private slots:
     {
         buildWindow();
         const QColor background(255, 200, 0);
-        auto *set = new RibbonContextCategoryPanelAction(background, QColor(200, 0, 0), QColor(0, 0, 120),
-                                                         m_owner.get());
-        set->setText(QStringLiteral("Picture Tools"));
-        set->addPanelAction(new RibbonCategoriesPanelAction(QStringLiteral("Format"), m_owner.get()));
-        RibbonMenuBar &bar = m_window->ribbonMenuBar();
-        bar.ribbonContextCategoryPanel().addContextPanelAction(set);
-        bar.showContextPanelAction(set);
+        showContextSet(background);
         QRect band;
-        bar.displayedContextPanelRect(band);
+        m_window->ribbonMenuBar().displayedContextPanelRect(band);
         const QRect local(m_window->mapFromGlobal(band.topLeft()), band.size());
         const QImage image = grabbed();
         // The band in the title row, its top line in the set's line colour.
@@ -606,15 +601,8 @@ private slots:
         for (const char *name : {"Insert", "Design", "Layout", "References", "Mailings", "Review", "View"})
             m_window->ribbonMenuBar().addAction(new RibbonCategoriesPanelAction(QLatin1String(name), m_owner.get()));
         const QColor background(255, 200, 0);
-        auto *set = new RibbonContextCategoryPanelAction(background, QColor(200, 0, 0), QColor(0, 0, 120),
-                                                         m_owner.get());
-        set->setText(QStringLiteral("Table Tools"));
-        set->addPanelAction(new RibbonCategoriesPanelAction(QStringLiteral("Format"), m_owner.get()));
-        RibbonMenuBar &bar = m_window->ribbonMenuBar();
-        bar.ribbonContextCategoryPanel().addContextPanelAction(set);
-        bar.showContextPanelAction(set);
-        QWidget *minimize = m_window->findChild<QWidget *>(QStringLiteral("minimizeButton"));
-        QVERIFY(minimize);
+        showContextSet(background);
+        QWidget *minimize = child("minimizeButton");
         for (const int width : {900, 700, 560, 420, 300}) {
             m_window->resize(width, 400);
             QTRY_VERIFY(minimize->mapTo(m_window.get(), QPoint()).x() < m_window->width() - 40);
@@ -641,10 +629,7 @@ private slots:
         m_window.reset();
         QVERIFY(tab && !central);
         QVERIFY(m_tab->associatedWidgets().isEmpty());
-    }
 
-    void modelDeletedFirst()
-    {
         // A model deleted first takes its widgets along; the window keeps working without it.
         buildWindow();
         QPointer<RibbonMenuBarButton> tabButton = m_window->ribbonMenuBar().menuBarButton(m_tab);

@@ -1077,10 +1077,12 @@ bool opState(Soak &s)
         NOTE("%s.setIcon", N(action));
         action->setIcon(s.icon());
         break;
-    case 6:
-        NOTE("%s.setVisible(%d)", N(action), flag || s.chance(50));
-        action->setVisible(flag || s.chance(50));
+    case 6: {
+        const bool visible = flag || s.chance(50); // drawn once, so that the log says what was done
+        NOTE("%s.setVisible(%d)", N(action), visible);
+        action->setVisible(visible);
         break;
+    }
     case 7:
         NOTE("%s.hover()", N(action));
         action->hover();
@@ -1316,32 +1318,23 @@ bool opUser(Soak &s)
         return false;
     QWidget *widget = widgets.at(s.bounded(widgets.size()));
     const QPoint at = s.pointIn(widget);
-    switch (s.bounded(6)) {
-    case 0:
-    case 1:
-        NOTE("click a %s at %d,%d", widget->metaObject()->className(), at.x(), at.y());
-        s.mouse(widget, QTest::MouseClick, at);
-        break;
-    case 2:
-        NOTE("press a %s at %d,%d", widget->metaObject()->className(), at.x(), at.y());
-        s.mouse(widget, QTest::MousePress, at);
-        break;
-    case 3:
-        NOTE("release on a %s at %d,%d", widget->metaObject()->className(), at.x(), at.y());
-        s.mouse(widget, QTest::MouseRelease, at);
-        break;
-    case 4:
-        NOTE("double-click a %s at %d,%d", widget->metaObject()->className(), at.x(), at.y());
-        s.mouse(widget, QTest::MouseDClick, at);
-        break;
-    default: {
-        static const Qt::Key keys[] = {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Down, Qt::Key_Space, Qt::Key_A};
-        const Qt::Key key = keys[s.bounded(5)];
-        QWidget *target = QApplication::activePopupWidget() ? QApplication::activePopupWidget() : widget;
-        NOTE("key %d on a %s", int(key), target->metaObject()->className());
-        s.key(target, key, key == Qt::Key_A ? QStringLiteral("a") : QString());
+    static const struct
+    {
+        const char *verb;
+        QTest::MouseAction action;
+    } mice[] = {{"click", QTest::MouseClick}, {"click", QTest::MouseClick}, {"press", QTest::MousePress},
+                {"release on", QTest::MouseRelease}, {"double-click", QTest::MouseDClick}};
+    const int choice = s.bounded(6);
+    if (choice < 5) {
+        NOTE("%s a %s at %d,%d", mice[choice].verb, widget->metaObject()->className(), at.x(), at.y());
+        s.mouse(widget, mice[choice].action, at);
+        return true;
     }
-    }
+    static const Qt::Key keys[] = {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Down, Qt::Key_Space, Qt::Key_A};
+    const Qt::Key key = keys[s.bounded(5)];
+    QWidget *target = QApplication::activePopupWidget() ? QApplication::activePopupWidget() : widget;
+    NOTE("key %d on a %s", int(key), target->metaObject()->className());
+    s.key(target, key, key == Qt::Key_A ? QStringLiteral("a") : QString());
     return true;
 }
 

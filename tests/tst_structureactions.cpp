@@ -10,8 +10,10 @@
 #include "RibbonCategoryAction.h"
 #include "RibbonContextCategoryPanel.h"
 #include "RibbonContextCategoryPanelAction.h"
+#include "RibbonMenuAction.h"
 #include "RibbonSimpleAction.h"
 #include "RibbonStringAction.h"
+#include "RibbonTextAction.h"
 
 #include <QActionEvent>
 #include <QPointer>
@@ -191,36 +193,60 @@ void tst_StructureActions::categoryMembersAndRows()
 
 void tst_StructureActions::containerRelaysActivationOnce_data()
 {
-    QTest::addColumn<bool>("inGroup");
-    QTest::addColumn<int>("kind");
+    QTest::addColumn<int>("container"); // 0 category, 1 button group, 2 menu
+    QTest::addColumn<int>("kind");      // 0 simple, 1 category command, 2 text, 3 string
     QTest::addColumn<int>("expected");
-    QTest::newRow("category: simple action") << false << 0 << 1;
-    QTest::newRow("category: category command") << false << 1 << 1;
-    QTest::newRow("category: string action") << false << 2 << 0;
-    QTest::newRow("group: simple action") << true << 0 << 1;
+    QTest::newRow("category: simple action") << 0 << 0 << 1;
+    QTest::newRow("category: category command") << 0 << 1 << 1;
+    QTest::newRow("category: string action") << 0 << 3 << 0;
+    QTest::newRow("group: simple action") << 1 << 0 << 1;
+    QTest::newRow("menu: simple action") << 2 << 0 << 1;
+    QTest::newRow("menu: category command (relay made twice)") << 2 << 1 << 1;
+    QTest::newRow("menu: text action") << 2 << 2 << 1;
+    QTest::newRow("menu: string action") << 2 << 3 << 0;
 }
 
+// A member's trigger reaches its container as one activation, only for members that have
+// one; a menu announces every item trigger, never its own. A removed member relays nothing.
 void tst_StructureActions::containerRelaysActivationOnce()
 {
-    QFETCH(bool, inGroup);
+    QFETCH(int, container);
     QFETCH(int, kind);
     QFETCH(int, expected);
     QScopedPointer<RibbonAction> command;
     switch (kind) {
     case 0: command.reset(new RibbonSimpleAction(nullptr)); break;
     case 1: command.reset(new RibbonCatSimpleAction(RibbonCatSimpleAction::SizeSmall, nullptr)); break;
-    case 2: command.reset(new RibbonStringAction(nullptr)); break;
+    case 2: command.reset(new RibbonTextAction(nullptr)); break;
+    case 3: command.reset(new RibbonStringAction(nullptr)); break;
     }
     RibbonCategoryAction category(nullptr);
     RibbonCatActionGroup group(nullptr);
-    RibbonAction *container = inGroup ? static_cast<RibbonAction *>(&group) : &category;
-    inGroup ? group.addAction(command.data(), false) : category.addAction(command.data(), 0);
-    QSignalSpy activated(container, &RibbonAction::ribbonActionActivated);
+    RibbonMenuAction menu(nullptr);
+    const auto setMember = [&](bool add) {
+        if (container == 0)
+            add ? category.addAction(command.data(), 0) : category.removeAction(command.data());
+        else if (container == 1)
+            add ? group.addAction(command.data(), false) : group.removeAction(command.data());
+        else
+            add ? menu.addAction(command.data(), false) : menu.removeAction(command.data());
+    };
+    RibbonAction *containers[] = {&category, &group, &menu};
+    QSignalSpy activated(containers[container], &RibbonAction::ribbonActionActivated);
+    using ItemTriggered = void (RibbonMenuAction::*)(RibbonAction *);
+    QSignalSpy itemTriggered(&menu, ItemTriggered(&RibbonMenuAction::triggered));
+    menu.trigger();
+    setMember(true);
+    QSignalSpy ownActivated(command.data(), &RibbonAction::ribbonActionActivated);
     command->trigger();
     QCOMPARE(activated.count(), expected);
+    QCOMPARE(ownActivated.count(), expected);
+    if (container == 2) {
+        QCOMPARE(itemTriggered.count(), 1);
+        QCOMPARE(itemTriggered.at(0).at(0).value<RibbonAction *>(), command.data());
+    }
 
-    // A removed member relays nothing.
-    inGroup ? group.removeAction(command.data()) : category.removeAction(command.data());
+    setMember(false);
     command->trigger();
     QCOMPARE(activated.count(), expected);
 }

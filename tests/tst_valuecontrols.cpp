@@ -3,12 +3,16 @@
 
 #include "RibbonCatCheckBox.h"
 #include "RibbonCatCheckBoxAction.h"
+#include "RibbonCatColorMenuAction.h"
+#include "RibbonCatColorMenuButton.h"
 #include "RibbonCatComboAction.h"
 #include "RibbonCatComboComboBox.h"
 #include "RibbonCatComboWidget.h"
 #include "RibbonCatFontFamilyAction.h"
 #include "RibbonCatFontFamilyComboBox.h"
 #include "RibbonCatFontSizeAction.h"
+#include "RibbonCatSimpleAction.h"
+#include "RibbonCatSimpleButton.h"
 #include "RibbonScale_p.h"
 #include "RibbonStyle.h"
 
@@ -296,20 +300,26 @@ private slots:
         QVERIFY(bare.sizeHint().width() >= 48);
     }
 
+    // A tool bar gets a ribbon widget for each of these commands; a plain widget, or none,
+    // gets nothing.
     void toolBarsGetWidgetsOthersDoNot()
     {
+        RibbonCatSimpleAction simple(RibbonCatSimpleAction::SizeSmall, nullptr);
+        RibbonCatColorMenuAction colour(QIcon(), QStringLiteral("Font Color"), RibbonCatColorMenuAction::ColorSizeSmall,
+                                        nullptr);
         RibbonCatComboAction combo(nullptr);
         RibbonCatFontFamilyAction family(QFont(), nullptr);
         RibbonCatFontSizeAction size(11, nullptr);
         QToolBar bar;
-        bar.addActions({&combo, &family, &size});
+        bar.addActions({&simple, &colour, &combo, &family, &size});
+        QVERIFY(qobject_cast<RibbonCatSimpleButton *>(bar.widgetForAction(&simple)));
+        QVERIFY(qobject_cast<RibbonCatColorMenuButton *>(bar.widgetForAction(&colour)));
         QVERIFY(qobject_cast<RibbonCatComboComboBox *>(bar.widgetForAction(&combo)));
         QVERIFY(qobject_cast<RibbonCatFontFamilyComboBox *>(bar.widgetForAction(&family)));
         QVERIFY(qobject_cast<QComboBox *>(bar.widgetForAction(&size)));
         QWidget plain;
-        QCOMPARE(combo.createWidget(&plain), nullptr);
-        QCOMPARE(family.createWidget(&plain), nullptr);
-        QCOMPARE(size.createWidget(&plain), nullptr);
+        for (QWidgetAction *action : std::initializer_list<QWidgetAction *>{&simple, &colour, &combo, &family, &size})
+            QCOMPARE(action->requestWidget(&plain), nullptr);
         QCOMPARE(combo.createWidget(nullptr), nullptr);
     }
 

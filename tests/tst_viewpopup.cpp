@@ -13,7 +13,6 @@
 #include <QCursor>
 #include <QFrame>
 #include <QGridLayout>
-#include <QHBoxLayout>
 #include <QLineEdit>
 
 using namespace zel;
@@ -93,25 +92,19 @@ class tst_ViewPopup : public QObject
 {
     Q_OBJECT
 
-    int m_topLevels = 0;
+    int m_widgets = 0;
 
 private slots:
     void initTestCase() { qRegisterMetaType<RibbonSimpleAction *>("RibbonSimpleAction*"); }
 
     void init()
     {
-        m_topLevels = QApplication::topLevelWidgets().size();
+        m_widgets = QApplication::allWidgets().size();
         // Away from where the popups open: an entry under the cursor shows the marker.
         QCursor::setPos(QPoint(790, 590));
     }
 
-    void cleanup()
-    {
-        if (QWidget *popup = QApplication::activePopupWidget())
-            popup->close();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QTRY_COMPARE(QApplication::topLevelWidgets().size(), m_topLevels);
-    }
+    void cleanup() { QTRY_COMPARE(zelWidgetsLeft(), m_widgets); }
 
     void gridWithoutGaps_data()
     {
@@ -410,16 +403,10 @@ private slots:
         RibbonSimpleAction *options = a.add(QStringLiteral("Options..."));
         layout.addBottomAction(options);
         layout.iconActionGroup()->addAction(a.add(QStringLiteral("Page")));
-        QWidget window;
-        auto *row = new QHBoxLayout(&window);
-        auto *edit = new QLineEdit(&window);
-        auto *button = new RibbonCatMenuButton(layout, &window);
-        row->addWidget(edit);
-        row->addWidget(button);
-        window.show();
-        QApplication::setActiveWindow(&window);
-        edit->setFocus();
-        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        ZelControlHost<RibbonCatMenuButton> host(layout);
+        QVERIFY(host.exposed());
+        RibbonCatMenuButton *button = host.button;
+        QLineEdit *edit = host.edit;
 
         const auto open = [button] {
             QTest::mousePress(button, Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));
