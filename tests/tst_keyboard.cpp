@@ -26,6 +26,7 @@
 #include "RibbonPercWidget.h"
 #include "RibbonStatusBar.h"
 #include "BackstageView.h"
+#include "BackstageWelcomeScreen.h"
 #include "RibbonSimpleAction.h"
 
 #include <QLineEdit>
@@ -151,11 +152,13 @@ private slots:
     void keyTipsShowAndHide();
     void keyTipsThroughTabToCommand();
     void keyTipsInFoldedCategory();
+    void keyTipsInCollapsedRibbon();
     void keyTipsDoNotOverlap();
 
     void arrowNavigation();
     void accessibleNames();
     void backstageByKeyboard();
+    void welcomeScreenByKeyboard();
     void screenTip_data();
     void screenTip();
     void screenTipOnControls();
@@ -637,6 +640,41 @@ void tst_Keyboard::keyTipsInFoldedCategory()
     f.window.reset();
 }
 
+void tst_Keyboard::keyTipsInCollapsedRibbon()
+{
+    // Collapsed, a tab's letters open the tab's panel as a popup and letter its commands
+    // there.
+    Fixture f;
+    f.bar().setMinimizeRibbon(true);
+    QVERIFY(f.show());
+    RibbonKeyTips &keyTips = keyTipsOf(f);
+    RibbonCategoryPanels *panels = f.bar().categoryPanels()->subject();
+    QSignalSpy table(f.tables->actions().at(0), &QAction::triggered);
+
+    pressAlt(f.edit);
+    QTest::keyClick(f.edit, Qt::Key_I);
+    QCOMPARE(keyTips.depth(), 2);
+    QTRY_VERIFY(panels->isWindow() && panels->isVisible());
+    QVERIFY(zelPopupShown(panels));
+    const QString keys = keysByCaption(keyTips).value(QStringLiteral("Table"));
+    QCOMPARE(keys, QStringLiteral("T"));
+    for (const RibbonKeyTip &tip : keyTips.tips())
+        QCOMPARE(tip.widget->window(), panels);
+
+    // Escape closes the popup and goes back to the tabs.
+    QTest::keyClick(keyReceiver(f), Qt::Key_Escape);
+    QCOMPARE(keyTips.depth(), 1);
+    QTRY_VERIFY(!panels->isVisible());
+
+    QTest::keyClick(keyReceiver(f), Qt::Key_I);
+    QTRY_VERIFY(panels->isVisible());
+    typeKeys(keyReceiver(f), keys);
+    QCOMPARE(table.count(), 1);
+    QVERIFY(!keyTips.isShown());
+    QTRY_VERIFY(!panels->isVisible());
+    QVERIFY(f.bar().isRibbonMinimized());
+}
+
 void tst_Keyboard::keyTipsDoNotOverlap()
 {
     Fixture f;
@@ -800,6 +838,35 @@ void tst_Keyboard::accessibleNames()
                  QStringLiteral("Restore"));
     f.styles->setText(QStringLiteral("&Quick Styles"));
     QCOMPARE(f.wrapper(f.home, f.styles)->accessibleName(), QStringLiteral("Quick Styles"));
+}
+
+void tst_Keyboard::welcomeScreenByKeyboard()
+{
+    // Tab reaches the tiles of the welcome screen; Enter or Space opens one.
+    Fixture f;
+    BackstageWelcomeScreen &welcome = f.window->welcomeScreen();
+    welcome.addTemplate(QStringLiteral("Letter"), QPixmap());
+    QVERIFY(f.show());
+    f.window->setActiveView(RibbonMainWindow::WelcomeScreen);
+    QSignalSpy blank(&welcome, SIGNAL(blankDocumentSelected()));
+    QSignalSpy letter(&welcome, SIGNAL(templateSelected(QString)));
+    auto *tile = welcome.findChild<QAbstractButton *>(QStringLiteral("welcomeBlankDocument"));
+    // The keys go to the page shown, not to the document behind it.
+    QVERIFY(welcome.isAncestorOf(QApplication::focusWidget()));
+    for (int i = 0; i < 10 && !tile->hasFocus(); ++i)
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    QVERIFY(tile->hasFocus());
+    QTest::keyClick(tile, Qt::Key_Tab);
+    QWidget *next = QApplication::focusWidget();
+    QCOMPARE(next->property("text").toString(), QStringLiteral("Letter"));
+    QTest::keyClick(next, Qt::Key_Space);
+    QCOMPARE(letter.count(), 1);
+    QCOMPARE(blank.count(), 0);
+
+    f.window->setActiveView(RibbonMainWindow::WelcomeScreen);
+    tile->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(tile, Qt::Key_Return);
+    QCOMPARE(blank.count(), 1);
 }
 
 void tst_Keyboard::backstageByKeyboard()

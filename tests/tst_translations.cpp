@@ -1,6 +1,14 @@
 #include "ZelTest.h"
 
 #include "RibbonButtonMain.h"
+#include "RibbonCatSimpleAction.h"
+#include "RibbonCategoriesPanelAction.h"
+#include "RibbonCategory.h"
+#include "RibbonCategoryAction.h"
+#include "RibbonCategoryPanel.h"
+#include "RibbonCategoryPanels.h"
+#include "RibbonCategoryPanelsProxy.h"
+#include "RibbonCategoryWrapper.h"
 #include "RibbonCatSimpleButton.h"
 #include "RibbonColorPickerPopup.h"
 #include "RibbonMainWindow.h"
@@ -8,9 +16,12 @@
 #include "RibbonOptionsDialog.h"
 #include "RibbonQuickAccessBar.h"
 
+#include <QAccessible>
+#include <QContextMenuEvent>
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QLibraryInfo>
+#include <QMenu>
 #include <QPushButton>
 
 #include <memory>
@@ -152,6 +163,40 @@ private slots:
         app().loadTranslation(locale);
         QDialogButtonBox box(QDialogButtonBox::Save);
         QCOMPARE(box.button(QDialogButtonBox::Save)->text().remove(QLatin1Char('&')), save);
+    }
+
+    // The ribbon's context menu and what a screen reader hears speak the language too.
+    void contextMenuAndNames()
+    {
+        QVERIFY(app().loadTranslation(QLocale(QLocale::German)));
+        RibbonMainWindow window;
+        auto *home = new RibbonCategoriesPanelAction(QStringLiteral("Start"), &window);
+        auto *clipboard = new RibbonCategoryAction(QStringLiteral("Zwischenablage"), &window);
+        auto *paste = new RibbonCatSimpleAction(QStringLiteral("Einfügen"), RibbonCatSimpleAction::SizeLarge, &window);
+        clipboard->addAction(paste, -1);
+        home->addCategory(clipboard);
+        window.ribbonMenuBar().addAction(home);
+        window.resize(900, 600);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+
+        RibbonCategoryPanel *page = window.ribbonMenuBar().categoryPanels()->subject()->panel(home);
+        QWidget *button = page->wrapper(clipboard)->category()->widget(paste);
+        const QPoint centre = button->rect().center();
+        QContextMenuEvent event(QContextMenuEvent::Mouse, centre, button->mapToGlobal(centre));
+        QApplication::sendEvent(button, &event);
+        auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+        QVERIFY(menu);
+        QStringList texts;
+        for (const QAction *entry : menu->actions()) {
+            if (!entry->isSeparator())
+                texts << entry->text();
+        }
+        menu->close();
+        QCOMPARE(texts, (QStringList{QStringLiteral("Zu Symbolleiste für den Schnellzugriff hinzufügen"),
+                                     QStringLiteral("Menüband reduzieren")}));
+        QCOMPARE(QAccessible::queryAccessibleInterface(&window.quickAccessBar())->text(QAccessible::Name),
+                 QStringLiteral("Symbolleiste für den Schnellzugriff"));
     }
 
     // The longer German texts get the room they need.

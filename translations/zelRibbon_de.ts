@@ -38,6 +38,13 @@
     </message>
 </context>
 <context>
+    <name>zel::BackstageView</name>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+</context>
+<context>
     <name>zel::BackstageWelcomeScreen</name>
     <message>
         <source>Recent</source>
@@ -113,6 +120,10 @@
         <source>Restore</source>
         <translation>Wiederherstellen</translation>
     </message>
+    <message>
+        <source>System menu</source>
+        <translation>Systemmenü</translation>
+    </message>
 </context>
 <context>
     <name>zel::RibbonMenuBar</name>
@@ -124,12 +135,46 @@
         <source>Pin the Ribbon</source>
         <translation>Menüband anheften</translation>
     </message>
+    <message>
+        <source>Ribbon Tabs</source>
+        <translation>Registerkarten des Menübands</translation>
+    </message>
+    <message>
+        <source>Ribbon</source>
+        <translation>Menüband</translation>
+    </message>
+</context>
+<context>
+    <name>zel::RibbonPercWidget</name>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
 </context>
 <context>
     <name>zel::RibbonQuickAccessBar</name>
     <message>
         <source>Customize Quick Access Toolbar</source>
         <translation>Symbolleiste für den Schnellzugriff anpassen</translation>
+    </message>
+    <message>
+        <source>Quick Access Toolbar</source>
+        <translation>Symbolleiste für den Schnellzugriff</translation>
+    </message>
+    <message>
+        <source>Remove from Quick Access Toolbar</source>
+        <translation>Aus Symbolleiste für den Schnellzugriff entfernen</translation>
+    </message>
+    <message>
+        <source>Add to Quick Access Toolbar</source>
+        <translation>Zu Symbolleiste für den Schnellzugriff hinzufügen</translation>
+    </message>
+</context>
+<context>
+    <name>zel::RibbonStatusBar</name>
+    <message>
+        <source>Status Bar</source>
+        <translation>Statusleiste</translation>
     </message>
 </context>
 </TS>

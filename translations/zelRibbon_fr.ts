@@ -38,6 +38,13 @@
     </message>
 </context>
 <context>
+    <name>zel::BackstageView</name>
+    <message>
+        <source>Back</source>
+        <translation>Retour</translation>
+    </message>
+</context>
+<context>
     <name>zel::BackstageWelcomeScreen</name>
     <message>
         <source>Recent</source>
@@ -113,6 +120,10 @@
         <source>Restore</source>
         <translation>Restaurer</translation>
     </message>
+    <message>
+        <source>System menu</source>
+        <translation>Menu système</translation>
+    </message>
 </context>
 <context>
     <name>zel::RibbonMenuBar</name>
@@ -124,12 +135,46 @@
         <source>Pin the Ribbon</source>
         <translation>Épingler le ruban</translation>
     </message>
+    <message>
+        <source>Ribbon Tabs</source>
+        <translation>Onglets du ruban</translation>
+    </message>
+    <message>
+        <source>Ribbon</source>
+        <translation>Ruban</translation>
+    </message>
+</context>
+<context>
+    <name>zel::RibbonPercWidget</name>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
 </context>
 <context>
     <name>zel::RibbonQuickAccessBar</name>
     <message>
         <source>Customize Quick Access Toolbar</source>
         <translation>Personnaliser la barre d’outils Accès rapide</translation>
+    </message>
+    <message>
+        <source>Quick Access Toolbar</source>
+        <translation>Barre d&apos;outils Accès rapide</translation>
+    </message>
+    <message>
+        <source>Remove from Quick Access Toolbar</source>
+        <translation>Supprimer de la barre d&apos;outils Accès rapide</translation>
+    </message>
+    <message>
+        <source>Add to Quick Access Toolbar</source>
+        <translation>Ajouter à la barre d&apos;outils Accès rapide</translation>
+    </message>
+</context>
+<context>
+    <name>zel::RibbonStatusBar</name>
+    <message>
+        <source>Status Bar</source>
+        <translation>Barre d&apos;état</translation>
     </message>
 </context>
 </TS>

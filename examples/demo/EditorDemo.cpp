@@ -736,6 +736,9 @@ RibbonCategoriesPanelAction *EditorDemo::buildHomeTab()
     d->copy = command(this, EditorIcon::Copy, tr("Copy"), S::SizeMedium);
     connect(d->cut, &QAction::triggered, this, [this] { d->edit->cut(); });
     connect(d->copy, &QAction::triggered, this, [this] { d->edit->copy(); });
+    // Given before they are disabled, the reason shows in their screen tips.
+    d->cut->setProperty("disabledReason", tr("Select some text first."));
+    d->copy->setProperty("disabledReason", tr("Select some text first."));
     d->cut->setEnabled(false);
     d->copy->setEnabled(false);
     auto *selectAll = command(this, EditorIcon::SelectAll, tr("Select All"), S::SizeMedium);
@@ -935,6 +938,30 @@ RibbonCategoriesPanelAction *EditorDemo::buildHomeTab()
     };
     connect(d->bullets, &QAction::triggered, this, [setList](bool on) { setList(QTextListFormat::ListDisc, on); });
     connect(d->numbering, &QAction::triggered, this, [setList](bool on) { setList(QTextListFormat::ListDecimal, on); });
+    // Letters for the keyboard (Alt, H, then these) and descriptions for the screen tips;
+    // the other commands get letters of their own.
+    const QList<QPair<QAction *, QString>> keyTips = {
+        {paste, QStringLiteral("V")},        {d->cut, QStringLiteral("X")},         {d->copy, QStringLiteral("C")},
+        {selectAll, QStringLiteral("SA")},   {d->family, QStringLiteral("FF")},     {d->size, QStringLiteral("FS")},
+        {grow, QStringLiteral("FG")},        {shrink, QStringLiteral("FK")},        {d->bold, QStringLiteral("1")},
+        {d->italic, QStringLiteral("2")},    {d->underline, QStringLiteral("3")},   {d->strike, QStringLiteral("4")},
+        {clear, QStringLiteral("E")},        {d->bullets, QStringLiteral("U")},     {d->numbering, QStringLiteral("N")},
+        {d->alignLeft, QStringLiteral("AL")}, {d->alignCenter, QStringLiteral("AC")},
+        {d->alignRight, QStringLiteral("AR")}, {d->justify, QStringLiteral("AJ")}, {find, QStringLiteral("FD")},
+    };
+    for (const auto &keyTip : keyTips)
+        keyTip.first->setProperty("keyTip", keyTip.second);
+    d->home->setProperty("keyTip", QStringLiteral("H"));
+    d->styles.category->setProperty("keyTip", QStringLiteral("L"));
+    // The split button's tip is its default command's.
+    for (QAction *a : {static_cast<QAction *>(paste), static_cast<QAction *>(pasteNow)})
+        a->setStatusTip(tr("Adds the contents of the clipboard to the document."));
+    d->cut->setStatusTip(tr("Removes the selection and puts it on the clipboard."));
+    d->copy->setStatusTip(tr("Puts a copy of the selection on the clipboard."));
+    d->bold->setStatusTip(tr("Makes the selected text bold."));
+    d->italic->setStatusTip(tr("Sets the selected text in italics."));
+    d->underline->setStatusTip(tr("Underlines the selected text."));
+    find->setStatusTip(tr("Looks for text in the document."));
     return d->home;
 }
 
@@ -942,6 +969,7 @@ RibbonCategoriesPanelAction *EditorDemo::buildInsertTab()
 {
     using S = RibbonCatSimpleAction;
     auto *insert = new RibbonCategoriesPanelAction(tr("Insert"), this);
+    insert->setProperty("keyTip", QStringLiteral("N"));
     auto *tables = new RibbonCategoryAction(editorIcon(EditorIcon::Table), tr("Tables"), this);
     auto *table = new RibbonCatMenuAction(editorIcon(EditorIcon::Table), tr("Table"), RibbonCatMenuAction::MenuTypeButton,
                                           RibbonCatMenuAction::MenuSizeLarge, RibbonCatMenuAction::PopupMenu, this);
@@ -1019,6 +1047,7 @@ RibbonCategoriesPanelAction *EditorDemo::buildViewTab()
 {
     using S = RibbonCatSimpleAction;
     auto *viewTab = new RibbonCategoriesPanelAction(tr("View"), this);
+    viewTab->setProperty("keyTip", QStringLiteral("W"));
     auto *zoomCategory = new RibbonCategoryAction(editorIcon(EditorIcon::ZoomIn), tr("Zoom"), this);
     auto *zoomIn = command(this, EditorIcon::ZoomIn, tr("Zoom In"), S::SizeMedium);
     auto *zoomOut = command(this, EditorIcon::ZoomOut, tr("Zoom Out"), S::SizeMedium);

@@ -9,6 +9,8 @@
 #include "OfficePopupButton.h"
 #include "RibbonApplication.h"
 #include "RibbonButtonMain.h"
+#include "RibbonCatActionGroup.h"
+#include "RibbonCatActionGroupWidget.h"
 #include "RibbonCatColorMenuAction.h"
 #include "RibbonCatColorMenuButton.h"
 #include "RibbonCatListPreview.h"
@@ -22,9 +24,11 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QImage>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPixmap>
@@ -35,6 +39,7 @@
 #include <QTextEdit>
 #include <QTextStream>
 #include <QThread>
+#include <QToolTip>
 #include <QWindow>
 
 namespace {
@@ -84,13 +89,14 @@ void pressButton(EditorDemo &w, const QString &text)
     }
 }
 
-// The window's picture with the popups open over it, where they stand on the screen.
+// The window's picture with the popups (and a tool tip) open over it, where they stand
+// on the screen.
 QPixmap grabWithPopups(QWidget &window)
 {
     QPixmap picture = window.grab();
     QPainter painter(&picture);
     for (QWidget *top : QApplication::topLevelWidgets()) {
-        if (top->isVisible() && top->windowType() == Qt::Popup)
+        if (top->isVisible() && (top->windowType() == Qt::Popup || top->windowType() == Qt::ToolTip))
             painter.drawPixmap(top->geometry().topLeft() - window.geometry().topLeft(), top->grab());
     }
     return picture;
@@ -122,6 +128,39 @@ void showHovered(QWidget *widget)
 {
     widget->setAttribute(Qt::WA_UnderMouse, true);
     widget->update();
+}
+
+// Types keys into the document as the keyboard would; an empty text presses Alt alone.
+void typeKeys(EditorDemo &w, const QString &keys)
+{
+    QWidget *receiver = QApplication::activePopupWidget() ? QApplication::activePopupWidget() : w.editor();
+    if (keys.isEmpty()) {
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_Alt, Qt::NoModifier);
+        QKeyEvent release(QEvent::KeyRelease, Qt::Key_Alt, Qt::NoModifier);
+        QApplication::sendEvent(receiver, &press);
+        QApplication::sendEvent(receiver, &release);
+        return;
+    }
+    for (const QChar c : keys) {
+        receiver = QApplication::activePopupWidget() ? QApplication::activePopupWidget() : w.editor();
+        const int key = Qt::Key_A + (c.toUpper().unicode() - 'A');
+        QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, QString(c.toLower()));
+        QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier, QString(c.toLower()));
+        QApplication::sendEvent(receiver, &press);
+        QApplication::sendEvent(receiver, &release);
+        settle();
+    }
+}
+
+// The first visible control of class Control whose action has the text.
+template<class Control>
+Control *controlOf(EditorDemo &w, const QString &text)
+{
+    for (Control *control : w.findChildren<Control *>()) {
+        if (control->isVisible() && !control->actions().isEmpty() && control->actions().first()->text() == text)
+            return control;
+    }
+    return nullptr;
 }
 
 void showTab(EditorDemo &w, const QString &name)
@@ -285,6 +324,44 @@ int writeEditorScreenshots(const QDir &dir)
         {QStringLiteral("editor-dark-info"), QSize(1280, 800), [](EditorDemo &w) {
              zel::RibbonApplication::theApp().setRibbonStyle(zel::RibbonApplication::RibbonStyleDark);
              w.showBackstagePage(EditorDemo::tr("Info"));
+         }},
+        // Alt, then H: the letters of the Home tab's commands.
+        {QStringLiteral("editor-keytips"), QSize(1280, 420), [](EditorDemo &w) {
+             w.showMainView();
+             typeKeys(w, QString());
+             typeKeys(w, QStringLiteral("H"));
+         }},
+        // Narrow, the clipboard folds: Alt, H, C opens it with its own letters.
+        {QStringLiteral("editor-keytips-folded"), QSize(760, 420), [](EditorDemo &w) {
+             w.showMainView();
+             w.resize(760, 420);
+             settle();
+             typeKeys(w, QString());
+             typeKeys(w, QStringLiteral("HC"));
+         }},
+        {QStringLiteral("editor-screentip"), QSize(1000, 360), [](EditorDemo &w) {
+             w.showMainView();
+             if (auto *paste = controlOf<zel::RibbonCatMenuButton>(w, QStringLiteral("Paste"))) {
+                 showHovered(paste);
+                 QToolTip::showText(paste->mapToGlobal(QPoint(8, paste->height() + 4)), paste->toolTip(), paste);
+             }
+         }},
+        // A right click on Bold, in its button group.
+        {QStringLiteral("editor-context-menu"), QSize(1000, 360), [](EditorDemo &w) {
+             w.showMainView();
+             for (auto *strip : w.findChildren<zel::RibbonCatActionGroupWidget *>()) {
+                 const QList<zel::RibbonAction *> members = strip->group() ? strip->group()->actions()
+                                                                           : QList<zel::RibbonAction *>();
+                 for (int i = 0; i < members.size(); ++i) {
+                     if (!strip->isVisible() || members.at(i)->text() != QLatin1String("Bold"))
+                         continue;
+                     const QPoint pos = strip->cellRect(i).center();
+                     showHovered(strip);
+                     QContextMenuEvent event(QContextMenuEvent::Mouse, pos, strip->mapToGlobal(pos));
+                     QApplication::sendEvent(strip, &event);
+                     return;
+                 }
+             }
          }},
         {QStringLiteral("editor-info"), QSize(1280, 800), [](EditorDemo &w) {
              w.showBackstagePage(EditorDemo::tr("Info"));

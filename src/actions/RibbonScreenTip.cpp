@@ -34,11 +34,18 @@ QString ribbonAccessibleName(const QAction *action)
     return shown.isEmpty() ? action->toolTip() : shown;
 }
 
+QString ribbonDescription(const QAction *action)
+{
+    if (!action)
+        return QString();
+    return !action->statusTip().isEmpty() ? action->statusTip() : action->whatsThis();
+}
+
 QString ribbonScreenTip(const QAction *action)
 {
     if (!action)
         return QString();
-    const QString description = !action->statusTip().isEmpty() ? action->statusTip() : action->whatsThis();
+    const QString description = ribbonDescription(action);
     const QString reason = action->isEnabled() ? QString() : action->property("disabledReason").toString();
     if (description.isEmpty() && reason.isEmpty())
         return action->toolTip();

@@ -21,6 +21,9 @@ ZELRIBBON_AUTOTEST_EXPORT QString ribbonScreenTip(const QAction *action);
 // marks, else its tool tip (icon-only commands).
 ZELRIBBON_AUTOTEST_EXPORT QString ribbonAccessibleName(const QAction *action);
 
+// The longer description of a command: its statusTip, else its whatsThis.
+ZELRIBBON_AUTOTEST_EXPORT QString ribbonDescription(const QAction *action);
+
 // text without its mnemonic marks; a doubled "&" stays as one.
 QString ribbonShownText(const QString &text);
 

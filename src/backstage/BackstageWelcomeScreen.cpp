@@ -12,7 +12,9 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QFocusEvent>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QListView>
 #include <QMouseEvent>
@@ -174,11 +176,30 @@ public:
     }
 
 protected:
+    // Reached with Tab, a tile shows it is the one Enter or Space opens.
+    void focusInEvent(QFocusEvent *event) override
+    {
+        m_keyboardFocus = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+        QAbstractButton::focusInEvent(event);
+    }
+    void focusOutEvent(QFocusEvent *event) override
+    {
+        m_keyboardFocus = false;
+        QAbstractButton::focusOutEvent(event);
+    }
+    void keyPressEvent(QKeyEvent *event) override
+    {
+        if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+            click();
+        else
+            QAbstractButton::keyPressEvent(event);
+    }
+
     void paintEvent(QPaintEvent *) override
     {
         const RibbonStyle &style = ribbonPalette();
         QPainter p(this);
-        const bool hot = underMouse() || isDown();
+        const bool hot = underMouse() || isDown() || (m_keyboardFocus && hasFocus());
         const QRect frame(0, 0, width(), scaled(196));
         if (hot)
             p.fillRect(frame, isDown() ? style.backstageBluePressedColor() : style.backstageBlueHoverColor());
@@ -197,6 +218,7 @@ protected:
 
 private:
     QPixmap m_preview;
+    bool m_keyboardFocus = false;
 };
 
 } // namespace

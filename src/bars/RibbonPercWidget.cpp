@@ -7,6 +7,7 @@
 #include "RibbonScale_p.h"
 #include "RibbonStyle.h"
 
+#include <QAccessible>
 #include <QActionEvent>
 #include <QEnterEvent>
 #include <QMouseEvent>
@@ -173,6 +174,8 @@ void RibbonPercWidget::dragTo(int x)
 void RibbonPercWidget::displayPercentage(int percentage)
 {
     m_text = percentText(percentage);
+    QAccessibleValueChangeEvent event(this, percentage);
+    QAccessible::updateAccessibility(&event);
     update();
 }
 

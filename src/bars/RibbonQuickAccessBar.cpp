@@ -2,6 +2,7 @@
 
 #include "RibbonActionWidgetMap_p.h"
 #include "RibbonButtonNormal.h"
+#include "RibbonContextMenu_p.h"
 #include "RibbonMainWindow.h"
 #include "RibbonMenuBar.h"
 #include "RibbonSimpleAction.h"
@@ -55,6 +56,9 @@ struct RibbonQuickAccessBar::Priv
     QHBoxLayout *buttonsLayout = nullptr;
     QStringList disabledItems;
     QAction *minimizeEntry = nullptr;
+    // Commands the user brought in through the ribbon's context menu; removing them
+    // takes them out of the bar again rather than hiding them.
+    QList<QPointer<QAction>> addedByUser;
 
     // What the bar made for each command: its button and its menu entry, dropped when
     // the command leaves the bar (both leave their layout and menu by themselves).
@@ -123,12 +127,53 @@ void RibbonQuickAccessBar::showQuickAccessBarItem(const QString &name)
     d->disabledItems.removeAll(name);
 }
 
+bool RibbonQuickAccessBar::isQuickAccessCommand(const QAction *command) const
+{
+    const QWidget *button = d->buttons.widget(command);
+    return button && !button->isHidden();
+}
+
+void RibbonQuickAccessBar::addQuickAccessCommand(RibbonSimpleAction *command)
+{
+    if (!command || isQuickAccessCommand(command))
+        return;
+    if (QAction *entry = d->entries.widget(command)) {
+        entry->setChecked(true);
+        onMenuActionTriggered(entry);
+        return;
+    }
+    // A name hidden in an earlier session would hide the button the user asks for.
+    showQuickAccessBarItem(commandName(command));
+    d->addedByUser.append(command);
+    addAction(command);
+}
+
+void RibbonQuickAccessBar::removeQuickAccessCommand(QAction *command)
+{
+    if (!command || !isQuickAccessCommand(command))
+        return;
+    if (d->addedByUser.removeAll(command) > 0) {
+        removeAction(command);
+        return;
+    }
+    if (QAction *entry = d->entries.widget(command)) {
+        entry->setChecked(false);
+        onMenuActionTriggered(entry);
+    }
+}
+
+void RibbonQuickAccessBar::contextMenuEvent(QContextMenuEvent *event)
+{
+    ribbonOpenContextMenu(*this, event);
+}
+
 void RibbonQuickAccessBar::actionEvent(QActionEvent *event)
 {
     QWidget::actionEvent(event);
     QAction *command = event->action();
     switch (event->type()) {
     case QEvent::ActionRemoved:
+        d->addedByUser.removeAll(command);
         // A hidden name stays in the list for the next session.
         d->buttons.drop(command);
         d->entries.drop(command);

@@ -12,6 +12,7 @@ class QAction;
 namespace zel {
 
 class RibbonMainWindow;
+class RibbonSimpleAction;
 
 // The row of small command buttons in the title row of the main window. The host adds
 // simple actions; a narrow button at the right end opens a menu in which the user
@@ -38,12 +39,22 @@ public:
     // Removes every occurrence of name.
     void showQuickAccessBarItem(const QString &name);
 
+    // Whether command has a button in the bar that the user has not hidden.
+    bool isQuickAccessCommand(const QAction *command) const;
+    // What the ribbon's context menu does with a command. Adding a command of the bar
+    // shows it again and removing one hides it, as its entry in the customise menu
+    // does (so the list of hidden names records it); a command from elsewhere joins
+    // the bar, checked in the customise menu, until it is removed again.
+    void addQuickAccessCommand(RibbonSimpleAction *command);
+    void removeQuickAccessCommand(QAction *command);
+
 private slots:
     void onMenuTriggered();
     void onMenuActionTriggered(QAction *entry);
 
 protected:
     void actionEvent(QActionEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
 
 private:
     struct Priv;

@@ -79,7 +79,7 @@ public:
         case QAccessible::Name:
             return ribbonAccessibleName(action);
         case QAccessible::Description:
-            return action->statusTip();
+            return ribbonDescription(action);
         case QAccessible::Accelerator:
             return action->shortcut().toString(QKeySequence::NativeText);
         default:
@@ -188,6 +188,42 @@ struct RibbonCatActionGroupWidget::Priv
     int pressedIndex = -1;
     // By member; the buttons are children of the strip.
     RibbonActionWidgetMap<> popupWidgets;
+    // The checked and enabled state of each member a screen reader last heard of.
+    struct Announced
+    {
+        bool checked;
+        bool enabled;
+    };
+    QHash<const QAction *, Announced> announced;
+
+    // The cells are no widgets, so nothing else tells a screen reader that a member
+    // turned checked or enabled.
+    void announceMemberStates(RibbonCatActionGroupWidget &strip)
+    {
+        const RibbonCatActionGroup *members = strip.group();
+        if (!members) {
+            announced.clear();
+            return;
+        }
+        QHash<const QAction *, Announced> now;
+        const QList<RibbonAction *> actions = members->actions();
+        for (int i = 0; i < actions.size(); ++i) {
+            const Announced state{actions.at(i)->isChecked(), actions.at(i)->isEnabled()};
+            now.insert(actions.at(i), state);
+            const auto before = announced.constFind(actions.at(i));
+            if (before == announced.constEnd())
+                continue;
+            QAccessible::State changed;
+            changed.checked = before->checked != state.checked;
+            changed.disabled = before->enabled != state.enabled;
+            if (changed.checked || changed.disabled) {
+                QAccessibleStateChangeEvent event(&strip, changed);
+                event.setChild(i);
+                QAccessible::updateAccessibility(&event);
+            }
+        }
+        announced = now;
+    }
 };
 
 RibbonCatActionGroupWidget::RibbonCatActionGroupWidget(RibbonCatActionGroup &group, QWidget *parent)
@@ -281,6 +317,7 @@ void RibbonCatActionGroupWidget::actionEvent(QActionEvent *event)
         case QEvent::ActionChanged:
             // Members come and go through ActionChanged events of the group.
             syncPopupWidgets();
+            d->announceMemberStates(*this);
             updateGeometry();
             break;
         case QEvent::ActionRemoved:

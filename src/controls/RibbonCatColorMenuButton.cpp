@@ -216,10 +216,12 @@ void RibbonCatColorMenuButton::mousePressEvent(QMouseEvent *event)
     update();
     popup.show();
     popup.setFocus(Qt::PopupFocusReason);
+    ribbonAnnouncePopup(this, &popup, true);
 }
 
 void RibbonCatColorMenuButton::popupClosed()
 {
+    ribbonAnnouncePopup(this, &d->popup, false);
     update();
     QWidget *focus = d->savedFocus;
     d->savedFocus = nullptr;

@@ -20,6 +20,8 @@ RibbonCatComboWidget::RibbonCatComboWidget(RibbonCatComboAction &action, QWidget
     auto *layout = new QGridLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setHorizontalSpacing(0);
+    // A screen reader names the combo box by its label.
+    m_label->setBuddy(m_comboBox);
     layout->addWidget(m_label, 0, 0);
     layout->addWidget(m_comboBox, 0, 1);
 

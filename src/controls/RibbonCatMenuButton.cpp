@@ -96,6 +96,11 @@ void RibbonCatMenuButton::processEvents(QEvent *event)
     }
 }
 
+bool RibbonCatMenuButton::isPopupOpen() const
+{
+    return d && d->popupShown;
+}
+
 void RibbonCatMenuButton::drawBorder(bool draw)
 {
     // Made here when needed so that the flag survives until the first action event.
@@ -133,7 +138,7 @@ void RibbonCatMenuButton::refreshFromAction(QActionEvent *event)
     const RibbonAction *defaultAction = action->defaultAction();
     setToolTip(ribbonScreenTip(defaultAction ? static_cast<const QAction *>(defaultAction) : action));
     setAccessibleName(ribbonAccessibleName(action));
-    setAccessibleDescription(action->statusTip());
+    setAccessibleDescription(ribbonDescription(action));
     if (d)
         d->actionEvent(event);
     updateGeometry();
@@ -380,6 +385,7 @@ void RibbonCatMenuButtonBPriv::openPopup()
     }
     popupShown = true;
     m_popup = popup;
+    ribbonAnnouncePopup(&owner, popup, true);
 }
 
 void RibbonCatMenuButtonBPriv::watchPopup(QWidget *popup)
@@ -473,6 +479,7 @@ void RibbonCatMenuButtonBPriv::popupClosed()
         return;
     menuPressed = false;
     popupShown = false;
+    ribbonAnnouncePopup(&owner, m_popup, false);
     m_popup = nullptr;
     owner.update();
     if (savedFocus)

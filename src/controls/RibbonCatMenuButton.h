@@ -30,6 +30,9 @@ public:
     // Hands over a press that reached a container keeping this button hidden.
     void processEvents(QEvent *event) override;
 
+    // Whether the drop-down of this button is open.
+    bool isPopupOpen() const;
+
     // Draws the resting outline of a plain drop-down button (as in the status bar).
     void drawBorder(bool draw);
 

@@ -37,6 +37,7 @@ public:
     virtual void leaveEvent(QEvent *event) = 0;
 
     bool drawBorder = false;
+    bool popupShown = false;
     RibbonCatMenuButton &owner;
 
 private:
@@ -64,7 +65,6 @@ public:
     int lineCount = 2;
     bool captionPressed = false;
     bool menuPressed = false;
-    bool popupShown = false;
     QPointer<QWidget> savedFocus;
 
 protected:

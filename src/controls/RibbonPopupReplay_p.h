@@ -2,6 +2,7 @@
 
 // Shared by the buttons that open a popup. Not installed.
 
+#include <QAccessible>
 #include <QEvent>
 #include <QMouseEvent>
 #include <QWidget>
@@ -18,6 +19,24 @@ inline void keepOpenerPressFromReopening(QWidget *popup, const QWidget &opener, 
     const auto *mouse = static_cast<QMouseEvent *>(event);
     if (!popup->rect().contains(mouse->pos()) && opener.rect().contains(opener.mapFromGlobal(mouse->globalPos())))
         popup->setAttribute(Qt::WA_NoMouseReplay);
+}
+
+// Tells a screen reader that the popup of opener has opened (open) or closed: the
+// opener turns expanded or collapsed, and the popup starts or ends as a dialog (a QMenu
+// announces itself as a menu).
+inline void ribbonAnnouncePopup(QWidget *opener, QWidget *popup, bool open)
+{
+    if (opener) {
+        QAccessible::State changed;
+        changed.expanded = true;
+        changed.collapsed = true;
+        QAccessibleStateChangeEvent stateChange(opener, changed);
+        QAccessible::updateAccessibility(&stateChange);
+    }
+    if (popup && !popup->inherits("QMenu")) {
+        QAccessibleEvent event(popup, open ? QAccessible::DialogStart : QAccessible::DialogEnd);
+        QAccessible::updateAccessibility(&event);
+    }
 }
 
 } // namespace zel

@@ -4,6 +4,7 @@
 #include "RibbonApplication.h"
 #include "RibbonCategoriesPanelAction.h"
 #include "RibbonCategoryPanel.h"
+#include "RibbonContextMenu_p.h"
 #include "RibbonMenuBar.h"
 #include "RibbonMenuBarButton.h"
 #include "RibbonPaint_p.h"
@@ -184,6 +185,11 @@ void RibbonCategoryPanels::paintEvent(QPaintEvent *)
         painter.setBrush(under);
         painter.drawRect(QRect(x + 3, 0, button->width() - 6, 2));
     }
+}
+
+void RibbonCategoryPanels::contextMenuEvent(QContextMenuEvent *event)
+{
+    ribbonOpenContextMenu(*this, event);
 }
 
 } // namespace zel

@@ -29,6 +29,7 @@ public:
     RibbonCategoryPanel *panel(RibbonCategoriesPanelAction *tab) const;
 
 protected:
+    void contextMenuEvent(QContextMenuEvent *event) override;
     // The tab whose page this is; null when none.
     QPointer<RibbonCategoriesPanelAction> action(QWidget *page) const;
 

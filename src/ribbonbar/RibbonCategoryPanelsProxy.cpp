@@ -76,8 +76,11 @@ void RibbonCategoryPanelsProxy::setCollapsable(bool collapsable)
 
 void RibbonCategoryPanelsProxy::collapse()
 {
-    if (isCollapsable())
-        d->subject->hide();
+    if (!isCollapsable())
+        return;
+    d->subject->hide();
+    // Closed by the program, not by a click on its tab: the tab may open it again at once.
+    d->reopenGuard->stop();
 }
 
 QSize RibbonCategoryPanelsProxy::sizeHint() const
@@ -145,7 +148,10 @@ void RibbonCategoryPanelsProxy::actionEvent(QActionEvent *event)
 
     if (changed && isCollapsable()) {
         auto *tab = qobject_cast<RibbonCategoriesPanelAction *>(action);
-        if (tab && !tab->isChecked()) {
+        // Only the tab whose page is shown closes the popup: a tab left checked from
+        // before the ribbon was minimised is unchecked only once another tab has opened
+        // the popup on its own page.
+        if (tab && !tab->isChecked() && d->subject->action(d->subject->currentWidget()) == tab) {
             d->lastHidden = tab;
             d->reopenGuard->start();
             d->subject->hide();

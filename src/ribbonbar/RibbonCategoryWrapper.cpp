@@ -7,6 +7,7 @@
 #include "RibbonCategoryWrapperPopup.h"
 #include "RibbonImageRows_p.h"
 #include "RibbonPaint_p.h"
+#include "RibbonPopupReplay_p.h"
 #include "RibbonScale_p.h"
 #include "RibbonScreenTip_p.h"
 #include "RibbonStyle.h"
@@ -122,6 +123,7 @@ void RibbonCategoryWrapper::setMyChecked(bool checked)
     d->myChecked = checked;
     if (checked && !d->popup)
         d->popup = new RibbonCategoryWrapperPopup(*this);
+    ribbonAnnouncePopup(this, d->popup, checked);
     update();
 }
 

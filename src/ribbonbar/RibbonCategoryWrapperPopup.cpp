@@ -3,6 +3,7 @@
 #include "RibbonCategory.h"
 #include "RibbonCategoryAction.h"
 #include "RibbonCategoryWrapper.h"
+#include "RibbonContextMenu_p.h"
 #include "RibbonScale_p.h"
 
 #include <QApplication>
@@ -105,6 +106,11 @@ void RibbonCategoryWrapperPopup::closeEvent(QCloseEvent *event)
         d->focusWidget->setFocus(Qt::PopupFocusReason);
     event->accept();
     deleteLater();
+}
+
+void RibbonCategoryWrapperPopup::contextMenuEvent(QContextMenuEvent *event)
+{
+    ribbonOpenContextMenu(*this, event);
 }
 
 } // namespace zel

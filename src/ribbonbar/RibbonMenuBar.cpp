@@ -1,6 +1,7 @@
 #include "RibbonMenuBar.h"
 
 #include "MenuHLayout.h"
+#include "RibbonAccessible_p.h"
 #include "RibbonActionWidgetMap_p.h"
 #include "RibbonButtonMain.h"
 #include "RibbonButtonNormal.h"
@@ -13,6 +14,7 @@
 #include "RibbonCommandShortcuts_p.h"
 #include "RibbonContextCategoryPanel.h"
 #include "RibbonContextCategoryPanelAction.h"
+#include "RibbonContextMenu_p.h"
 #include "RibbonMainWindow.h"
 #include "RibbonMenuBarButton.h"
 #include "RibbonSimpleAction.h"
@@ -106,6 +108,7 @@ RibbonMenuBar::RibbonMenuBar(RibbonMainWindow &window)
     , d(new Priv(window))
 {
     setCursor(Qt::ArrowCursor);
+    ribbonInstallAccessibility();
 
     d->grid = new QGridLayout(this);
     d->grid->setContentsMargins(0, 0, 0, 0);
@@ -549,6 +552,11 @@ void RibbonMenuBar::updateCollapseRibbonAction()
         d->collapseAction->setIcon(QIcon(QStringLiteral(":/zel/common/Resources/PinRibbon.ico")));
         d->collapseAction->setToolTip(tr("Pin the Ribbon"));
     }
+}
+
+void RibbonMenuBar::contextMenuEvent(QContextMenuEvent *event)
+{
+    ribbonOpenContextMenu(*this, event);
 }
 
 } // namespace zel

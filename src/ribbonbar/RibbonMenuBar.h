@@ -96,6 +96,7 @@ public slots:
     void collapse();
 
 protected:
+    void contextMenuEvent(QContextMenuEvent *event) override;
     void actionEvent(QActionEvent *event) override;
     void addPanelAction(RibbonCategoriesPanelAction *tab);
     void removePanelAction(RibbonCategoriesPanelAction *tab);

@@ -485,6 +485,12 @@ QList<RibbonKeyTip> RibbonKeyTips::topLevel() const
                 guard->onDoubleClickTimeout();
         };
         tip.open = [barPtr, guardedTab] { return tabKeyTips(*barPtr, guardedTab); };
+        // A minimised ribbon shows the tab in a popup, which stepping back closes.
+        QPointer<RibbonMenuBar> guardedBar(barPtr);
+        tip.close = [guardedBar] {
+            if (guardedBar)
+                guardedBar->collapse();
+        };
         tips.append(tip);
     }
 
@@ -560,8 +566,17 @@ void RibbonKeyTips::enter(const RibbonKeyTip &tip)
         return;
     }
     if (!tip.open) {
+        // A command closes the popups its levels opened (the popup of a minimised ribbon
+        // would stay); a drop-down opens its own from where it stands, which must stay.
+        QList<std::function<void()>> closes;
+        for (const Level &level : qAsConst(m_levels)) {
+            if (level.close && !tip.dropDown)
+                closes.prepend(level.close);
+        }
         hide();
         tip.activate();
+        for (const std::function<void()> &close : qAsConst(closes))
+            close();
         return;
     }
     tip.activate();

@@ -229,6 +229,18 @@ void RibbonMainWindow::setActiveView(View view)
     }
     d->escapeShortcut->setEnabled(view != MainView);
     d->showPage(view);
+    // Keys go to the page shown: a focus left behind in a hidden page (the document
+    // behind the welcome screen, whose editor takes Tab for itself) would swallow them.
+    QWidget *shown = d->page(view);
+    QWidget *focus = focusWidget();
+    if (view != MainView && (!focus || !shown->isAncestorOf(focus))) {
+        for (QWidget *w = shown->nextInFocusChain(); w != shown; w = w->nextInFocusChain()) {
+            if (shown->isAncestorOf(w) && w->isVisibleTo(shown) && w->isEnabled() && (w->focusPolicy() & Qt::TabFocus)) {
+                w->setFocus(Qt::OtherFocusReason);
+                break;
+            }
+        }
+    }
     d->updateMargins();
     d->updateTitleRow();
     update();
