@@ -236,6 +236,7 @@ private slots:
     void foldedCategoryExpandsWhileOpen();
     void menuButtonExpandsWhileOpen();
     void zoomIsASlider();
+    void keyboardHighlightIsFocus();
     void interfacesOutliveNothing();
 };
 
@@ -513,6 +514,38 @@ void tst_Accessibility::zoomIsASlider()
     for (const Heard &h : qAsConst(heard))
         heardValue |= h.type == QAccessible::ValueChanged;
     QVERIFY(heardValue);
+}
+
+// Arrow keys move a highlight, not the focus (the document keeps it): a reader hears
+// the highlight as the focus and finds it on that control only.
+void tst_Accessibility::keyboardHighlightIsFocus()
+{
+    Fixture f;
+    QVERIFY(f.show());
+    QWidget *homeTab = nullptr;
+    QWidget *insertTab = nullptr;
+    for (RibbonMenuBarButton *tab : f.window->findChildren<RibbonMenuBarButton *>()) {
+        if (tab->actions().value(0) == f.home)
+            homeTab = tab;
+        if (tab->actions().value(0) == f.insert)
+            insertTab = tab;
+    }
+    QVERIFY(homeTab && insertTab);
+    QCoreApplication::processEvents();
+    heard.clear();
+
+    QTest::keyClick(f.edit, Qt::Key_F6);
+    QVERIFY(heardEvent(homeTab, QAccessible::Focus));
+    QVERIFY(accessible(homeTab)->state().focused);
+    QTest::keyClick(f.edit, Qt::Key_Right);
+    QVERIFY(heardEvent(insertTab, QAccessible::Focus));
+    QVERIFY(accessible(insertTab)->state().focused);
+    QVERIFY(!accessible(homeTab)->state().focused);
+
+    // Once the key tips are gone nothing is highlighted any more.
+    QTest::keyClick(f.edit, Qt::Key_F6);
+    QVERIFY(f.edit->hasFocus());
+    QVERIFY(!accessible(insertTab)->state().focused);
 }
 
 void tst_Accessibility::interfacesOutliveNothing()

@@ -27,6 +27,8 @@ namespace zel {
 
 namespace {
 
+QPointer<QWidget> keyboardHighlight;
+
 // The action a control shows: the first one added to it.
 QAction *shownAction(const QWidget *widget)
 {
@@ -61,6 +63,14 @@ public:
         default:
             return QAccessibleWidget::text(t);
         }
+    }
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = QAccessibleWidget::state();
+        if (widget() == keyboardHighlight)
+            state.focused = true;
+        return state;
     }
 
     QStringList actionNames() const override
@@ -556,6 +566,20 @@ void ribbonInstallAccessibility()
         return true;
     }();
     Q_UNUSED(installed)
+}
+
+void ribbonSetKeyboardHighlight(QWidget *widget, int child)
+{
+    static int highlightedChild = -1;
+    if (widget == keyboardHighlight && child == highlightedChild)
+        return;
+    keyboardHighlight = widget;
+    highlightedChild = child;
+    if (!widget || !QAccessible::isActive())
+        return;
+    QAccessibleEvent event(widget, QAccessible::Focus);
+    event.setChild(child);
+    QAccessible::updateAccessibility(&event);
 }
 
 } // namespace zel

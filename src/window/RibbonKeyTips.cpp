@@ -1,6 +1,7 @@
 #include "RibbonKeyTips_p.h"
 
 #include "IRibbonGroupWidget.h"
+#include "RibbonAccessible_p.h"
 #include "RibbonApplication.h"
 #include "RibbonButtonMain.h"
 #include "RibbonCatActionGroup.h"
@@ -536,6 +537,16 @@ void RibbonKeyTips::hide()
 
 void RibbonKeyTips::refresh()
 {
+    const RibbonKeyTip current = highlighted();
+    int cell = -1;
+    if (auto *strip = qobject_cast<RibbonCatActionGroupWidget *>(current.widget.data())) {
+        for (int i = 0; !current.rect.isNull() && strip->cellRect(i).isValid(); ++i) {
+            if (strip->cellRect(i) == current.rect)
+                cell = i;
+        }
+    }
+    ribbonSetKeyboardHighlight(current.widget, cell);
+
     QList<const QWidget *> windows;
     for (const RibbonKeyTip &tip : tips()) {
         if (!windows.contains(tip.widget->window()))
