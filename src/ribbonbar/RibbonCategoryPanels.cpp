@@ -43,6 +43,14 @@ RibbonCategoryPanels::RibbonCategoryPanels(RibbonMenuBar &menuBar)
     setFixedHeight(scaled(92));
     setContentsMargins(4, 3, 4, 4);
     connect(this, &QStackedWidget::currentChanged, this, &RibbonCategoryPanels::giveUpdatesToCurrent);
+    // A page the host takes out of the stack paints again wherever it goes next. Pages
+    // being deleted are already absent from the map.
+    connect(this, &QStackedWidget::widgetRemoved, this, [this] {
+        for (RibbonCategoryPanel *page : d->pages.widgets()) {
+            if (indexOf(page) < 0)
+                page->setUpdatesEnabled(true);
+        }
+    });
 }
 
 RibbonCategoryPanels::~RibbonCategoryPanels() = default;
@@ -58,17 +66,6 @@ void RibbonCategoryPanels::giveUpdatesToCurrent()
     if (d->liveUpdates && indexOf(d->liveUpdates) >= 0 && d->pages.action(d->liveUpdates))
         d->liveUpdates->setUpdatesEnabled(false);
     d->liveUpdates = current;
-}
-
-void RibbonCategoryPanels::childEvent(QChildEvent *event)
-{
-    // A page taken out of the stack (by the host, or by deleting its tab) paints
-    // again wherever it goes next. A child being destroyed is no longer a widget.
-    if (event->removed()) {
-        if (auto *widget = qobject_cast<QWidget *>(event->child()))
-            widget->setUpdatesEnabled(true);
-    }
-    QStackedWidget::childEvent(event);
 }
 
 RibbonMenuBar &RibbonCategoryPanels::menuBar() const

@@ -39,7 +39,6 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
-    void childEvent(QChildEvent *event) override;
 
 private:
     RibbonMenuBarButton *panelMenuButton(QWidget *page) const;
