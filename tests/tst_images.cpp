@@ -4,6 +4,7 @@
 
 #include "ZelTest.h"
 
+#include "DarkRibbonStyle.h"
 #include "DefaultRibbonStyle.h"
 #include "RibbonApplication.h"
 #include "RibbonStyle.h"
@@ -188,6 +189,110 @@ private slots:
         }
         zel::DefaultRibbonStyle nowhere(QStringLiteral(":/no/such/directory/"));
         QVERIFY(nowhere.categories().isNull());
+    }
+
+    // The application's own palettes decode an image when it is first asked for. Every
+    // getter then gives what a palette the host builds on the same directory holds from its
+    // constructor on, and the very same pixmap on every later call.
+    void applicationPalettesMatchEagerOnes_data()
+    {
+        QTest::addColumn<Getter>("getter");
+        QTest::addColumn<bool>("dark");
+#define PALETTE_ROW(name) QTest::addRow("%s %s", dark ? "dark" : "light", #name) << Getter(&RibbonStyle::name) << dark
+        for (const bool dark : {false, true}) {
+            PALETTE_ROW(mainBorder);
+            PALETTE_ROW(mainBorderCaption);
+            PALETTE_ROW(statusBar);
+            PALETTE_ROW(sysBtnBack);
+            PALETTE_ROW(toolBoxTabBack);
+            PALETTE_ROW(sysBtnClose);
+            PALETTE_ROW(sysBtnCloseSmall);
+            PALETTE_ROW(sysBtnMaximize);
+            PALETTE_ROW(sysBtnMaximizeSmall);
+            PALETTE_ROW(sysBtnMinimize);
+            PALETTE_ROW(sysBtnMinimizeSmall);
+            PALETTE_ROW(sysBtnRestore);
+            PALETTE_ROW(sysBtnRestoreSmall);
+            PALETTE_ROW(normalButtonSmall);
+            PALETTE_ROW(menuBarButton);
+            PALETTE_ROW(fileBarButton);
+            PALETTE_ROW(categories);
+            PALETTE_ROW(categoryTop);
+            PALETTE_ROW(categoryBottom);
+            PALETTE_ROW(categoryWrapperBack);
+            PALETTE_ROW(categoryWrapperIcon);
+            PALETTE_ROW(mainPanelBack);
+            PALETTE_ROW(horizontalMenuButtonCaption);
+            PALETTE_ROW(horizontalMenuButtonMenu);
+            PALETTE_ROW(verticalMenuButtonCaption);
+            PALETTE_ROW(verticalMenuButtonMenu);
+            PALETTE_ROW(mainPanelBorder);
+            PALETTE_ROW(mainPanelSeparator);
+            PALETTE_ROW(mainPanelButton);
+            PALETTE_ROW(paletteBtnTop);
+            PALETTE_ROW(paletteBtnMiddle);
+            PALETTE_ROW(paletteBtnBottom);
+            PALETTE_ROW(paletteItemLarge);
+            PALETTE_ROW(paletteItemSmall);
+            PALETTE_ROW(popupBorder);
+            PALETTE_ROW(popupResizeBarBack);
+            PALETTE_ROW(popupResizeBarIconB);
+            PALETTE_ROW(popupResizeBarIconBR);
+            PALETTE_ROW(popupResizeBarIconTR);
+            PALETTE_ROW(checkableMenuItemBack);
+            PALETTE_ROW(tabBarTabs);
+            PALETTE_ROW(sliderPlus);
+            PALETTE_ROW(sliderMinus);
+            PALETTE_ROW(sliderThumb);
+            PALETTE_ROW(btnGroupFirst);
+            PALETTE_ROW(btnGroupMidle);
+            PALETTE_ROW(btnGroupLast);
+            PALETTE_ROW(comboBox);
+            PALETTE_ROW(tabBarTabShape);
+            PALETTE_ROW(tooltipBack);
+        }
+#undef PALETTE_ROW
+    }
+
+    void applicationPalettesMatchEagerOnes()
+    {
+        QFETCH(Getter, getter);
+        QFETCH(bool, dark);
+        static const zel::DefaultRibbonStyle eagerLight(QStringLiteral(":/zel/ribbon/windows/"));
+        static const zel::DarkRibbonStyle eagerDark(QStringLiteral(":/zel/ribbon/dark/"));
+        const RibbonStyle &eager = dark ? static_cast<const RibbonStyle &>(eagerDark) : eagerLight;
+
+        zel::RibbonApplication &app = zel::RibbonApplication::theApp();
+        app.setRibbonStyle(dark ? zel::RibbonApplication::RibbonStyleDark : zel::RibbonApplication::RibbonStyleDefault);
+        const QPixmap &first = (app.ribbonStyle().*getter)();
+        const QPixmap &again = (app.ribbonStyle().*getter)();
+        app.setRibbonStyle(zel::RibbonApplication::RibbonStyleDefault);
+
+        QCOMPARE(first.isNull(), (eager.*getter)().isNull());
+        QCOMPARE(first.toImage(), (eager.*getter)().toImage());
+        QCOMPARE(first.devicePixelRatio(), (eager.*getter)().devicePixelRatio());
+        QCOMPARE(&again, &first);
+        QCOMPARE(again.cacheKey(), first.cacheKey());
+    }
+
+    // A host's palette may read the entries it inherits in its own constructor.
+    void hostPaletteEntriesFilledByConstructor()
+    {
+        struct HostPalette : zel::DefaultRibbonStyle
+        {
+            HostPalette()
+                : DefaultRibbonStyle(QStringLiteral(":/zel/ribbon/windows/"))
+                , border(m_mainBorder.toImage())
+            {
+                // Replaced by the host: the getter gives the host's image.
+                m_categories = QPixmap(7, 5);
+            }
+            QImage border;
+        } host;
+        QVERIFY(!host.border.isNull());
+        QCOMPARE(host.border, style().mainBorder().toImage());
+        QCOMPARE(host.mainBorder().toImage(), host.border);
+        QCOMPARE(host.categories().size(), QSize(7, 5));
     }
 
     void icons_data()

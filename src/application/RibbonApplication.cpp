@@ -3,6 +3,7 @@
 #include "DarkRibbonStyle.h"
 #include "DefaultRibbonStyle.h"
 #include "RibbonPlatform.h"
+#include "RibbonStyleImages_p.h"
 #include "RibbonStyles.h"
 
 #include <QLibraryInfo>
@@ -34,11 +35,13 @@ bool s_autoLoadTranslations = true;
 // while late-destroyed widgets still paint.
 const RibbonStyle &paletteOf(RibbonApplication::eRibbonStyle kind)
 {
+    // Their images are decoded as they are first painted: a window shows few of them.
+    // The deferring guard is a temporary that lives until the constructor returns.
     if (kind == RibbonApplication::RibbonStyleDark) {
-        static const DarkRibbonStyle dark(QStringLiteral(":/zel/ribbon/dark/"));
+        static const DarkRibbonStyle dark((RibbonDeferredPaletteImages(), QStringLiteral(":/zel/ribbon/dark/")));
         return dark;
     }
-    static const DefaultRibbonStyle style(QStringLiteral(":/zel/ribbon/windows/"));
+    static const DefaultRibbonStyle style((RibbonDeferredPaletteImages(), QStringLiteral(":/zel/ribbon/windows/")));
     return style;
 }
 

@@ -162,11 +162,21 @@ void drawPart(QPainter &painter, const QRect &target, const QPixmap &pixmap, con
 
 QPixmap loadImage(const QString &path)
 {
-    if (qGuiApp && qGuiApp->devicePixelRatio() > 1.0) {
+    return loadImage(path, wantsHighResolutionImages());
+}
+
+bool wantsHighResolutionImages()
+{
+    return qGuiApp && qGuiApp->devicePixelRatio() > 1.0;
+}
+
+QPixmap loadImage(const QString &path, bool highResolution)
+{
+    if (highResolution) {
         const QFileInfo info(path);
-        const QString highResolution =
+        const QString doubled =
             info.path() + QLatin1Char('/') + info.completeBaseName() + QStringLiteral("@2x.") + info.suffix();
-        QPixmap pixmap(highResolution);
+        QPixmap pixmap(doubled);
         if (!pixmap.isNull()) {
             // The reader sets the ratio from the "@2x" name; say it once more for readers
             // that do not.

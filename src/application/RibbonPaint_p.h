@@ -62,6 +62,12 @@ ZELRIBBON_AUTOTEST_EXPORT void drawPart(QPainter &painter, const QRect &target, 
 // 1, its "name@2x" drawing when there is one (a null pixmap when path is missing).
 QPixmap loadImage(const QString &path);
 
+// Whether loadImage() looks for "name@2x" drawings now.
+bool wantsHighResolutionImages();
+
+// loadImage() as it was when wantsHighResolutionImages() gave highResolution.
+QPixmap loadImage(const QString &path, bool highResolution);
+
 // Draws a three-slice (caps of leftCap and rightCap pixels) of source onto target.
 // For one-off drawing; widgets that paint the same slices repeatedly keep a RibbonSlices.
 void drawThreeSlice(QPainter &painter, const QRect &target, const QPixmap &pixmap,

@@ -2,18 +2,85 @@
 
 #include "RibbonApplication.h"
 #include "RibbonPaint_p.h"
+#include "RibbonStyleImages_p.h"
 
 #include <QPainter>
 #include <QPolygon>
 #include <QRect>
 
 #include <algorithm>
+#include <unordered_map>
 
 namespace zel {
 
-RibbonStyle::RibbonStyle() = default;
+namespace {
+
+bool s_deferImages = false;
+
+} // namespace
+
+struct RibbonStyle::Priv
+{
+    struct Deferred
+    {
+        QString path;
+        bool highResolution = false;
+        bool loaded = false;
+        QPixmap image;
+    };
+
+    bool deferImages = s_deferImages;
+    // Keyed by the entry; a node container, so that references handed out stay valid.
+    std::unordered_map<const QPixmap *, Deferred> deferred;
+};
+
+RibbonDeferredPaletteImages::RibbonDeferredPaletteImages()
+    : m_outer(s_deferImages)
+{
+    s_deferImages = true;
+}
+
+RibbonDeferredPaletteImages::~RibbonDeferredPaletteImages()
+{
+    s_deferImages = m_outer;
+}
+
+RibbonStyle::RibbonStyle()
+    : d(new Priv)
+{
+}
 
 RibbonStyle::~RibbonStyle() = default;
+
+void RibbonStyle::loadImage(QPixmap &entry, const QString &path)
+{
+    if (!d->deferImages) {
+        entry = RibbonPaint::loadImage(path);
+        return;
+    }
+    // The resolution is the one of now, as if the image were decoded now.
+    entry = QPixmap();
+    Priv::Deferred &deferred = d->deferred[&entry];
+    deferred = Priv::Deferred();
+    deferred.path = path;
+    deferred.highResolution = RibbonPaint::wantsHighResolutionImages();
+}
+
+const QPixmap &RibbonStyle::image(const QPixmap &entry) const
+{
+    // An entry a subclass filled itself wins over a deferred one.
+    if (!entry.isNull() || d->deferred.empty())
+        return entry;
+    const auto it = d->deferred.find(&entry);
+    if (it == d->deferred.end())
+        return entry;
+    Priv::Deferred &deferred = it->second;
+    if (!deferred.loaded) {
+        deferred.image = RibbonPaint::loadImage(deferred.path, deferred.highResolution);
+        deferred.loaded = true;
+    }
+    return deferred.image;
+}
 
 namespace {
 

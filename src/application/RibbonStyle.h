@@ -8,6 +8,8 @@
 #include <QPixmap>
 #include <QString>
 
+#include <memory>
+
 class QPainter;
 class QRect;
 
@@ -60,58 +62,58 @@ public:
     const QColor &fileMenuBarTextColor() const { return m_fileMenuBarTextColor; }
     const QColor &separatorColor() const { return m_separatorColor; }
 
-    const QPixmap &mainBorder() const { return m_mainBorder; }
-    const QPixmap &mainBorderCaption() const { return m_mainBorderCaption; }
-    const QPixmap &statusBar() const { return m_statusBar; }
+    const QPixmap &mainBorder() const { return image(m_mainBorder); }
+    const QPixmap &mainBorderCaption() const { return image(m_mainBorderCaption); }
+    const QPixmap &statusBar() const { return image(m_statusBar); }
     const QColor &statusBarTextColor() const { return m_statusBarTextColor; }
-    const QPixmap &sysBtnBack() const { return m_sysBtnBack; }
-    const QPixmap &toolBoxTabBack() const { return m_toolBoxTabBack; }
-    const QPixmap &sysBtnClose() const { return m_sysBtnClose; }
-    const QPixmap &sysBtnCloseSmall() const { return m_sysBtnCloseSmall; }
-    const QPixmap &sysBtnMaximize() const { return m_sysBtnMaximize; }
-    const QPixmap &sysBtnMaximizeSmall() const { return m_sysBtnMaximizeSmall; }
-    const QPixmap &sysBtnMinimize() const { return m_sysBtnMinimize; }
-    const QPixmap &sysBtnMinimizeSmall() const { return m_sysBtnMinimizeSmall; }
-    const QPixmap &sysBtnRestore() const { return m_sysBtnRestore; }
-    const QPixmap &sysBtnRestoreSmall() const { return m_sysBtnRestoreSmall; }
-    const QPixmap &normalButtonSmall() const { return m_normalButtonSmall; }
-    const QPixmap &menuBarButton() const { return m_menuBarButton; }
-    const QPixmap &fileBarButton() const { return m_fileBarButton; }
-    const QPixmap &categories() const { return m_categories; }
+    const QPixmap &sysBtnBack() const { return image(m_sysBtnBack); }
+    const QPixmap &toolBoxTabBack() const { return image(m_toolBoxTabBack); }
+    const QPixmap &sysBtnClose() const { return image(m_sysBtnClose); }
+    const QPixmap &sysBtnCloseSmall() const { return image(m_sysBtnCloseSmall); }
+    const QPixmap &sysBtnMaximize() const { return image(m_sysBtnMaximize); }
+    const QPixmap &sysBtnMaximizeSmall() const { return image(m_sysBtnMaximizeSmall); }
+    const QPixmap &sysBtnMinimize() const { return image(m_sysBtnMinimize); }
+    const QPixmap &sysBtnMinimizeSmall() const { return image(m_sysBtnMinimizeSmall); }
+    const QPixmap &sysBtnRestore() const { return image(m_sysBtnRestore); }
+    const QPixmap &sysBtnRestoreSmall() const { return image(m_sysBtnRestoreSmall); }
+    const QPixmap &normalButtonSmall() const { return image(m_normalButtonSmall); }
+    const QPixmap &menuBarButton() const { return image(m_menuBarButton); }
+    const QPixmap &fileBarButton() const { return image(m_fileBarButton); }
+    const QPixmap &categories() const { return image(m_categories); }
     const QColor &categoryColorUnderButton() const { return m_categoryColorUnderButton; }
-    const QPixmap &categoryTop() const { return m_categoryTop; }
-    const QPixmap &categoryBottom() const { return m_categoryBottom; }
-    const QPixmap &categoryWrapperBack() const { return m_categoryWrapperBack; }
-    const QPixmap &categoryWrapperIcon() const { return m_categoryWrapperIcon; }
-    const QPixmap &mainPanelBack() const { return m_mainPanelBack; }
-    const QPixmap &horizontalMenuButtonCaption() const { return m_horizontalMenuButtonCaption; }
-    const QPixmap &horizontalMenuButtonMenu() const { return m_horizontalMenuButtonMenu; }
-    const QPixmap &verticalMenuButtonCaption() const { return m_verticalMenuButtonCaption; }
-    const QPixmap &verticalMenuButtonMenu() const { return m_verticalMenuButtonMenu; }
-    const QPixmap &mainPanelBorder() const { return m_mainPanelBorder; }
-    const QPixmap &mainPanelSeparator() const { return m_mainPanelSeparator; }
-    const QPixmap &mainPanelButton() const { return m_mainPanelButton; }
-    const QPixmap &paletteBtnTop() const { return m_paletteBtnTop; }
-    const QPixmap &paletteBtnMiddle() const { return m_paletteBtnMiddle; }
-    const QPixmap &paletteBtnBottom() const { return m_paletteBtnBottom; }
-    const QPixmap &paletteItemLarge() const { return m_paletteItemLarge; }
-    const QPixmap &paletteItemSmall() const { return m_paletteItemSmall; }
-    const QPixmap &popupBorder() const { return m_popupBorder; }
-    const QPixmap &popupResizeBarBack() const { return m_popupResizeBarBack; }
-    const QPixmap &popupResizeBarIconB() const { return m_popupResizeBarIconB; }
-    const QPixmap &popupResizeBarIconBR() const { return m_popupResizeBarIconBR; }
-    const QPixmap &popupResizeBarIconTR() const { return m_popupResizeBarIconTR; }
-    const QPixmap &checkableMenuItemBack() const { return m_checkableMenuItemBack; }
-    const QPixmap &tabBarTabs() const { return m_tabBarTabs; }
-    const QPixmap &sliderPlus() const { return m_sliderPlus; }
-    const QPixmap &sliderMinus() const { return m_sliderMinus; }
-    const QPixmap &sliderThumb() const { return m_sliderThumb; }
-    const QPixmap &btnGroupFirst() const { return m_btnGroupFirst; }
-    const QPixmap &btnGroupMidle() const { return m_btnGroupMidle; }
-    const QPixmap &btnGroupLast() const { return m_btnGroupLast; }
-    const QPixmap &comboBox() const { return m_comboBox; }
-    const QPixmap &tabBarTabShape() const { return m_tabBarTabShape; }
-    const QPixmap &tooltipBack() const { return m_tooltipBack; }
+    const QPixmap &categoryTop() const { return image(m_categoryTop); }
+    const QPixmap &categoryBottom() const { return image(m_categoryBottom); }
+    const QPixmap &categoryWrapperBack() const { return image(m_categoryWrapperBack); }
+    const QPixmap &categoryWrapperIcon() const { return image(m_categoryWrapperIcon); }
+    const QPixmap &mainPanelBack() const { return image(m_mainPanelBack); }
+    const QPixmap &horizontalMenuButtonCaption() const { return image(m_horizontalMenuButtonCaption); }
+    const QPixmap &horizontalMenuButtonMenu() const { return image(m_horizontalMenuButtonMenu); }
+    const QPixmap &verticalMenuButtonCaption() const { return image(m_verticalMenuButtonCaption); }
+    const QPixmap &verticalMenuButtonMenu() const { return image(m_verticalMenuButtonMenu); }
+    const QPixmap &mainPanelBorder() const { return image(m_mainPanelBorder); }
+    const QPixmap &mainPanelSeparator() const { return image(m_mainPanelSeparator); }
+    const QPixmap &mainPanelButton() const { return image(m_mainPanelButton); }
+    const QPixmap &paletteBtnTop() const { return image(m_paletteBtnTop); }
+    const QPixmap &paletteBtnMiddle() const { return image(m_paletteBtnMiddle); }
+    const QPixmap &paletteBtnBottom() const { return image(m_paletteBtnBottom); }
+    const QPixmap &paletteItemLarge() const { return image(m_paletteItemLarge); }
+    const QPixmap &paletteItemSmall() const { return image(m_paletteItemSmall); }
+    const QPixmap &popupBorder() const { return image(m_popupBorder); }
+    const QPixmap &popupResizeBarBack() const { return image(m_popupResizeBarBack); }
+    const QPixmap &popupResizeBarIconB() const { return image(m_popupResizeBarIconB); }
+    const QPixmap &popupResizeBarIconBR() const { return image(m_popupResizeBarIconBR); }
+    const QPixmap &popupResizeBarIconTR() const { return image(m_popupResizeBarIconTR); }
+    const QPixmap &checkableMenuItemBack() const { return image(m_checkableMenuItemBack); }
+    const QPixmap &tabBarTabs() const { return image(m_tabBarTabs); }
+    const QPixmap &sliderPlus() const { return image(m_sliderPlus); }
+    const QPixmap &sliderMinus() const { return image(m_sliderMinus); }
+    const QPixmap &sliderThumb() const { return image(m_sliderThumb); }
+    const QPixmap &btnGroupFirst() const { return image(m_btnGroupFirst); }
+    const QPixmap &btnGroupMidle() const { return image(m_btnGroupMidle); }
+    const QPixmap &btnGroupLast() const { return image(m_btnGroupLast); }
+    const QPixmap &comboBox() const { return image(m_comboBox); }
+    const QPixmap &tabBarTabShape() const { return image(m_tabBarTabShape); }
+    const QPixmap &tooltipBack() const { return image(m_tooltipBack); }
     const QColor &backstageSimpleButtonColor() const { return m_backstageSimpleButtonColor; }
     const QColor &backstageBlackTextColor() const { return m_backstageBlackTextColor; }
     const QColor &backstageGrayBorderColor() const { return m_backstageGrayBorderColor; }
@@ -162,6 +164,11 @@ public:
     static void drawSymbol(QPainter &painter, const QRect &rect, eSymbolType symbol);
 
 protected:
+    // Fills an image entry from path, as RibbonPaint's loader does. The palettes the
+    // application builds for itself decode each image on its first use instead; a
+    // palette built by the host has every entry filled when its constructor returns.
+    void loadImage(QPixmap &entry, const QString &path);
+
     // The entries, in getter order; a subclass fills them in its constructor.
     QColor m_mainClientColor;
     QColor m_mainMenuBgColor;
@@ -296,6 +303,12 @@ protected:
     QFont m_backstageXSmallBoldFont;
 
 private:
+    // The entry itself, or its image decoded on first use when loading was deferred.
+    const QPixmap &image(const QPixmap &entry) const;
+
+    struct Priv;
+    std::unique_ptr<Priv> d;
+
     Q_DISABLE_COPY(RibbonStyle)
 };
 
