@@ -14,6 +14,7 @@
 #include "RibbonScale_p.h"
 #include "RibbonStyle.h"
 #include "RibbonSymbolButton.h"
+#include "RibbonTextFit_p.h"
 #include "RibbonToolBar.h"
 
 #include <QHoverEvent>
@@ -187,6 +188,9 @@ void tst_RibbonButtons::twoLineFitMatchesFontMetrics_data()
     QTest::addColumn<QString>("text");
 
     QTest::newRow("words") << QStringLiteral("Check Spelling and Grammar");
+    QTest::newRow("two words") << QStringLiteral("Group 12.3");
+    QTest::newRow("three words") << QStringLiteral("Insert Table Row");
+    QTest::newRow("short and long word") << QStringLiteral("A Supercalifragilistic");
     QTest::newRow("one long word") << QStringLiteral("Supercalifragilisticexpialidocious");
     QTest::newRow("many short words") << QStringLiteral("a b c d e f g h i j k l m n o p");
     QTest::newRow("double spaces") << QStringLiteral("Two  spaces  between  words");
@@ -217,6 +221,8 @@ void tst_RibbonButtons::twoLineFitMatchesFontMetrics()
         const int tw = fm.horizontalAdvance(text);
         QVERIFY(tw + 4 >= 35);
         QCOMPARE(button.sizeHint().width(), qMax(twoLineFit(fm, text).width() + 10, 42));
+        const RibbonCaptionFit fit = ribbonCaptionFit(button, text);
+        QCOMPARE(QSize(fit.width, fit.height), twoLineFit(fm, text));
     }
 }
 

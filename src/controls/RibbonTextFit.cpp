@@ -15,7 +15,7 @@ namespace {
 
 const int kFlags = Qt::AlignTop | Qt::AlignHCenter | Qt::TextWordWrap;
 
-// Word-wrapped measuring with the shaping kept between trials. Each measure() lays
+// Word-wrapped measuring with the shaping kept between trials. Each layout() lays
 // the lines out the way the text-drawing code of QPainter does for bounding
 // rectangles: lines start on whole pixels, are separated by the font's leading, and
 // the block is centred in the trial width before being aligned to whole pixels.
@@ -39,20 +39,34 @@ public:
 
     ~WrappedText() { m_layout.endLayout(); }
 
-    QRect measure(int trial)
+    // The block of lines at a trial width, before it is centred in that width.
+    struct Block
+    {
+        qreal width = 0;
+        qreal height = 0;
+        int lines = 0;
+    };
+
+    Block layout(int trial)
     {
         const qreal lineWidth = qMax<qreal>(0, trial);
-        qreal width = 0;
-        qreal height = -m_leading;
+        Block block;
+        block.height = -m_leading;
         m_layout.clearLayout();
         for (QTextLine line = m_layout.createLine(); line.isValid(); line = m_layout.createLine()) {
             line.setLineWidth(lineWidth);
-            height = std::ceil(height + m_leading);
-            line.setPosition(QPointF(0, height));
-            height += line.ascent() + line.descent();
-            width = qMax(width, line.naturalTextWidth());
+            block.height = std::ceil(block.height + m_leading);
+            line.setPosition(QPointF(0, block.height));
+            block.height += line.ascent() + line.descent();
+            block.width = qMax(block.width, line.naturalTextWidth());
+            ++block.lines;
         }
-        return QRectF((trial - width) / 2, 0, width, height).toAlignedRect();
+        return block;
+    }
+
+    static QRect aligned(const Block &block, int trial)
+    {
+        return QRectF((trial - block.width) / 2, 0, block.width, block.height).toAlignedRect();
     }
 
 private:
@@ -92,11 +106,27 @@ RibbonCaptionFit measureCaption(const QFont &font, const QString &text)
     bool direct = false;
     const QString prepared = preparedText(text, &direct);
     WrappedText wrapped(font, prepared);
+    // Lines break between unbreakable runs. At width 0 every run takes a line of its own;
+    // a wider trial that still gives as many lines holds the same lines, and so does every
+    // narrower one: only the centring differs, and the search, which narrows while the
+    // text fits, mostly ends among such trials.
+    WrappedText::Block finest;
+    int finestUpTo = 0; // trials up to this width lay out as finest
+    if (direct)
+        finest = wrapped.layout(0);
     int trial = fit.textWidth;
     int step = fit.textWidth;
     while (step != 0) {
         step /= 2;
-        const QRect bounds = direct ? wrapped.measure(trial) : fm.boundingRect(QRect(0, 0, trial, 0), kFlags, text);
+        QRect bounds;
+        if (direct) {
+            const WrappedText::Block block = trial <= finestUpTo ? finest : wrapped.layout(trial);
+            if (block.lines == finest.lines)
+                finestUpTo = qMax(finestUpTo, trial);
+            bounds = WrappedText::aligned(block, trial);
+        } else {
+            bounds = fm.boundingRect(QRect(0, 0, trial, 0), kFlags, text);
+        }
         if (bounds.height() <= limit) {
             fit.width = bounds.width();
             fit.height = bounds.height();

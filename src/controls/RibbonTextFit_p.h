@@ -3,6 +3,8 @@
 // Caption measuring shared by large buttons, large menu buttons and folded category
 // buttons. Not installed.
 
+#include "RibbonAutotestExport_p.h"
+
 #include <QString>
 
 class QWidget;
@@ -27,6 +29,6 @@ struct RibbonCaptionFit
 // TextWordWrap, text) does, and the last trial that fits gives width and height.
 // The text is shaped once for the whole search, and results are remembered per font,
 // resolution and text.
-RibbonCaptionFit ribbonCaptionFit(const QWidget &widget, const QString &text);
+ZELRIBBON_AUTOTEST_EXPORT RibbonCaptionFit ribbonCaptionFit(const QWidget &widget, const QString &text);
 
 } // namespace zel
