@@ -58,7 +58,7 @@ void RibbonStyle::loadImage(QPixmap &entry, const QString &path)
         entry = RibbonPaint::loadImage(path);
         return;
     }
-    // The resolution is the one of now, as if the image were decoded now.
+    // Decoded later, but for the resolution of now, as loading at once would.
     entry = QPixmap();
     Priv::Deferred &deferred = d->deferred[&entry];
     deferred = Priv::Deferred();
