@@ -116,6 +116,7 @@ class tst_RibbonMenuBar : public QObject
 
 private slots:
     void tabRow();
+    void hoverFollowsTheCursorBetweenPaints();
     void removeCurrentTab_data();
     void removeCurrentTab();
     void pinnedTabs();
@@ -457,6 +458,29 @@ void tst_RibbonMenuBar::helpAndFindButtons()
     delete help2;
     QVERIFY(!f.bar().helpAction());
     QCOMPARE(rowWidgets(f.bar()).size(), 1);
+}
+
+void tst_RibbonMenuBar::hoverFollowsTheCursorBetweenPaints()
+{
+    // A tab looks hovered while the cursor lies on it, wherever the cursor was at the
+    // previous paint and with no event between the two: paints in a row each see the
+    // cursor where it is.
+    Fixture f;
+    const QList<Tab *> tabs = f.addTabs({"Home", "View"});
+    QVERIFY(f.show());
+    RibbonMenuBarButton *view = f.bar().menuBarButton(tabs.last());
+    QVERIFY(view && !view->isChecked());
+    const QPoint inside = view->mapToGlobal(view->rect().center());
+    const QPoint outside = f.window->mapToGlobal(QPoint(-50, -50));
+
+    QCursor::setPos(outside);
+    const QImage away = view->grab().toImage();
+    QCursor::setPos(inside);
+    const QImage over = view->grab().toImage();
+    QCursor::setPos(outside);
+    const QImage awayAgain = view->grab().toImage();
+    QVERIFY(over != away);
+    QCOMPARE(awayAgain, away);
 }
 
 ZEL_TEST_MAIN(tst_RibbonMenuBar)

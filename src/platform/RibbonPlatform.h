@@ -70,6 +70,12 @@ public:
     using SystemDragHandler = std::function<bool(QWidget *window, Qt::Edges edges)>;
     static void setSystemDragHandler(const SystemDragHandler &handler);
 
+    // Where the mouse cursor is, in global coordinates, for painting a hover look.
+    // Where asking costs a round trip to a display server, the answer is kept while the
+    // application only paints, so that one pass over many widgets asks once; any other
+    // event (a mouse event among them) drops it. Elsewhere this is QCursor::pos().
+    static QPoint cursorPos();
+
     // Raises the window above the others and gives it the input focus.
     static void bringToFront(QWidget *window);
 
