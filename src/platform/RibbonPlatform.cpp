@@ -50,6 +50,12 @@ public:
         return m_pos;
     }
 
+    void forget()
+    {
+        m_valid = false;
+        QCoreApplication::instance()->removeEventFilter(this);
+    }
+
     bool eventFilter(QObject *, QEvent *event) override
     {
         switch (event->type()) {
@@ -58,11 +64,21 @@ public:
         case QEvent::UpdateLater:
             break;
         default:
-            m_valid = false;
-            QCoreApplication::instance()->removeEventFilter(this);
+            forget();
             break;
         }
         return false;
+    }
+
+    // The application's cache, made on first use and owned by the application.
+    static CursorCache *instance()
+    {
+        static QPointer<CursorCache> cache;
+        if (!cache) {
+            cache = new CursorCache;
+            cache->setParent(QCoreApplication::instance());
+        }
+        return cache;
     }
 
 private:
@@ -77,6 +93,13 @@ bool cursorQueryIsRoundTrip()
 {
     static const bool roundTrip = QGuiApplication::platformName() == QLatin1String("xcb");
     return roundTrip;
+}
+
+// Set by tests: 1 keeps the cursor position, 0 always asks, -1 leaves it to the platform.
+int &cursorCachingOverride()
+{
+    static int keep = -1;
+    return keep;
 }
 
 } // namespace
@@ -197,15 +220,24 @@ void RibbonPlatform::setSystemDragHandler(const SystemDragHandler &handler)
 
 QPoint RibbonPlatform::cursorPos()
 {
-    if (!QCoreApplication::instance() || !cursorQueryIsRoundTrip())
+    const int keep = cursorCachingOverride();
+    if (!QCoreApplication::instance() || keep == 0 || (keep < 0 && !cursorQueryIsRoundTrip()))
         return QCursor::pos();
-    // Owned by the application, so that it goes with it.
-    static QPointer<CursorCache> cache;
-    if (!cache) {
-        cache = new CursorCache;
-        cache->setParent(QCoreApplication::instance());
-    }
-    return cache->pos();
+    return CursorCache::instance()->pos();
+}
+
+void RibbonPlatform::setCursorPosCaching(bool keep)
+{
+    cursorCachingOverride() = keep ? 1 : 0;
+    if (QCoreApplication::instance())
+        CursorCache::instance()->forget();
+}
+
+void RibbonPlatform::resetCursorPosCaching()
+{
+    cursorCachingOverride() = -1;
+    if (QCoreApplication::instance())
+        CursorCache::instance()->forget();
 }
 
 void RibbonPlatform::bringToFront(QWidget *window)

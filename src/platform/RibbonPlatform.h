@@ -75,6 +75,11 @@ public:
     // application only paints, so that one pass over many widgets asks once; any other
     // event (a mouse event among them) drops it. Elsewhere this is QCursor::pos().
     static QPoint cursorPos();
+    // Makes cursorPos() keep its answer as it does under X11 (true) or always ask (false),
+    // whatever the platform, so that tests can watch the kept answer; the platform
+    // decides again after resetCursorPosCaching().
+    static void setCursorPosCaching(bool keep);
+    static void resetCursorPosCaching();
 
     // Raises the window above the others and gives it the input focus.
     static void bringToFront(QWidget *window);
