@@ -19,6 +19,7 @@
 #include "RibbonMainWindow.h"
 #include "RibbonMenuBar.h"
 #include "RibbonMenuBarButton.h"
+#include "RibbonPlatform.h"
 #include "RibbonScale_p.h"
 #include "RibbonSimpleAction.h"
 
@@ -116,6 +117,8 @@ class tst_RibbonMenuBar : public QObject
 
 private slots:
     void tabRow();
+    void hoverFollowsTheCursorBetweenPaints();
+    void cursorKeptThroughPaintingOnly();
     void removeCurrentTab_data();
     void removeCurrentTab();
     void pinnedTabs();
@@ -457,6 +460,57 @@ void tst_RibbonMenuBar::helpAndFindButtons()
     delete help2;
     QVERIFY(!f.bar().helpAction());
     QCOMPARE(rowWidgets(f.bar()).size(), 1);
+}
+
+void tst_RibbonMenuBar::hoverFollowsTheCursorBetweenPaints()
+{
+    // A tab looks hovered while the cursor lies on it, wherever the cursor was at the
+    // previous paint and with no event between the two: paints in a row each see the
+    // cursor where it is.
+    Fixture f;
+    const QList<Tab *> tabs = f.addTabs({"Home", "View"});
+    QVERIFY(f.show());
+    RibbonMenuBarButton *view = f.bar().menuBarButton(tabs.last());
+    QVERIFY(view && !view->isChecked());
+    const QPoint inside = view->mapToGlobal(view->rect().center());
+    const QPoint outside = f.window->mapToGlobal(QPoint(-50, -50));
+
+    QCursor::setPos(outside);
+    const QImage away = view->grab().toImage();
+    QCursor::setPos(inside);
+    const QImage over = view->grab().toImage();
+    QCursor::setPos(outside);
+    const QImage awayAgain = view->grab().toImage();
+    QVERIFY(over != away);
+    QCOMPARE(awayAgain, away);
+}
+
+void tst_RibbonMenuBar::cursorKeptThroughPaintingOnly()
+{
+    // Where asking for the cursor is a round trip to the display server, one answer
+    // serves a run of paints: it holds through paint events and goes at the first other
+    // event, as a mouse event would be.
+    Fixture f;
+    const QList<Tab *> tabs = f.addTabs({"Home", "View"});
+    QVERIFY(f.show());
+    RibbonMenuBarButton *view = f.bar().menuBarButton(tabs.last());
+    QVERIFY(view);
+    const QPoint inside = view->mapToGlobal(view->rect().center());
+    const QPoint outside = f.window->mapToGlobal(QPoint(-50, -50));
+    QCursor::setPos(outside);
+    QCoreApplication::processEvents();
+
+    RibbonPlatform::setCursorPosCaching(true);
+    const QImage away = view->grab().toImage();
+    QCursor::setPos(inside);
+    const QImage kept = view->grab().toImage();
+    QEvent other(QEvent::User);
+    QCoreApplication::sendEvent(view, &other);
+    const QImage over = view->grab().toImage();
+    RibbonPlatform::resetCursorPosCaching();
+
+    QCOMPARE(kept, away);
+    QVERIFY(over != away);
 }
 
 ZEL_TEST_MAIN(tst_RibbonMenuBar)

@@ -6,6 +6,7 @@
 
 #include <QMouseEvent>
 #include <QPointer>
+#include <QSet>
 #include <QTimer>
 #include <QWindow>
 
@@ -100,6 +101,33 @@ bool allVisible(bool visible)
                        [visible](QWidget *w) { return w->isVisible() == visible; });
 }
 
+// Which border items hid and which painted while it watched them.
+class ItemEvents : public QObject
+{
+public:
+    explicit ItemEvents(const QList<QWidget *> &items)
+    {
+        for (QWidget *item : items)
+            item->installEventFilter(this);
+    }
+    void clear()
+    {
+        hidden.clear();
+        painted.clear();
+    }
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Hide)
+            hidden.insert(watched);
+        else if (event->type() == QEvent::Paint)
+            painted.insert(watched);
+        return false;
+    }
+
+    QSet<QObject *> hidden;
+    QSet<QObject *> painted;
+};
+
 int alphaAt(QWidget *widget, const QPoint &at)
 {
     return qAlpha(widget->grab().toImage().pixel(at));
@@ -152,6 +180,8 @@ private slots:
     void visibilityFollowsShowAndHide();
     void minimisingHidesAndRestoringShows();
     void closedWindowKeepsItemsHidden();
+    void delayedUpdateKeepsShownItemsUp_data();
+    void delayedUpdateKeepsShownItemsUp();
     void maskAndActivation();
     void maskFollowsActivationWithoutGrab();
     void shadowFadesAwayFromWindow_data();
@@ -403,6 +433,43 @@ void tst_RibbonWindowBorder::closedWindowKeepsItemsHidden()
     QTRY_VERIFY(m_window->isActiveWindow());
     QVERIFY(runDelayedUpdates(m_border) > 0);
     QVERIFY(allVisible(false));
+}
+
+void tst_RibbonWindowBorder::delayedUpdateKeepsShownItemsUp_data()
+{
+    QTest::addColumn<bool>("maximise");
+    QTest::newRow("activation") << false;
+    QTest::newRow("maximised") << true;
+}
+
+void tst_RibbonWindowBorder::delayedUpdateKeepsShownItemsUp()
+{
+    // The update after an activation or a change of state brings the items back in front
+    // and repaints them (a maximised window's items draw nothing, whether or not they
+    // moved), without hiding those that stay up: a hidden item is a window the window
+    // manager lets go of and has to take in again.
+    QFETCH(bool, maximise);
+    makeWindow(0, true);
+    QVERIFY(showWindow(true));
+    runDelayedUpdates(m_border);
+    ItemEvents events(borderItems());
+    if (maximise) {
+        m_window->showMaximized();
+        QTRY_VERIFY(m_window->isMaximized());
+    } else {
+        QApplication::setActiveWindow(nullptr);
+        QTRY_VERIFY(!QApplication::activeWindow());
+        QApplication::setActiveWindow(m_window.get());
+        QTRY_VERIFY(m_window->isActiveWindow());
+    }
+    QTRY_VERIFY(!pendingUpdates(m_border).isEmpty());
+    // Only the update's own repaints count from here on.
+    QTest::qWait(0);
+    events.clear();
+    QVERIFY(runDelayedUpdates(m_border) > 0);
+    QVERIFY(allVisible(true));
+    QVERIFY(events.hidden.isEmpty());
+    QTRY_COMPARE(events.painted.size(), 8);
 }
 
 void tst_RibbonWindowBorder::maskAndActivation()

@@ -88,6 +88,8 @@ private slots:
 
     void tabCategories();
     void categoryMembersAndRows();
+    void categoryRowsFollowTheirMembers_data();
+    void categoryRowsFollowTheirMembers();
     void containerRelaysActivationOnce_data();
     void containerRelaysActivationOnce();
     void exclusiveGroup();
@@ -189,6 +191,44 @@ void tst_StructureActions::categoryMembersAndRows()
     log.clear();
     a.setText(QStringLiteral("Removed")); // no longer connected
     QVERIFY(log.isEmpty());
+}
+
+void tst_StructureActions::categoryRowsFollowTheirMembers_data()
+{
+    QTest::addColumn<int>("gone");
+    QTest::addColumn<bool>("destroyed");
+    for (int gone = 0; gone < 3; ++gone) {
+        QTest::addRow("member %d removed", gone) << gone << false;
+        QTest::addRow("member %d destroyed", gone) << gone << true;
+    }
+}
+
+// Every member keeps its own row when another one leaves, from any place in the list.
+void tst_StructureActions::categoryRowsFollowTheirMembers()
+{
+    QFETCH(int, gone);
+    QFETCH(bool, destroyed);
+    RibbonCategoryAction category(nullptr);
+    QList<RibbonAction *> members;
+    for (int i = 0; i < 3; ++i)
+        members << new RibbonSimpleAction(&category);
+    const QList<int> rows{7, 0, 4};
+    for (int i = 0; i < 3; ++i)
+        category.addAction(members.at(i), rows.at(i));
+    if (destroyed)
+        delete members.at(gone);
+    else
+        category.removeAction(members.at(gone));
+    for (int i = 0; i < 3; ++i) {
+        if (i != gone)
+            QCOMPARE(category.actionRow(members.at(i)), rows.at(i));
+    }
+    QCOMPARE(category.actions().size(), 2);
+    // The leaver's row is gone with it: joining again takes the new row.
+    if (!destroyed) {
+        category.addAction(members.at(gone), 9);
+        QCOMPARE(category.actionRow(members.at(gone)), 9);
+    }
 }
 
 void tst_StructureActions::containerRelaysActivationOnce_data()

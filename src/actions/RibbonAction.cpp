@@ -38,12 +38,14 @@ void registerActionMetaTypes()
 RibbonAction::RibbonAction(QObject *parent)
     : QWidgetAction(parent)
 {
+    reserveConnections();
     connectToListener();
 }
 
 RibbonAction::RibbonAction(const QString &text, QObject *parent)
     : QWidgetAction(parent)
 {
+    reserveConnections();
     setText(text);
     connectToListener();
     RibbonActionsContainer::instance().addAction(text, QPointer<QAction>(this));
@@ -52,6 +54,7 @@ RibbonAction::RibbonAction(const QString &text, QObject *parent)
 RibbonAction::RibbonAction(const QIcon &icon, const QString &text, QObject *parent)
     : QWidgetAction(parent)
 {
+    reserveConnections();
     setText(text);
     setIcon(icon);
     connectToListener();
@@ -62,6 +65,7 @@ RibbonAction::RibbonAction(QPointer<QAction> alias, QObject *parent)
     : QWidgetAction(parent)
     , m_alias(alias)
 {
+    reserveConnections();
     if (m_alias) {
         setText(m_alias->text());
         setIcon(m_alias->icon());
@@ -77,6 +81,7 @@ RibbonAction::RibbonAction(QPointer<QAction> alias, const QIcon &icon, const QSt
     , m_keepOwnText(true)
     , m_keepOwnIcon(true)
 {
+    reserveConnections();
     setText(text);
     setIcon(icon);
     adoptAlias();
@@ -88,6 +93,7 @@ RibbonAction::RibbonAction(QPointer<RibbonAction> alias, QObject *parent)
     : QWidgetAction(parent)
     , m_alias(alias.data())
 {
+    reserveConnections();
     // Text and icon follow at the alias's next change.
     adoptAlias();
     connectToListener();
@@ -98,6 +104,7 @@ RibbonAction::RibbonAction(QPointer<RibbonAction> alias, const QString &text, QO
     , m_alias(alias.data())
     , m_keepOwnText(true)
 {
+    reserveConnections();
     setText(text);
     adoptAlias();
     connectToListener();
@@ -116,6 +123,19 @@ void RibbonAction::adoptAlias()
     setEnabled(m_alias->isEnabled());
     setCheckable(m_alias->isCheckable());
     connectWithAlieas();
+}
+
+void RibbonAction::reserveConnections()
+{
+    // Qt keeps an object's connections in a table indexed by signal, grown in steps of
+    // eight signals, and keeps an outgrown table until a disconnection or the object's
+    // destruction. The first connections (to the listener, to the alias) are on
+    // QAction's own signals, which fit the first step; the containers' connection to
+    // ribbonActionActivated() then outgrows it, and every command would carry both
+    // tables. Connecting that signal first sizes the table for it at once; the
+    // temporary connection goes at once, the table stays.
+    const QMetaObject::Connection sizing = connect(this, &RibbonAction::ribbonActionActivated, this, [] {});
+    disconnect(sizing);
 }
 
 void RibbonAction::connectToListener()

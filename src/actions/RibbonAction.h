@@ -64,6 +64,7 @@ protected:
     static QStringList ForbiddenActions;
 
 private:
+    void reserveConnections();
     void adoptAlias();
     void connectWithAlieas();
     void disconnectFromAlias(QAction *alias);

@@ -26,7 +26,7 @@ void RibbonCategoryAction::addAction(RibbonAction *action, int row)
     if (!action || m_actions.contains(action) || RibbonMembers::closesCycle(this, action))
         return;
     m_actions.append(action);
-    m_rows.insert(action, row);
+    m_rows.append(row);
     connect(action, SIGNAL(changed()), this, SLOT(actionChanged()));
     connect(action, SIGNAL(ribbonActionActivated()), this, SLOT(actionActivated()));
     connect(action, &QObject::destroyed, this, &RibbonCategoryAction::forgetAction);
@@ -41,8 +41,9 @@ void RibbonCategoryAction::removeAction(RibbonAction *action)
     disconnect(action, SIGNAL(changed()), this, SLOT(actionChanged()));
     disconnect(action, SIGNAL(ribbonActionActivated()), this, SLOT(actionActivated()));
     disconnect(action, &QObject::destroyed, this, &RibbonCategoryAction::forgetAction);
-    m_actions.removeAll(action);
-    m_rows.remove(action);
+    const int index = m_actions.indexOf(action);
+    m_actions.removeAt(index);
+    m_rows.remove(index);
     emit actionRemoved(action);
     emit changed();
 }
@@ -56,7 +57,8 @@ int RibbonCategoryAction::actionRow(RibbonAction *action) const
 {
     if (m_actions.isEmpty())
         return -1;
-    return m_rows.value(action, 0);
+    const int index = m_actions.indexOf(action);
+    return index < 0 ? 0 : m_rows.at(index);
 }
 
 void RibbonCategoryAction::actionChanged()
@@ -72,8 +74,12 @@ void RibbonCategoryAction::actionActivated()
 void RibbonCategoryAction::forgetAction(QObject *action)
 {
     // Its widgets have already dropped it, when QAction's destructor removed it.
-    if (RibbonAction *member = RibbonMembers::forget(m_actions, action))
-        m_rows.remove(member);
+    for (int i = m_actions.size() - 1; i >= 0; --i) {
+        if (static_cast<const QObject *>(m_actions.at(i)) == action) {
+            m_actions.removeAt(i);
+            m_rows.remove(i);
+        }
+    }
     RibbonMembers::announceLater(this, [this] { emit changed(); });
 }
 

@@ -3,7 +3,7 @@
 #include "RibbonAction.h"
 
 #include <QList>
-#include <QMap>
+#include <QVector>
 
 namespace zel {
 
@@ -37,7 +37,9 @@ private:
     void forgetAction(QObject *action);
 
     QList<RibbonAction*> m_actions;
-    QMap<RibbonAction*, int> m_rows;
+    // The row of each member, at the member's index in m_actions: a category holds a
+    // handful of members, and a map node per member would cost more than the search.
+    QVector<int> m_rows;
 };
 
 } // namespace zel

@@ -10,12 +10,12 @@
 #include "RibbonCatMenuButton.h"
 #include "RibbonImageRows_p.h"
 #include "RibbonPaint_p.h"
+#include "RibbonPlatform.h"
 #include "RibbonScreenTip_p.h"
 #include "RibbonStyle.h"
 
 #include <QAccessibleWidget>
 #include <QActionEvent>
-#include <QCursor>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
@@ -405,7 +405,7 @@ void RibbonCatActionGroupWidget::paintEvent(QPaintEvent *)
     const bool wide = group->isWide();
     const int cw = cellWidth();
     const int row = RibbonPaint::SmallRowHeight;
-    const QPoint cursor = mapFromGlobal(QCursor::pos());
+    const QPoint cursor = mapFromGlobal(RibbonPlatform::cursorPos());
     const bool mouseInside = underMouse();
     const bool groupEnabled = group->isEnabled();
 

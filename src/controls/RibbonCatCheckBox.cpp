@@ -2,6 +2,7 @@
 
 #include "RibbonApplication.h"
 #include "RibbonCatCheckBoxAction.h"
+#include "RibbonMetaMethod_p.h"
 #include "RibbonScale_p.h"
 #include "RibbonScreenTip_p.h"
 #include "RibbonStyle.h"
@@ -41,12 +42,22 @@ RibbonCatCheckBox::RibbonCatCheckBox(RibbonCatCheckBoxAction &action, QWidget *p
     });
 
     // The action takes the new state first so that every box shown for it follows,
-    // then announces the click.
-    connect(this, &QAbstractButton::clicked, &action, &QAction::setChecked);
-    connect(this, &QAbstractButton::clicked, &action, &QAction::triggered);
-    connect(&action, &QAction::toggled, this, &QAbstractButton::setChecked);
-    connect(&action, &RibbonCatCheckBoxAction::actionEnabled, this, &QWidget::setEnabled);
-    connect(&action, &QAction::changed, this, &RibbonCatCheckBox::onActionChanged);
+    // then announces the click. Between meta-methods: a connection to a function
+    // pointer would carry a slot object of its own, in every box.
+    static const QMetaMethod boxClicked = ribbonMetaMethod<QAbstractButton>("clicked(bool)");
+    static const QMetaMethod checkBox = ribbonMetaMethod<QAbstractButton>("setChecked(bool)");
+    static const QMetaMethod checkAction = ribbonMetaMethod<QAction>("setChecked(bool)");
+    static const QMetaMethod actionTriggered = ribbonMetaMethod<QAction>("triggered(bool)");
+    static const QMetaMethod actionToggled = ribbonMetaMethod<QAction>("toggled(bool)");
+    static const QMetaMethod actionEnabledChanged = ribbonMetaMethod<RibbonCatCheckBoxAction>("actionEnabled(bool)");
+    static const QMetaMethod enableBox = ribbonMetaMethod<QWidget>("setEnabled(bool)");
+    static const QMetaMethod actionChanged = ribbonMetaMethod<QAction>("changed()");
+    static const QMetaMethod followAction = ribbonMetaMethod<RibbonCatCheckBox>("onActionChanged()");
+    connect(this, boxClicked, &action, checkAction);
+    connect(this, boxClicked, &action, actionTriggered);
+    connect(&action, actionToggled, this, checkBox);
+    connect(&action, actionEnabledChanged, this, enableBox);
+    connect(&action, actionChanged, this, followAction);
 }
 
 RibbonCatCheckBox::~RibbonCatCheckBox() = default;

@@ -3,6 +3,7 @@
 #include "RibbonApplication.h"
 #include "RibbonCatSimpleAction.h"
 #include "RibbonImageRows_p.h"
+#include "RibbonMetaMethod_p.h"
 #include "RibbonPaint_p.h"
 #include "RibbonScale_p.h"
 #include "RibbonScreenTip_p.h"
@@ -48,8 +49,14 @@ RibbonCatSimpleButton::RibbonCatSimpleButton(RibbonCatSimpleAction &action, QWid
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setMouseTracking(true);
     setFocusPolicy(Qt::NoFocus);
-    connect(&action, &QAction::changed, this, QOverload<>::of(&QWidget::update));
-    connect(this, &QAbstractButton::clicked, &action, &QAction::trigger);
+    // Between meta-methods: a connection to a function pointer would carry a slot
+    // object of its own, in every button.
+    static const QMetaMethod actionChanged = ribbonMetaMethod<QAction>("changed()");
+    static const QMetaMethod repaint = ribbonMetaMethod<QWidget>("update()");
+    static const QMetaMethod buttonClicked = ribbonMetaMethod<QAbstractButton>("clicked(bool)");
+    static const QMetaMethod triggerAction = ribbonMetaMethod<QAction>("trigger()");
+    connect(&action, actionChanged, this, repaint);
+    connect(this, buttonClicked, &action, triggerAction);
 }
 
 RibbonCatSimpleButton::~RibbonCatSimpleButton() = default;

@@ -1,6 +1,9 @@
 #include "RibbonPlatform.h"
 
+#include <QCursor>
+#include <QEvent>
 #include <QGuiApplication>
+#include <QPointer>
 #include <QScreen>
 #include <QStyle>
 #include <QStyleFactory>
@@ -27,6 +30,76 @@ RibbonPlatform::SystemDragHandler &systemDragHandler()
 {
     static RibbonPlatform::SystemDragHandler handler;
     return handler;
+}
+
+// Keeps the cursor position through a run of paint events. While it holds a position it
+// watches the application's events and forgets the position at the first event that is
+// not part of painting: the cursor's movements reach the application as events, so a
+// paint pass sees where the cursor was when it began, as a run of queries would, and
+// whatever comes after it asks again.
+class CursorCache : public QObject
+{
+public:
+    QPoint pos()
+    {
+        if (!m_valid) {
+            m_pos = QCursor::pos();
+            m_valid = true;
+            QCoreApplication::instance()->installEventFilter(this);
+        }
+        return m_pos;
+    }
+
+    void forget()
+    {
+        m_valid = false;
+        QCoreApplication::instance()->removeEventFilter(this);
+    }
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        switch (event->type()) {
+        case QEvent::Paint:
+        case QEvent::UpdateRequest:
+        case QEvent::UpdateLater:
+            break;
+        default:
+            forget();
+            break;
+        }
+        return false;
+    }
+
+    // The application's cache, made on first use and owned by the application.
+    static CursorCache *instance()
+    {
+        static QPointer<CursorCache> cache;
+        if (!cache) {
+            cache = new CursorCache;
+            cache->setParent(QCoreApplication::instance());
+        }
+        return cache;
+    }
+
+private:
+    QPoint m_pos;
+    bool m_valid = false;
+};
+
+// Under X11 every QCursor::pos() is a round trip to the server; elsewhere the platform
+// knows the position (or, offscreen, is the position) and answering from a cache would
+// only risk missing a QCursor::setPos().
+bool cursorQueryIsRoundTrip()
+{
+    static const bool roundTrip = QGuiApplication::platformName() == QLatin1String("xcb");
+    return roundTrip;
+}
+
+// Set by tests: 1 keeps the cursor position, 0 always asks, -1 leaves it to the platform.
+int &cursorCachingOverride()
+{
+    static int keep = -1;
+    return keep;
 }
 
 } // namespace
@@ -143,6 +216,28 @@ bool RibbonPlatform::startSystemResize(QWidget *window, Qt::Edges edges)
 void RibbonPlatform::setSystemDragHandler(const SystemDragHandler &handler)
 {
     systemDragHandler() = handler;
+}
+
+QPoint RibbonPlatform::cursorPos()
+{
+    const int keep = cursorCachingOverride();
+    if (!QCoreApplication::instance() || keep == 0 || (keep < 0 && !cursorQueryIsRoundTrip()))
+        return QCursor::pos();
+    return CursorCache::instance()->pos();
+}
+
+void RibbonPlatform::setCursorPosCaching(bool keep)
+{
+    cursorCachingOverride() = keep ? 1 : 0;
+    if (QCoreApplication::instance())
+        CursorCache::instance()->forget();
+}
+
+void RibbonPlatform::resetCursorPosCaching()
+{
+    cursorCachingOverride() = -1;
+    if (QCoreApplication::instance())
+        CursorCache::instance()->forget();
 }
 
 void RibbonPlatform::bringToFront(QWidget *window)

@@ -70,6 +70,17 @@ public:
     using SystemDragHandler = std::function<bool(QWidget *window, Qt::Edges edges)>;
     static void setSystemDragHandler(const SystemDragHandler &handler);
 
+    // Where the mouse cursor is, in global coordinates, for painting a hover look.
+    // Where asking costs a round trip to a display server, the answer is kept while the
+    // application only paints, so that one pass over many widgets asks once; any other
+    // event (a mouse event among them) drops it. Elsewhere this is QCursor::pos().
+    static QPoint cursorPos();
+    // Makes cursorPos() keep its answer as it does under X11 (true) or always ask (false),
+    // whatever the platform, so that tests can watch the kept answer; the platform
+    // decides again after resetCursorPosCaching().
+    static void setCursorPosCaching(bool keep);
+    static void resetCursorPosCaching();
+
     // Raises the window above the others and gives it the input focus.
     static void bringToFront(QWidget *window);
 

@@ -21,11 +21,11 @@
 #include "RibbonCategoryAction.h"
 #include "RibbonCategoryLayout.h"
 #include "RibbonPaint_p.h"
+#include "RibbonPlatform.h"
 #include "RibbonScale_p.h"
 #include "RibbonStyle.h"
 
 #include <QActionEvent>
-#include <QCursor>
 #include <QPainter>
 #include <QPointer>
 
@@ -250,7 +250,7 @@ void RibbonCategory::resizeEvent(QResizeEvent *event)
 void RibbonCategory::paintEvent(QPaintEvent *)
 {
     const RibbonStyle &style = RibbonApplication::theApp().ribbonStyle();
-    const bool hovered = rect().contains(mapFromGlobal(QCursor::pos()));
+    const bool hovered = rect().contains(mapFromGlobal(RibbonPlatform::cursorPos()));
     QPainter painter(this);
 
     const QPixmap &top = style.categoryTop();

@@ -6,12 +6,12 @@
 #include "RibbonImageRows_p.h"
 #include "RibbonMenuBar.h"
 #include "RibbonPaint_p.h"
+#include "RibbonPlatform.h"
 #include "RibbonStyle.h"
 
 #include <QActionEvent>
 #include <QButtonGroup>
 #include <QCoreApplication>
-#include <QCursor>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QTimer>
@@ -181,7 +181,7 @@ void RibbonMenuBarButton::paintEvent(QPaintEvent *)
         }
     }
 
-    const bool hover = rect().contains(mapFromGlobal(QCursor::pos()));
+    const bool hover = rect().contains(mapFromGlobal(RibbonPlatform::cursorPos()));
     const bool checked = isChecked();
     using namespace RibbonImageRows;
     int row = NoRow;

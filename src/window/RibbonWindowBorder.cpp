@@ -166,9 +166,21 @@ void RibbonWindowBorder::BorderItem::place()
 
 void RibbonWindowBorder::BorderItem::syncVisibility()
 {
-    if (!pressed || !window->isVisible())
+    const bool shown = !closing && window->isVisible() && !(window->windowState() & Qt::WindowMinimized);
+    if (!pressed || !window->isVisible()) {
+        // An item that stays up is brought back in front by raising it and repainted,
+        // which is what hiding and showing it again comes to. Hiding would unmap a
+        // managed window: the window manager lets go of it and takes it in again, for
+        // all eight items at every activation of the application. An item that holds
+        // the activation still goes through hiding, which hands the activation on.
+        if (shown && isVisible() && !isActiveWindow()) {
+            raise();
+            update();
+            return;
+        }
         hide();
-    if (!closing && window->isVisible() && !(window->windowState() & Qt::WindowMinimized))
+    }
+    if (shown)
         show();
 }
 
